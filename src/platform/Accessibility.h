@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "platform/AccessibilityElement.h"
+
+namespace tovrel {
+
+/// The door to other applications' user interfaces.
+class Accessibility {
+  public:
+    virtual ~Accessibility() = default;
+
+    /// Whether this process may read and press other applications' menus.
+    [[nodiscard]] virtual bool isTrusted() = 0;
+
+    /// The root element of a running application, whose "AXMenuBar" is its menu bar. Each call reads the
+    /// application anew. Null when no such application can be reached.
+    [[nodiscard]] virtual std::shared_ptr<AccessibilityElement>
+    applicationElement(std::int32_t processIdentifier) = 0;
+};
+
+} // namespace tovrel

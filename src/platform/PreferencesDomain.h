@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// Raw bytes as a preference value; the stores keep UTF-8 JSON documents in it.
+struct PreferenceData {
+    std::string bytes;
+
+    friend bool operator==(const PreferenceData&, const PreferenceData&) = default;
+};
+
+/// A typed preference value.
+using PreferenceValue = std::variant<PreferenceData, Text, bool>;
+
+/// The user's persistent key-value store.
+///
+/// When `set` or `remove` returns true the change is on disk and survives the kill of the process and a loss
+/// of power. Several processes may read and write one domain at once. Keys are compared byte by byte.
+class PreferencesDomain {
+  public:
+    virtual ~PreferencesDomain() = default;
+
+    /// The value under the key, of whichever type; absent when there is none.
+    [[nodiscard]] virtual std::optional<PreferenceValue> value(const std::string& key) = 0;
+
+    /// Stores the value, replacing any other. False when it could not be stored: the value before stays.
+    virtual bool set(const std::string& key, const PreferenceValue& value) = 0;
+
+    /// Removes the value, if any. False when that could not be stored: the value before stays.
+    virtual bool remove(const std::string& key) = 0;
+
+    /// Every key with its value, ordered by key.
+    [[nodiscard]] virtual std::vector<std::pair<std::string, PreferenceValue>> all() = 0;
+
+    /// A number that differs from the one before whenever any value may have changed since, whether through
+    /// this object or another process. Cheap next to reading a large value.
+    [[nodiscard]] virtual std::uint64_t revision() = 0;
+};
+
+/// The bytes under the key; absent when there is no value or one of another type.
+std::optional<std::string> dataValue(PreferencesDomain& domain, const std::string& key);
+
+} // namespace tovrel

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "support/PointInTime.h"
+#include "support/Text.h"
+
+/// JSON documents as this program reads and writes them: compact UTF-8, absent optionals left out, unknown
+/// members ignored, a value of the wrong type spoils the whole document.
+namespace tovrel::json {
+
+using Value = nlohmann::json;
+
+/// Why a document could not be decoded. Thrown inside decoders only; `decodeDocument` is where it ends.
+class DecodeError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Arrays and objects may be nested this deep; deeper documents are refused before anything recurses on them.
+inline constexpr int maximumDepth = 512;
+
+/// The parsed document, a fragment such as a bare string included.
+/// Throws DecodeError: not JSON, not UTF-8, or nested deeper than `maximumDepth`.
+Value parse(std::string_view bytes);
+
+/// Typed reads. Each throws DecodeError when the value has another type. An integer may be written with a
+/// fraction or exponent as long as it is integral and fits (3.0, 1e3); true and false are not numbers.
+Text textFrom(const Value& value);
+std::int64_t integerFrom(const Value& value);
+bool booleanFrom(const Value& value);
+PointInTime pointInTimeFrom(const Value& value);
+std::vector<Text> textsFrom(const Value& value);
+
+/// The member of an object; throws DecodeError when `object` is no object or has no such member.
+const Value& member(const Value& object, const char* name);
+
+/// The member of an object, or null when it is missing or the JSON null. Throws when `object` is no object.
+const Value* optionalMember(const Value& object, const char* name);
+
+/// An optional text member: absent when missing or null.
+std::optional<Text> optionalTextMember(const Value& object, const char* name);
+
+/// Throws DecodeError unless the value is an array, respectively an object.
+const Value& requireArray(const Value& value);
+const Value& requireObject(const Value& value);
+
+Value toJson(const Text& text);
+Value toJson(const std::vector<Text>& texts);
+/// A whole number of seconds is written without a fraction. Not a finite time: throws EncodeError.
+Value toJson(PointInTime time);
+
+/// Why a value has no JSON form.
+class EncodeError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The compact bytes of a value.
+std::string dump(const Value& value);
+
+/// Parses and decodes a document; absent when either fails. `decode` may throw DecodeError.
+template <typename Decode>
+auto decodeDocument(std::string_view bytes, const Decode& decode)
+    -> std::optional<decltype(decode(Value()))> {
+    try {
+        return decode(parse(bytes));
+    } catch (const DecodeError&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace tovrel::json

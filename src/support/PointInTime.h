@@ -1,0 +1,22 @@
+#pragma once
+
+#include <compare>
+
+namespace tovrel {
+
+/// A point in time: seconds, with fraction, since 2001-01-01 00:00:00 UTC, negative before.
+struct PointInTime {
+    double secondsSinceReferenceDate = 0;
+
+    friend auto operator<=>(const PointInTime&, const PointInTime&) = default;
+};
+
+/// Seconds from `earlier` to `later`; negative when the order is the other way round.
+inline double secondsBetween(PointInTime earlier, PointInTime later) {
+    return later.secondsSinceReferenceDate - earlier.secondsSinceReferenceDate;
+}
+
+/// The system clock's time. Only the composition root reads it; everything else is handed its "now".
+PointInTime currentTime();
+
+} // namespace tovrel

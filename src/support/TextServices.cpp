@@ -1,0 +1,205 @@
+#include "support/TextServices.h"
+
+#include <optional>
+
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
+#include <unicode/coll.h>
+#include <unicode/locid.h>
+#include <unicode/normalizer2.h>
+#include <unicode/translit.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+#include <unicode/uscript.h>
+#include <unicode/utf16.h>
+
+#include "support/Fatal.h"
+#include "support/Utf8.h"
+
+namespace tovrel {
+namespace {
+
+icu::UnicodeString utf16From(std::string_view utf8) {
+    return icu::UnicodeString::fromUTF8({utf8.data(), static_cast<std::int32_t>(utf8.size())});
+}
+
+std::string utf8From(const icu::UnicodeString& utf16) {
+    std::string utf8;
+    utf16.toUTF8String(utf8);
+    return utf8;
+}
+
+char asciiLower(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+}
+
+char asciiUpper(char byte) {
+    return byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 'a' + 'A') : byte;
+}
+
+template <typename Map>
+std::string mapped(std::string_view text, const Map& map) {
+    std::string result(text);
+    for (char& byte : result) {
+        byte = map(byte);
+    }
+    return result;
+}
+
+bool isMark(UChar32 codePoint) {
+    return (U_GET_GC_MASK(codePoint) & U_GC_M_MASK) != 0;
+}
+
+UScriptCode scriptOf(UChar32 codePoint) {
+    UErrorCode status = U_ZERO_ERROR;
+    return uscript_getScript(codePoint, &status);
+}
+
+/// The scripts whose letters lose their diacritics when folded.
+bool hasRemovableDiacritics(UChar32 base) {
+    const UScriptCode script = scriptOf(base);
+    return script == USCRIPT_LATIN || script == USCRIPT_GREEK || script == USCRIPT_CYRILLIC;
+}
+
+/// Drops the marks that follow a Latin, Greek or Cyrillic letter; `decomposed` is in form D.
+icu::UnicodeString withoutDiacritics(const icu::UnicodeString& decomposed) {
+    icu::UnicodeString result;
+    bool dropsMarks = false;
+    for (std::int32_t i = 0; i < decomposed.length();) {
+        const UChar32 codePoint = decomposed.char32At(i);
+        i += U16_LENGTH(codePoint);
+        if (!isMark(codePoint)) {
+            dropsMarks = hasRemovableDiacritics(codePoint);
+        } else if (dropsMarks) {
+            continue;
+        }
+        result.append(codePoint);
+    }
+    return result;
+}
+
+icu::Locale localeNamed(std::string_view identifier) {
+    if (identifier.empty()) {
+        return icu::Locale::getDefault();
+    }
+    return icu::Locale::createCanonical(std::string(identifier).c_str());
+}
+
+bool keepsDottedAndDotlessIApart(const icu::Locale& locale) {
+    const std::string_view language = locale.getLanguage();
+    return language == "tr" || language == "az";
+}
+
+} // namespace
+
+struct TextServices::Implementation {
+    explicit Implementation(std::string_view localeIdentifier)
+        : locale(localeNamed(localeIdentifier)), turkic(keepsDottedAndDotlessIApart(locale)) {
+        UErrorCode status = U_ZERO_ERROR;
+        formC = icu::Normalizer2::getNFCInstance(status);
+        formD = icu::Normalizer2::getNFDInstance(status);
+        collator.reset(icu::Collator::createInstance(locale, status));
+        if (U_FAILURE(status)) {
+            fatal("the Unicode data of the ICU library is missing");
+        }
+        collator->setStrength(icu::Collator::SECONDARY);
+        collator->setAttribute(UCOL_NORMALIZATION_MODE, UCOL_ON, status);
+    }
+
+    icu::Locale locale;
+    bool turkic;
+    const icu::Normalizer2* formC = nullptr;
+    const icu::Normalizer2* formD = nullptr;
+    std::unique_ptr<icu::Collator> collator;
+    /// Opened on first use; null inside when it cannot be.
+    std::optional<std::unique_ptr<icu::Transliterator>> toLatin;
+};
+
+TextServices::TextServices(std::string_view localeIdentifier)
+    : implementation_(std::make_unique<Implementation>(localeIdentifier)) {}
+
+TextServices::~TextServices() = default;
+
+std::string TextServices::folded(std::string_view text) const {
+    if (isAscii(text) && !implementation_->turkic) {
+        return mapped(text, asciiLower);
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    // Composed first: a decomposed İ must fold as the letter it is, not as an I with a mark.
+    icu::UnicodeString folded = implementation_->formC->normalize(utf16From(text), status);
+    folded.foldCase(implementation_->turkic ? U_FOLD_CASE_EXCLUDE_SPECIAL_I : U_FOLD_CASE_DEFAULT);
+    const icu::UnicodeString stripped = withoutDiacritics(implementation_->formD->normalize(folded, status));
+    const icu::UnicodeString result = implementation_->formC->normalize(stripped, status);
+    if (U_FAILURE(status)) {
+        fatal("out of memory while folding a text");
+    }
+    return utf8From(result);
+}
+
+std::string TextServices::lowercased(std::string_view text) const {
+    if (isAscii(text)) {
+        return mapped(text, asciiLower);
+    }
+    return utf8From(utf16From(text).toLower(icu::Locale::getRoot()));
+}
+
+std::string TextServices::uppercased(std::string_view text) const {
+    if (isAscii(text)) {
+        return mapped(text, asciiUpper);
+    }
+    return utf8From(utf16From(text).toUpper(icu::Locale::getRoot()));
+}
+
+bool TextServices::hasNonLatinScript(std::string_view text) {
+    if (isAscii(text)) {
+        return false;
+    }
+    for (std::size_t position = 0; position < text.size();) {
+        const UScriptCode script = scriptOf(static_cast<UChar32>(nextCodePoint(text, position)));
+        if (script != USCRIPT_LATIN && script != USCRIPT_COMMON && script != USCRIPT_INHERITED) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string TextServices::transliteratedToLatin(std::string_view text) const {
+    auto& toLatin = implementation_->toLatin;
+    if (!toLatin) {
+        UErrorCode status = U_ZERO_ERROR;
+        toLatin.emplace(icu::Transliterator::createInstance("Any-Latin", UTRANS_FORWARD, status));
+        if (U_FAILURE(status)) {
+            toLatin->reset();
+        }
+    }
+    if (!*toLatin) {
+        return {};
+    }
+    icu::UnicodeString utf16 = utf16From(text);
+    (*toLatin)->transliterate(utf16);
+    return utf8From(utf16);
+}
+
+bool TextServices::isOrderedBefore(const Text& left, const Text& right) const {
+    UErrorCode status = U_ZERO_ERROR;
+    const auto piece = [](const Text& text) {
+        return icu::StringPiece(text.view().data(), static_cast<std::int32_t>(text.view().size()));
+    };
+    return implementation_->collator->compareUTF8(piece(left), piece(right), status) == UCOL_LESS;
+}
+
+std::string TextServices::collationKey(const Text& text) const {
+    const icu::UnicodeString utf16 = utf16From(text.view());
+    std::string key(64, '\0');
+    for (;;) {
+        const auto capacity = static_cast<std::int32_t>(key.size());
+        const std::int32_t size = implementation_->collator->getSortKey(
+            utf16, reinterpret_cast<std::uint8_t*>(key.data()), capacity);
+        key.resize(static_cast<std::size_t>(size));
+        if (size <= capacity) {
+            return key;
+        }
+    }
+}
+
+} // namespace tovrel

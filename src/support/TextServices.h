@@ -1,0 +1,52 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// What the program needs of Unicode and of the user's locale: folding, case mapping, transliteration and the
+/// order in which titles are shown. Built once by the composition root, because the transliterator and the
+/// collator are costly to open (tens of milliseconds); used from one thread.
+class TextServices {
+  public:
+    /// For a locale such as "de_DE", "tr" or "sr-Latn"; an empty identifier takes the process environment's.
+    /// An unknown locale behaves as the root locale does.
+    explicit TextServices(std::string_view localeIdentifier = {});
+    ~TextServices();
+    TextServices(const TextServices&) = delete;
+    TextServices& operator=(const TextServices&) = delete;
+
+    /// The text without case distinctions and without the diacritics of Latin, Greek and Cyrillic letters;
+    /// vowel signs, voicing marks and the like of other scripts stay. Case folds by the Unicode default full
+    /// folding, in Turkish and Azerbaijani with the dotted and the dotless i kept apart.
+    [[nodiscard]] std::string folded(std::string_view text) const;
+
+    /// Unicode default lower-casing, the same in every locale.
+    [[nodiscard]] std::string lowercased(std::string_view text) const;
+
+    /// Unicode default upper-casing of the whole string, the same in every locale.
+    [[nodiscard]] std::string uppercased(std::string_view text) const;
+
+    /// Whether transliteration to Latin can change the text at all: it holds a letter of another script.
+    [[nodiscard]] static bool hasNonLatinScript(std::string_view text);
+
+    /// The text of any script in Latin letters (ICU's Any-Latin), e.g. "Файл" as "Fajl". Empty when the
+    /// transliteration is not to be had. The result is undefined in case and keeps diacritics.
+    [[nodiscard]] std::string transliteratedToLatin(std::string_view text) const;
+
+    /// Whether `left` is shown strictly before `right`: case-insensitive, by the locale's rules.
+    [[nodiscard]] bool isOrderedBefore(const Text& left, const Text& right) const;
+
+    /// Bytes whose order (as unsigned bytes) is that of `isOrderedBefore`; equal when neither comes first.
+    [[nodiscard]] std::string collationKey(const Text& text) const;
+
+  private:
+    struct Implementation;
+    std::unique_ptr<Implementation> implementation_;
+};
+
+} // namespace tovrel
