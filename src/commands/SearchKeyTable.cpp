@@ -64,7 +64,7 @@ std::string_view SearchKeyTable::bytesOf(const Key& key) const {
     return std::string_view(bytes_).substr(key.start, key.size);
 }
 
-std::u32string SearchKeyTable::internedSymbols(const std::string& key) {
+std::u32string SearchKeyTable::internedSymbols(std::string_view key) {
     std::u32string symbols;
     for (const std::string_view cluster : textServices_->graphemeClusters(key)) {
         if (cluster.size() == 1) {
@@ -75,12 +75,6 @@ std::u32string SearchKeyTable::internedSymbols(const std::string& key) {
         symbols += symbolOfCluster_.try_emplace(std::string(cluster), next).first->second;
     }
     return symbols;
-}
-
-/// Also by grapheme clusters: the last cluster of the shorter one must not be longer in the other.
-bool SearchKeyTable::isStartOf(const std::string& shorter, const std::string& longer) {
-    return longer.starts_with(shorter) &&
-           (isAscii(longer) || internedSymbols(longer).starts_with(internedSymbols(shorter)));
 }
 
 void SearchKeyTable::add(const CommandKeys& keys) {
@@ -96,51 +90,49 @@ void SearchKeyTable::add(const CommandKeys& keys) {
     rows_.push_back({firstKey, static_cast<std::uint32_t>(keys_.size()) - firstKey});
 }
 
-void SearchKeyTable::addKeys(std::vector<std::string> keys, bool isAlias) {
-    std::stable_sort(keys.begin(), keys.end(), [](const std::string& left, const std::string& right) {
-        return left.size() > right.size();
-    });
+void SearchKeyTable::addKeys(const std::vector<std::string>& keys, bool isAlias) {
+    std::vector<std::string_view> longestFirst(keys.begin(), keys.end());
+    std::stable_sort(
+        longestFirst.begin(), longestFirst.end(),
+        [](std::string_view left, std::string_view right) { return left.size() > right.size(); });
 
-    struct Kept {
-        const std::string* key;
-        std::vector<std::uint32_t> exactSizes;
-        bool isInsideAnother;
-    };
-    std::vector<Kept> kept;
-    for (const std::string& key : keys) {
-        const auto longer = std::find_if(kept.begin(), kept.end(),
-                                         [&](const Kept& other) { return isStartOf(key, *other.key); });
+    std::vector<NewKey> kept;
+    for (const std::string_view key : longestFirst) {
+        NewKey added{.bytes = key,
+                     .symbols = isAscii(key) ? std::u32string() : internedSymbols(key),
+                     .exactSizes = {static_cast<std::uint32_t>(key.size())}};
+        // By grapheme clusters too: the last one of the shorter key must not go on in the longer one.
+        const auto longer = std::find_if(kept.begin(), kept.end(), [&](const NewKey& other) {
+            return other.bytes.starts_with(key) &&
+                   (other.symbols.empty() ||
+                    other.symbols.starts_with(added.symbols.empty() ? internedSymbols(key) : added.symbols));
+        });
         if (longer != kept.end()) {
-            longer->exactSizes.push_back(static_cast<std::uint32_t>(key.size()));
+            longer->exactSizes.push_back(added.exactSizes.front());
             continue;
         }
-        const bool isInside = std::any_of(kept.begin(), kept.end(), [&](const Kept& other) {
-            return other.key->find(key) != std::string::npos;
+        added.isInsideAnother = std::any_of(kept.begin(), kept.end(), [&](const NewKey& other) {
+            return other.bytes.find(key) != std::string_view::npos;
         });
-        kept.push_back({&key, {static_cast<std::uint32_t>(key.size())}, isInside});
+        kept.push_back(std::move(added));
     }
-    for (const Kept& each : kept) {
-        addKey(*each.key, each.exactSizes, isAlias, each.isInsideAnother);
+    for (const NewKey& key : kept) {
+        store(key, isAlias);
     }
 }
 
-void SearchKeyTable::addKey(const std::string& key, const std::vector<std::uint32_t>& exactSizes,
-                            bool isAlias, bool isInsideAnother) {
-    Key record{.start = static_cast<std::uint32_t>(bytes_.size()),
-               .size = static_cast<std::uint32_t>(key.size()),
-               .firstExactSize = static_cast<std::uint32_t>(exactSizes_.size()),
-               .exactSizeCount = static_cast<std::uint32_t>(exactSizes.size()),
-               .isAlias = isAlias,
-               .isInsideAnother = isInsideAnother};
-    bytes_ += key;
-    exactSizes_.insert(exactSizes_.end(), exactSizes.begin(), exactSizes.end());
-    if (!isAscii(key)) {
-        const std::u32string symbols = internedSymbols(key);
-        record.firstSymbol = static_cast<std::uint32_t>(symbols_.size());
-        record.symbolCount = static_cast<std::uint32_t>(symbols.size());
-        symbols_ += symbols;
-    }
-    keys_.push_back(record);
+void SearchKeyTable::store(const NewKey& key, bool isAlias) {
+    keys_.push_back({.start = static_cast<std::uint32_t>(bytes_.size()),
+                     .size = static_cast<std::uint32_t>(key.bytes.size()),
+                     .firstSymbol = static_cast<std::uint32_t>(symbols_.size()),
+                     .symbolCount = static_cast<std::uint32_t>(key.symbols.size()),
+                     .firstExactSize = static_cast<std::uint32_t>(exactSizes_.size()),
+                     .exactSizeCount = static_cast<std::uint32_t>(key.exactSizes.size()),
+                     .isAlias = isAlias,
+                     .isInsideAnother = key.isInsideAnother});
+    bytes_ += key.bytes;
+    symbols_ += key.symbols;
+    exactSizes_.insert(exactSizes_.end(), key.exactSizes.begin(), key.exactSizes.end());
 }
 
 SearchQuery SearchKeyTable::prepare(std::string key) const {

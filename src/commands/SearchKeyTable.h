@@ -83,11 +83,17 @@ class SearchKeyTable {
         std::uint32_t keyCount = 0;
     };
 
-    void addKeys(std::vector<std::string> keys, bool isAlias);
-    void addKey(const std::string& key, const std::vector<std::uint32_t>& exactSizes, bool isAlias,
-                bool isInsideAnother);
-    std::u32string internedSymbols(const std::string& key);
-    [[nodiscard]] bool isStartOf(const std::string& shorter, const std::string& longer);
+    /// A key on its way into the table.
+    struct NewKey {
+        std::string_view bytes;
+        std::u32string symbols; ///< Empty for a key of ASCII.
+        std::vector<std::uint32_t> exactSizes;
+        bool isInsideAnother = false;
+    };
+
+    void addKeys(const std::vector<std::string>& keys, bool isAlias);
+    void store(const NewKey& key, bool isAlias);
+    [[nodiscard]] std::u32string internedSymbols(std::string_view key);
     [[nodiscard]] std::string_view bytesOf(const Key& key) const;
     [[nodiscard]] bool isExact(const Key& key, std::size_t size) const;
     [[nodiscard]] bool looselyContains(const Key& key, const SearchQuery& query) const;

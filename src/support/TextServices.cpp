@@ -78,6 +78,27 @@ icu::UnicodeString withoutDiacritics(const icu::UnicodeString& decomposed) {
     return result;
 }
 
+/// The clusters of a text in which every code point is one, as in nearly all; absent when it may not be so.
+std::optional<std::vector<std::string_view>> simpleClusters(std::string_view text) {
+    std::vector<std::string_view> clusters;
+    clusters.reserve(text.size());
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t start = position;
+        const auto codePoint = static_cast<UChar32>(nextCodePoint(text, position));
+        // Whole Hangul syllables stand alone as long as no single jamo follows.
+        switch (u_getIntPropertyValue(codePoint, UCHAR_GRAPHEME_CLUSTER_BREAK)) {
+        case U_GCB_OTHER:
+        case U_GCB_LV:
+        case U_GCB_LVT:
+            clusters.push_back(text.substr(start, position - start));
+            break;
+        default:
+            return std::nullopt;
+        }
+    }
+    return clusters;
+}
+
 icu::Locale localeNamed(std::string_view identifier) {
     if (identifier.empty()) {
         return icu::Locale::getDefault();
@@ -183,6 +204,9 @@ std::optional<std::string> TextServices::transliteratedToLatin(std::string_view 
 }
 
 std::vector<std::string_view> TextServices::graphemeClusters(std::string_view text) const {
+    if (std::optional<std::vector<std::string_view>> simple = simpleClusters(text)) {
+        return *std::move(simple);
+    }
     UErrorCode status = U_ZERO_ERROR;
     UText opened = UTEXT_INITIALIZER;
     utext_openUTF8(&opened, text.data(), static_cast<std::int64_t>(text.size()), &status);
