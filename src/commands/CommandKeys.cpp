@@ -57,7 +57,7 @@ bool isWordwise(std::string_view text) {
     return true;
 }
 
-/// Whether the first character of a key may compose with one before it.
+/// Whether the first character of a key can not compose with one before it.
 bool startsFresh(std::string_view key) {
     if (key.empty() || static_cast<unsigned char>(key.front()) < 0x80) {
         return true;
