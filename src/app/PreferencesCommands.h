@@ -29,8 +29,8 @@ struct NewValue {
 /// `write KEY`: stores a value under a key, which must be UTF-8.
 int write(PreferencesDomain& domain, const std::string& key, const NewValue& value, std::ostream& error);
 
-/// `delete KEY`: fails when there is no value under the key.
-int remove(PreferencesDomain& domain, const std::string& key, std::ostream& error);
+/// `delete KEY`: removes the value under the key, if any.
+int remove(PreferencesDomain& domain, const std::string& key);
 
 /// `list`: key, type and size in bytes of every value, in columns; as JSON an array of objects with the
 /// members "key", "type" and "size".

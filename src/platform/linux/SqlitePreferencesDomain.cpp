@@ -116,11 +116,11 @@ bool SqlitePreferencesDomain::set(const std::string& key, const PreferenceValue&
 }
 
 bool SqlitePreferencesDomain::setAll(const std::vector<std::pair<std::string, PreferenceValue>>& values) {
-    return write([&](sqlite::Connection& connection) {
-        for (const auto& [key, value] : values) {
-            store(connection, key, value);
-        }
-    });
+    return values.empty() || write([&](sqlite::Connection& connection) {
+               for (const auto& [key, value] : values) {
+                   store(connection, key, value);
+               }
+           });
 }
 
 bool SqlitePreferencesDomain::remove(const std::string& key) {
@@ -173,7 +173,7 @@ void SqlitePreferencesDomain::writeLocked(const std::function<void(sqlite::Conne
         requireUsable();
     }
     connection_->execute("PRAGMA synchronous = EXTRA");
-    sqlite::WriteTransaction transaction(*connection_);
+    sqlite::Transaction transaction(*connection_, sqlite::Transaction::Kind::write);
     // Looked at again now that nobody else can write: another process may just have created the table, or a
     // later version of the program changed it.
     state_ = preferences_schema::stateOf(*connection_);
@@ -242,6 +242,7 @@ bool SqlitePreferencesDomain::open() {
     sqlite::Connection connection(file_);
     state_ = State::damaged;
     try {
+        const sqlite::Transaction transaction(connection, sqlite::Transaction::Kind::read);
         // The version comes first: a change made after it is noticed by the next operation.
         dataVersion_ = connection.integerOf("PRAGMA data_version");
         const State state = preferences_schema::stateOf(connection);
@@ -277,6 +278,7 @@ bool SqlitePreferencesDomain::bringUpToDate() {
     } else if (const std::int64_t now = connection_->integerOf("PRAGMA data_version"); now != dataVersion_) {
         dataVersion_ = now;
         ++revision_;
+        const sqlite::Transaction transaction(*connection_, sqlite::Transaction::Kind::read);
         state_ = preferences_schema::stateOf(*connection_);
     }
     requireUsable();
