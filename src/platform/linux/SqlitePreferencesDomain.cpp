@@ -15,12 +15,6 @@ namespace {
 
 using preferences_schema::State;
 
-/// A file that must not be used; `what` completes "cannot read the preferences in …: ".
-class Unusable : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
 /// The open file is damaged and is to be set aside.
 class Damaged : public std::exception {};
 
@@ -109,7 +103,7 @@ std::vector<std::pair<std::string, PreferenceValue>> SqlitePreferencesDomain::al
 bool SqlitePreferencesDomain::set(const std::string& key, const PreferenceValue& value) {
     return write([&](sqlite::Connection& connection) {
         if (unreadKeys_.contains(key)) {
-            throw Unusable("the value under \"" + key + "\" could not be read, so it is kept");
+            throw std::runtime_error("the value under \"" + key + "\" could not be read, so it is kept");
         }
         store(connection, key, value);
     });
@@ -205,18 +199,15 @@ bool SqlitePreferencesDomain::attempt(Access access, const Operation& operation)
                 reason = error.reason();
                 break;
             }
-        } catch (const Unusable& error) {
+        } catch (const std::runtime_error& error) {
             reason = error.what();
-            break;
-        } catch (const std::system_error& error) {
-            reason = error.code().message();
             break;
         }
         if (isDamaged) {
             try {
                 setDamagedFileAside();
-            } catch (const std::system_error& error) {
-                reason = "it is damaged and cannot be set aside: " + error.code().message();
+            } catch (const std::runtime_error& error) {
+                reason = std::string("it is damaged and cannot be set aside: ") + error.what();
                 break;
             }
         }
@@ -237,7 +228,7 @@ bool SqlitePreferencesDomain::open() {
         throw std::system_error(errno, std::generic_category());
     }
     if (!S_ISREG(status.st_mode)) {
-        throw Unusable("it is not a regular file");
+        throw std::runtime_error("it is not a regular file");
     }
     sqlite::Connection connection(file_);
     state_ = State::damaged;
@@ -291,9 +282,9 @@ void SqlitePreferencesDomain::requireUsable() const {
     case State::current:
         return;
     case State::newer:
-        throw Unusable("a later version of this program wrote it");
+        throw std::runtime_error("a later version of this program wrote it");
     case State::foreign:
-        throw Unusable("it is the database of another program");
+        throw std::runtime_error("it is the database of another program");
     case State::damaged:
         throw Damaged();
     }
