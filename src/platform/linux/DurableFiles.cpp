@@ -55,7 +55,7 @@ std::filesystem::path freeNameFor(const std::filesystem::path& database) {
     const std::filesystem::path name = withSuffix(database, ".damaged-" + timeStamp());
     std::filesystem::path candidate = name;
     for (int number = 2; !isFree(candidate); ++number) {
-        candidate = withSuffix(name, "." + std::to_string(number));
+        candidate = withSuffix(withSuffix(name, "."), std::to_string(number));
     }
     return candidate;
 }

@@ -19,10 +19,11 @@ class DamagedPreferences : public PreferencesFixture {
   protected:
     /// Several pages, so that single ones can be damaged.
     void writeSoundFile() {
-        SqlitePreferencesDomain domain = makeDomain();
+        std::vector<std::pair<std::string, PreferenceValue>> values;
         for (int i = 0; i < 100; ++i) {
-            ASSERT_TRUE(domain.set("key" + std::to_string(i), PreferenceData{std::string(1000, 'x')}));
+            values.emplace_back("key" + std::to_string(i), PreferenceData{std::string(1000, 'x')});
         }
+        ASSERT_TRUE(makeDomain().setAll(values));
     }
 
     void overwrite(std::streamoff position, const std::string& bytes) const {
