@@ -47,7 +47,7 @@ std::string timeStamp() {
     std::tm parts{};
     gmtime_r(&now, &parts);
     std::array<char, sizeof "20260131T120000Z"> text{};
-    std::strftime(text.data(), text.size(), "%Y%m%dT%H%M%SZ", &parts);
+    static_cast<void>(std::strftime(text.data(), text.size(), "%Y%m%dT%H%M%SZ", &parts));
     return text.data();
 }
 

@@ -17,11 +17,20 @@ using testing::SizeIs;
 
 class DamagedPreferences : public PreferencesFixture {
   protected:
+    const std::string garbage = std::string(16384, '\xA5'); // four pages
+
+    void emptyTheDirectory() const {
+        for (const auto& entry : std::filesystem::directory_iterator(directory())) {
+            std::filesystem::remove(entry);
+        }
+    }
+
     /// Several pages, so that single ones can be damaged.
     void writeSoundFile() {
-        std::vector<std::pair<std::string, PreferenceValue>> values;
-        for (int i = 0; i < 100; ++i) {
-            values.emplace_back("key" + std::to_string(i), PreferenceData{std::string(1000, 'x')});
+        std::vector<std::pair<std::string, PreferenceValue>> values(
+            100, {"", PreferenceData{std::string(1000, 'x')}});
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            values[i].first = "key" + std::to_string(i);
         }
         ASSERT_TRUE(makeDomain().setAll(values));
     }
@@ -56,8 +65,7 @@ TEST_F(DamagedPreferences, AreSetAsideWhateverTheDamageAndTheFirstOperation) {
         return std::string(sound).replace(position, bytes.size(), bytes);
     };
     const std::vector<std::string> damaged{
-        "not a database, but long enough to be taken for one by its size alone "
-        "..............................",
+        "not a database, whatever its name says",
         std::string(8192, '\0'),
         "xy",
         cut(50),
@@ -69,9 +77,7 @@ TEST_F(DamagedPreferences, AreSetAsideWhateverTheDamageAndTheFirstOperation) {
     };
     for (const std::string& bytes : damaged) {
         for (int operation = 0; operation < 5; ++operation) {
-            for (const auto& entry : std::filesystem::directory_iterator(directory())) {
-                std::filesystem::remove(entry);
-            }
+            emptyTheDirectory();
             reports.clear();
             writeFile(bytes);
             SqlitePreferencesDomain domain = makeDomain();
@@ -103,7 +109,7 @@ TEST_F(DamagedPreferences, AreNoticedWhileTheFileIsOpen) {
     SqlitePreferencesDomain domain = makeDomain();
     EXPECT_TRUE(domain.value("key1"));
     const std::uint64_t revision = domain.revision();
-    overwrite(0, std::string(4096 * 4, '\xA5'));
+    overwrite(0, garbage);
     const std::string damaged = bytesOf(file());
     EXPECT_EQ(domain.value("key1"), std::nullopt);
     EXPECT_NE(domain.revision(), revision);
@@ -170,11 +176,10 @@ TEST_F(DamagedPreferences, FoundByManyProcessesAtOnceAreSetAsideOnceAndNoWriteIs
     constexpr int rounds = 20;
     constexpr int processes = 6;
     for (int round = 0; round < rounds; ++round) {
-        for (const auto& entry : std::filesystem::directory_iterator(directory())) {
-            std::filesystem::remove(entry);
-        }
+        emptyTheDirectory();
         writeSoundFile();
         std::vector<ChildProcess> children;
+        children.reserve(processes);
         Barrier damageDone;
         Barrier ready;
         for (int i = 0; i < processes; ++i) {
@@ -189,7 +194,7 @@ TEST_F(DamagedPreferences, FoundByManyProcessesAtOnceAreSetAsideOnceAndNoWriteIs
             });
         }
         ready.wait(processes);
-        overwrite(0, std::string(4096 * 4, '\xA5'));
+        overwrite(0, garbage);
         const std::string damaged = bytesOf(file());
         damageDone.pass(processes);
         for (ChildProcess& child : children) {
