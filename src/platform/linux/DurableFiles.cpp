@@ -91,7 +91,7 @@ void createPrivateDirectory(const std::filesystem::path& directory) {
     }
     if (mkdir(directory.c_str(), S_IRWXU) == 0) {
         syncDirectory(parent);
-    } else if (errno != EEXIST || !std::filesystem::is_directory(directory, ignored)) {
+    } else if (errno != EEXIST) {
         throwSystemError();
     }
 }
