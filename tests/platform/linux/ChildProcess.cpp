@@ -1,46 +1,98 @@
-#include "ChildProcess.h"
+#include "platform/linux/ChildProcess.h"
 
-#include <algorithm>
 #include <array>
-#include <csignal>
-#include <iterator>
-#include <spawn.h>
+#include <cerrno>
+#include <cstdlib>
+#include <system_error>
 #include <unistd.h>
+#include <utility>
 
 #include <sys/wait.h>
 
 namespace tovrel {
+namespace {
 
-ChildProcess::ChildProcess(std::vector<std::string> arguments) {
-    std::array<int, 2> ends{};
-    if (pipe(ends.data()) != 0) {
-        return;
+void require(bool condition, const char* what) {
+    if (!condition) {
+        throw std::system_error(errno, std::generic_category(), what);
     }
-    for (std::string& argument : arguments) {
-        if (const auto place = argument.find("{fd}"); place != std::string::npos) {
-            argument.replace(place, 4, std::to_string(ends[1]));
-        }
-    }
-    std::vector<char*> words;
-    std::transform(arguments.begin(), arguments.end(), std::back_inserter(words),
-                   [](std::string& argument) { return argument.data(); });
-    words.push_back(nullptr);
-    if (posix_spawnp(&process_, words[0], nullptr, nullptr, words.data(), environ) != 0) {
-        process_ = -1;
-    }
-    close(ends[1]);
-    char byte = '\0';
-    while (read(ends[0], &byte, 1) == 1 && byte != '\n') {
-        announced_ += byte;
-    }
-    close(ends[0]);
 }
 
-ChildProcess::~ChildProcess() {
-    if (process_ > 0) {
-        kill(process_, SIGKILL);
-        waitpid(process_, nullptr, 0);
+} // namespace
+
+Pipe::Pipe() {
+    std::array<int, 2> ends{};
+    require(pipe(ends.data()) == 0, "pipe");
+    input = FileDescriptor(ends[0]);
+    output = FileDescriptor(ends[1]);
+}
+
+void Barrier::pass(int times) const {
+    for (int i = 0; i < times; ++i) {
+        require(write(pipe_.output.get(), ".", 1) == 1, "write");
     }
+}
+
+void Barrier::wait(int times) const {
+    for (int i = 0; i < times; ++i) {
+        char byte = 0;
+        require(read(pipe_.input.get(), &byte, 1) == 1, "read");
+    }
+}
+
+ChildProcess::ChildProcess(const std::function<int(int)>& function) {
+    Pipe pipe;
+    processIdentifier_ = fork();
+    require(processIdentifier_ >= 0, "fork");
+    if (processIdentifier_ == 0) {
+        // A forgotten child would outlive a test that was ended: the deadline is the test program's own.
+        alarm(100);
+        pipe.input = FileDescriptor();
+        const int status = function(pipe.output.get());
+        _exit(status); // without the parent's exit handlers and buffers
+    }
+    output_ = std::move(pipe.input);
+}
+
+ChildProcess::ChildProcess(ChildProcess&& other) noexcept
+    : processIdentifier_(std::exchange(other.processIdentifier_, -1)), output_(std::move(other.output_)) {}
+
+ChildProcess::~ChildProcess() {
+    if (processIdentifier_ > 0) {
+        kill();
+        exitStatus();
+    }
+}
+
+void ChildProcess::kill() {
+    ::kill(processIdentifier_, SIGKILL);
+}
+
+int ChildProcess::exitStatus() {
+    int status = 0;
+    while (waitpid(processIdentifier_, &status, 0) < 0 && errno == EINTR) {
+    }
+    processIdentifier_ = -1;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+std::string ChildProcess::output() {
+    std::string bytes;
+    std::array<char, 4096> buffer{};
+    ssize_t count = 0;
+    while ((count = read(output_.get(), buffer.data(), buffer.size())) > 0) {
+        bytes.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+    return bytes;
+}
+
+std::string inChildProcess(const std::function<std::string()>& function) {
+    ChildProcess child([&](int output) {
+        const std::string result = function();
+        return write(output, result.data(), result.size()) == static_cast<ssize_t>(result.size()) ? 0 : 1;
+    });
+    const std::string result = child.output();
+    return child.exitStatus() == 0 ? result : "the child process failed: " + result;
 }
 
 } // namespace tovrel

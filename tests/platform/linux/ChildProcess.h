@@ -1,28 +1,56 @@
 #pragma once
 
+#include <csignal>
+#include <functional>
 #include <string>
-#include <vector>
 
 #include <sys/types.h>
 
+#include "platform/linux/FileDescriptor.h"
+
 namespace tovrel {
 
-/// A program that runs beside a test and ends with it.
-class ChildProcess {
-  public:
-    /// Starts the program with a pipe whose number replaces "{fd}" in the arguments, and reads the first line
-    /// the program writes there: servers tell that way where they listen once they do.
-    explicit ChildProcess(std::vector<std::string> arguments);
-    ~ChildProcess();
-    ChildProcess(const ChildProcess&) = delete;
-    ChildProcess& operator=(const ChildProcess&) = delete;
+/// A pipe with a reading and a writing end.
+struct Pipe {
+    Pipe();
+    FileDescriptor input;
+    FileDescriptor output;
+};
 
-    /// Empty when the program could not be started.
-    [[nodiscard]] const std::string& announced() const { return announced_; }
+/// Holds processes back until others have reached a point. Made before the processes are forked.
+class Barrier {
+  public:
+    void pass(int times = 1) const;
+    void wait(int times = 1) const;
 
   private:
-    pid_t process_ = -1;
-    std::string announced_;
+    Pipe pipe_;
 };
+
+/// A fork of the test program that runs a function and ends with its result as exit status.
+class ChildProcess {
+  public:
+    /// The function is given a descriptor to write to; `output` reads it.
+    explicit ChildProcess(const std::function<int(int output)>& function);
+    ChildProcess(ChildProcess&& other) noexcept;
+    ChildProcess& operator=(ChildProcess&&) = delete;
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+    /// Kills the process if it still runs.
+    ~ChildProcess();
+
+    void kill();
+    /// Waits for the end; negative: the signal that ended it.
+    int exitStatus();
+    /// Everything that the process has written and will write until its end.
+    std::string output();
+
+  private:
+    pid_t processIdentifier_;
+    FileDescriptor output_;
+};
+
+/// Runs the function in a child process and returns the text it returned, e.g. what went wrong.
+std::string inChildProcess(const std::function<std::string()>& function);
 
 } // namespace tovrel

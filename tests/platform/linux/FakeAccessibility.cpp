@@ -1,4 +1,4 @@
-#include "FakeAccessibility.h"
+#include "platform/linux/FakeAccessibility.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -72,7 +72,7 @@ FakeAccessibility::FakeAccessibility() {
     std::string pattern = (std::filesystem::temp_directory_path() / "tovrel-XXXXXX").string();
     folder_ = mkdtemp(pattern.data());
     std::ofstream(folder_ / "bus.conf") << configuration(folder_);
-    daemon_ = std::make_unique<ChildProcess>(
+    daemon_ = std::make_unique<ServerProcess>(
         std::vector<std::string>{"dbus-daemon", "--nofork",
                                  "--config-file=" + (folder_ / "bus.conf").string(), "--print-address={fd}"});
     setenv("DBUS_SESSION_BUS_ADDRESS", address().c_str(), 1);

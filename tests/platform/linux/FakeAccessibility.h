@@ -15,7 +15,7 @@
 
 #include <systemd/sd-bus.h>
 
-#include "ChildProcess.h"
+#include "platform/linux/ServerProcess.h"
 
 namespace tovrel {
 
@@ -64,7 +64,7 @@ class FakeAccessibility {
     void answer(sd_bus_message* call);
 
     std::filesystem::path folder_;
-    std::unique_ptr<ChildProcess> daemon_;
+    std::unique_ptr<ServerProcess> daemon_;
     std::mutex mutex_;
     std::vector<std::string> applications_;
     std::unique_ptr<FakeService> service_;

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "FakeAccessibility.h"
+#include "platform/linux/FakeAccessibility.h"
 
 namespace tovrel {
 namespace {

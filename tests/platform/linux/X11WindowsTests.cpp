@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 #include <xcb/xcb.h>
 
-#include "ChildProcess.h"
+#include "platform/linux/ServerProcess.h"
 
 namespace tovrel {
 namespace {
@@ -61,7 +61,7 @@ class X11WindowsTest : public testing::Test {
     struct Disconnect {
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
     };
-    ChildProcess server_{{"Xvfb", "-displayfd", "{fd}", "-screen", "0", "64x64x24", "-nolisten", "tcp"}};
+    ServerProcess server_{{"Xvfb", "-displayfd", "{fd}", "-screen", "0", "64x64x24", "-nolisten", "tcp"}};
     std::string display_ = ":" + server_.announced();
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     xcb_window_t root_ = 0;
