@@ -37,11 +37,6 @@ std::string quoted(const std::string& bytes) {
     return json::dump(json::toJson(Text(bytes)));
 }
 
-int noValue(const PreferencesDomain& domain, const std::string& key, std::ostream& error) {
-    return domain.lastReadSucceeded() ? report(error, failure, "there is no value under " + quoted(key))
-                                      : failure;
-}
-
 std::size_t sizeOf(const PreferenceValue& value) {
     if (const auto* data = std::get_if<PreferenceData>(&value)) {
         return data->bytes.size();
@@ -73,7 +68,8 @@ int read(PreferencesDomain& domain, const std::string& key, bool asJson, std::os
          std::ostream& error) {
     const std::optional<PreferenceValue> value = domain.value(key);
     if (!value) {
-        return noValue(domain, key, error);
+        return domain.lastReadSucceeded() ? report(error, failure, "there is no value under " + quoted(key))
+                                          : failure;
     }
     if (asJson) {
         return print(toJson(*value), out, error);
@@ -121,10 +117,7 @@ int write(PreferencesDomain& domain, const std::string& key, const NewValue& val
     return domain.set(key, stored) ? success : failure;
 }
 
-int remove(PreferencesDomain& domain, const std::string& key, std::ostream& error) {
-    if (!domain.value(key)) {
-        return noValue(domain, key, error);
-    }
+int remove(PreferencesDomain& domain, const std::string& key) {
     return domain.remove(key) ? success : failure;
 }
 

@@ -20,17 +20,21 @@ int read(PreferencesDomain& domain, const std::string& key, bool asJson, std::os
 
 /// The options of `write`, of which exactly one must be given.
 struct NewValue {
-    std::optional<std::string> json;    ///< Valid JSON; stored as data, byte by byte as given.
-    std::optional<std::string> string;  ///< UTF-8 text.
-    std::optional<std::string> boolean; ///< "true" or "false".
-    std::optional<std::string> data;    ///< Any bytes, unchecked: to try out documents that are not valid.
+    /// Valid JSON; stored as data, byte by byte as given.
+    std::optional<std::string> json = std::nullopt;
+    /// UTF-8 text.
+    std::optional<std::string> string = std::nullopt;
+    /// "true" or "false".
+    std::optional<std::string> boolean = std::nullopt;
+    /// Any bytes, unchecked: to try out documents that are not valid.
+    std::optional<std::string> data = std::nullopt;
 };
 
 /// `write KEY`: stores a value under a key, which must be UTF-8.
 int write(PreferencesDomain& domain, const std::string& key, const NewValue& value, std::ostream& error);
 
-/// `delete KEY`: fails when there is no value under the key.
-int remove(PreferencesDomain& domain, const std::string& key, std::ostream& error);
+/// `delete KEY`: removes the value under the key, if any.
+int remove(PreferencesDomain& domain, const std::string& key);
 
 /// `list`: key, type and size in bytes of every value, in columns; as JSON an array of objects with the
 /// members "key", "type" and "size".

@@ -13,9 +13,9 @@
 namespace tovrel {
 namespace {
 
-void addDistinct(std::string key, std::vector<std::string>& keys) {
+void addDistinct(std::string_view key, std::vector<std::string>& keys) {
     if (!key.empty() && std::find(keys.begin(), keys.end(), key) == keys.end()) {
-        keys.push_back(std::move(key));
+        keys.emplace_back(key);
     }
 }
 
@@ -88,35 +88,44 @@ const CommandKeyDeriver::Derived& CommandKeyDeriver::derived(const Text& text) {
 void CommandKeyDeriver::addVariants(const Text& text, std::vector<std::string>& variants) {
     const Derived& keys = derived(text);
     addDistinct(keys.native, variants);
-    addDistinct(keys.latin, variants);
+    if (keys.latin != keys.native) {
+        addDistinct(keys.latin, variants);
+    }
 }
 
 void CommandKeyDeriver::addJoinedVariants(const std::vector<const Text*>& texts,
                                           std::vector<std::string>& variants) {
-    std::string native;
-    std::string latin;
-    std::string plain;
+    std::vector<const Derived*> parts;
     bool isComposable = true;
     for (const Text* text : texts) {
-        const Derived& keys = derived(*text);
-        native += keys.native;
-        latin += keys.latin;
-        plain += plain.empty() ? "" : " ";
-        plain += text->view();
-        isComposable = isComposable && keys.isComposable;
+        parts.push_back(&derived(*text));
+        isComposable = isComposable && parts.back()->isComposable;
     }
     if (!isComposable) {
-        for (std::string& variant : searchVariants(plain, *textServices_)) {
-            addDistinct(std::move(variant), variants);
+        std::string whole;
+        for (const Text* text : texts) {
+            whole += text->utf8() + " ";
+        }
+        for (const std::string& variant : searchVariants(whole, *textServices_)) {
+            addDistinct(variant, variants);
         }
         return;
     }
-    addDistinct(std::move(native), variants);
-    addDistinct(std::move(latin), variants);
+    std::string native;
+    std::string latin;
+    for (const Derived* part : parts) {
+        native += part->native;
+        latin += part->latin;
+    }
+    addDistinct(native, variants);
+    if (latin != native) {
+        addDistinct(latin, variants);
+    }
 }
 
 CommandKeys CommandKeyDeriver::keysOf(const Command& command) {
     CommandKeys keys;
+    keys.candidateVariants.reserve(command.menuPath.size() + 6);
     for (const Text& alias : command.aliases) {
         addVariants(alias, keys.aliasVariants);
     }

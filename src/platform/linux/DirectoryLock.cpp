@@ -3,7 +3,7 @@
 #include <cerrno>
 #include <chrono>
 #include <fcntl.h>
-#include <system_error>
+#include <stdexcept>
 #include <thread>
 
 #include <sys/file.h>
@@ -21,7 +21,7 @@ DirectoryLock::DirectoryLock(const std::filesystem::path& directory, Kind kind)
     // Polled, because flock has no time limit of its own.
     while (flock(descriptor_.get(), operation) != 0) {
         if (errno == EWOULDBLOCK && steady_clock::now() >= deadline) {
-            throw std::system_error(ETIMEDOUT, std::generic_category(), "its directory is locked");
+            throw std::runtime_error("another program keeps its directory locked");
         }
         if (errno != EWOULDBLOCK && errno != EINTR) {
             return;

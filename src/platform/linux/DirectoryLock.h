@@ -12,7 +12,7 @@ class DirectoryLock {
   public:
     enum class Kind { shared, exclusive };
 
-    /// Waits up to five seconds for other processes, then throws std::system_error. A directory that is
+    /// Waits up to five seconds for other processes, then throws std::runtime_error. A directory that is
     /// missing or that cannot be locked (some network file systems) is not locked: going without is better
     /// than going without preferences.
     DirectoryLock(const std::filesystem::path& directory, Kind kind);

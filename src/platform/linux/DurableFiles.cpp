@@ -47,7 +47,7 @@ std::string timeStamp() {
     std::tm parts{};
     gmtime_r(&now, &parts);
     std::array<char, sizeof "20260131T120000Z"> text{};
-    std::strftime(text.data(), text.size(), "%Y%m%dT%H%M%SZ", &parts);
+    static_cast<void>(std::strftime(text.data(), text.size(), "%Y%m%dT%H%M%SZ", &parts));
     return text.data();
 }
 
@@ -55,7 +55,7 @@ std::filesystem::path freeNameFor(const std::filesystem::path& database) {
     const std::filesystem::path name = withSuffix(database, ".damaged-" + timeStamp());
     std::filesystem::path candidate = name;
     for (int number = 2; !isFree(candidate); ++number) {
-        candidate = withSuffix(name, "." + std::to_string(number));
+        candidate = withSuffix(withSuffix(name, "."), std::to_string(number));
     }
     return candidate;
 }
@@ -91,7 +91,7 @@ void createPrivateDirectory(const std::filesystem::path& directory) {
     }
     if (mkdir(directory.c_str(), S_IRWXU) == 0) {
         syncDirectory(parent);
-    } else if (errno != EEXIST || !std::filesystem::is_directory(directory, ignored)) {
+    } else if (errno != EEXIST) {
         throwSystemError();
     }
 }

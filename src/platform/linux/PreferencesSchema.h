@@ -14,7 +14,8 @@ enum class State {
     damaged, ///< Ours, but not as it should be.
 };
 
-/// What the database is, by its header and schema. Throws sqlite::Error.
+/// What the database is, by its header and schema; to be called inside a transaction, for it takes several
+/// looks. Throws sqlite::Error.
 State stateOf(sqlite::Connection& connection);
 
 /// Whether every page of the file is in order and every value of a known type. Throws sqlite::Error.

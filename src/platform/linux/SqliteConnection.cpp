@@ -165,11 +165,11 @@ void Connection::Close::operator()(sqlite3* connection) const {
     sqlite3_close_v2(connection);
 }
 
-WriteTransaction::WriteTransaction(Connection& connection) : connection_(connection) {
-    connection_.execute("BEGIN IMMEDIATE");
+Transaction::Transaction(Connection& connection, Kind kind) : connection_(connection) {
+    connection_.execute(kind == Kind::write ? "BEGIN IMMEDIATE" : "BEGIN");
 }
 
-WriteTransaction::~WriteTransaction() {
+Transaction::~Transaction() {
     // SQLite has already rolled back by itself after some failures, a full disk for one.
     if (connection_.isInTransaction()) {
         try {
@@ -179,7 +179,7 @@ WriteTransaction::~WriteTransaction() {
     }
 }
 
-void WriteTransaction::commit() {
+void Transaction::commit() {
     connection_.execute("COMMIT");
 }
 

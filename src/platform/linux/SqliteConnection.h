@@ -96,13 +96,16 @@ class Connection {
     std::unique_ptr<sqlite3, Close> connection_;
 };
 
-/// A write transaction: it has the sole right to write from the start, and is rolled back unless committed.
-class WriteTransaction {
+/// A transaction, rolled back unless committed. A reading one sees the database as it is at its first read,
+/// whatever others write meanwhile; a writing one has the sole right to write from the start.
+class Transaction {
   public:
-    explicit WriteTransaction(Connection& connection);
-    ~WriteTransaction();
-    WriteTransaction(const WriteTransaction&) = delete;
-    WriteTransaction& operator=(const WriteTransaction&) = delete;
+    enum class Kind { read, write };
+
+    Transaction(Connection& connection, Kind kind);
+    ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
 
     void commit();
 

@@ -15,12 +15,6 @@ namespace {
 
 using preferences_schema::State;
 
-/// A file that must not be used; `what` completes "cannot read the preferences in …: ".
-class Unusable : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
 /// The open file is damaged and is to be set aside.
 class Damaged : public std::exception {};
 
@@ -109,18 +103,18 @@ std::vector<std::pair<std::string, PreferenceValue>> SqlitePreferencesDomain::al
 bool SqlitePreferencesDomain::set(const std::string& key, const PreferenceValue& value) {
     return write([&](sqlite::Connection& connection) {
         if (unreadKeys_.contains(key)) {
-            throw Unusable("the value under \"" + key + "\" could not be read, so it is kept");
+            throw std::runtime_error("the value under \"" + key + "\" could not be read, so it is kept");
         }
         store(connection, key, value);
     });
 }
 
 bool SqlitePreferencesDomain::setAll(const std::vector<std::pair<std::string, PreferenceValue>>& values) {
-    return write([&](sqlite::Connection& connection) {
-        for (const auto& [key, value] : values) {
-            store(connection, key, value);
-        }
-    });
+    return values.empty() || write([&](sqlite::Connection& connection) {
+               for (const auto& [key, value] : values) {
+                   store(connection, key, value);
+               }
+           });
 }
 
 bool SqlitePreferencesDomain::remove(const std::string& key) {
@@ -173,7 +167,7 @@ void SqlitePreferencesDomain::writeLocked(const std::function<void(sqlite::Conne
         requireUsable();
     }
     connection_->execute("PRAGMA synchronous = EXTRA");
-    sqlite::WriteTransaction transaction(*connection_);
+    sqlite::Transaction transaction(*connection_, sqlite::Transaction::Kind::write);
     // Looked at again now that nobody else can write: another process may just have created the table, or a
     // later version of the program changed it.
     state_ = preferences_schema::stateOf(*connection_);
@@ -205,18 +199,15 @@ bool SqlitePreferencesDomain::attempt(Access access, const Operation& operation)
                 reason = error.reason();
                 break;
             }
-        } catch (const Unusable& error) {
+        } catch (const std::runtime_error& error) {
             reason = error.what();
-            break;
-        } catch (const std::system_error& error) {
-            reason = error.code().message();
             break;
         }
         if (isDamaged) {
             try {
                 setDamagedFileAside();
-            } catch (const std::system_error& error) {
-                reason = "it is damaged and cannot be set aside: " + error.code().message();
+            } catch (const std::runtime_error& error) {
+                reason = std::string("it is damaged and cannot be set aside: ") + error.what();
                 break;
             }
         }
@@ -237,11 +228,12 @@ bool SqlitePreferencesDomain::open() {
         throw std::system_error(errno, std::generic_category());
     }
     if (!S_ISREG(status.st_mode)) {
-        throw Unusable("it is not a regular file");
+        throw std::runtime_error("it is not a regular file");
     }
     sqlite::Connection connection(file_);
     state_ = State::damaged;
     try {
+        const sqlite::Transaction transaction(connection, sqlite::Transaction::Kind::read);
         // The version comes first: a change made after it is noticed by the next operation.
         dataVersion_ = connection.integerOf("PRAGMA data_version");
         const State state = preferences_schema::stateOf(connection);
@@ -277,6 +269,7 @@ bool SqlitePreferencesDomain::bringUpToDate() {
     } else if (const std::int64_t now = connection_->integerOf("PRAGMA data_version"); now != dataVersion_) {
         dataVersion_ = now;
         ++revision_;
+        const sqlite::Transaction transaction(*connection_, sqlite::Transaction::Kind::read);
         state_ = preferences_schema::stateOf(*connection_);
     }
     requireUsable();
@@ -289,9 +282,9 @@ void SqlitePreferencesDomain::requireUsable() const {
     case State::current:
         return;
     case State::newer:
-        throw Unusable("a later version of this program wrote it");
+        throw std::runtime_error("a later version of this program wrote it");
     case State::foreign:
-        throw Unusable("it is the database of another program");
+        throw std::runtime_error("it is the database of another program");
     case State::damaged:
         throw Damaged();
     }
