@@ -73,7 +73,8 @@ class Verbs : public testing::Test {
         .application = std::make_shared<MemoryApplication>(42, Text("org.example.Editor"), Text("Editor")),
         .accessibility = accessibility_,
         .isRecording = false,
-        .shortfall = nullptr};
+        .shortfall = nullptr,
+        .bringToFront = nullptr};
     MemoryPreferencesDomain preferences_;
     TextServices textServices_{"en"};
     std::istringstream input_;
