@@ -127,6 +127,12 @@ TEST_F(Verbs, SearchPrintsAListForEachQuery) {
     EXPECT_EQ(run(verbs::search, invocation), 0);
     EXPECT_EQ(output_.str(), "File › Save      Ctrl+S\nFile › Save As…  Ctrl+Shift+S\nSaver (Open)\n");
 
+    invocation.showsIDs = true;
+    invocation.limit = 1;
+    EXPECT_EQ(run(verbs::search, invocation), 0);
+    EXPECT_EQ(output_.str(), "File › Save  Ctrl+S  menu:org.example.Editor:File/Save\n");
+    invocation.showsIDs = false;
+
     invocation.queries = {"save", "", "qqq\n"};
     invocation.limit = 2;
     EXPECT_EQ(run(verbs::search, invocation), 0);
