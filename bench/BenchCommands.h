@@ -8,8 +8,9 @@
 
 namespace tovrel::bench {
 
-/// A menu tree of about `leafCount` commands with distinct paths: the recorded menu bars of the tests, repeated
-/// under numbered titles, one title in ten extended by a word with accents, in Cyrillic or in Japanese.
+/// A menu tree of about `leafCount` commands with distinct paths: the recorded menu bars of the tests,
+/// repeated under numbered titles, one title in ten extended by a word with accents, in Cyrillic or in
+/// Japanese.
 std::vector<ScannedMenuItem> menuTree(std::size_t leafCount);
 
 /// The command list of such a tree, cut to exactly `count`, one command in seventeen with some history.

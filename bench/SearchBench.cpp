@@ -4,6 +4,7 @@
 #include <string>
 
 #include <benchmark/benchmark.h>
+#include <nlohmann/json.hpp>
 
 #include "BenchCommands.h"
 #include "commands/CommandIndex.h"
@@ -24,7 +25,8 @@ double median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-/// The text services with the transliterator and the collator opened, as in a program that has run for a while.
+/// The text services with the transliterator and the collator opened, as in a program that has run for a
+/// while.
 const TextServices& warmServices() {
     static const TextServices services("en_US");
     static const CommandSearchIndex warmed(commands(100), services);
@@ -44,8 +46,9 @@ void BM_IndexBuild(benchmark::State& state) {
 }
 BENCHMARK(BM_IndexBuild)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
-/// Types every query letter by letter. An iteration is all of them; the counters are per key press: the median
-/// over all key presses, and the slowest key press, each of them taken as its median over the iterations.
+/// Types every query letter by letter. An iteration is all of them; the counters are per key press: the
+/// median over all key presses, and the slowest key press, each of them taken as its median over the
+/// iterations.
 void BM_Keystrokes(benchmark::State& state) {
     const TextServices& services = warmServices();
     const CommandSearchIndex index(commands(static_cast<std::size_t>(state.range(0))), services);
@@ -104,8 +107,8 @@ void BM_CommandList(benchmark::State& state) {
     const std::vector<Command> known = commands(5000);
     json::Value document = json::Value::object();
     for (const Command& command : known) {
-        document[command.id.utf8()] =
-            toJson(CommandRankSignals{.isFavorite = false, .usageCount = 3, .lastUsedAt = PointInTime{700000000.5}});
+        document[command.id.utf8()] = toJson(
+            CommandRankSignals{.isFavorite = false, .usageCount = 3, .lastUsedAt = PointInTime{700000000.5}});
     }
     const PreferenceData stored{json::dump(document)};
     MemoryPreferencesDomain domain;

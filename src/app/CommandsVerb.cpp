@@ -1,3 +1,5 @@
+#include <nlohmann/json.hpp>
+
 #include "app/CommandList.h"
 #include "app/CommandRow.h"
 #include "app/JsonOutput.h"

@@ -1,5 +1,7 @@
 #include "app/PreferenceValueJson.h"
 
+#include <nlohmann/json.hpp>
+
 #include "support/Base64.h"
 #include "support/Utf8.h"
 

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include <nlohmann/json.hpp>
+
 #include "app/PreferenceValueJson.h"
 #include "support/Json.h"
 #include "support/Utf8.h"

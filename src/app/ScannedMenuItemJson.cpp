@@ -1,5 +1,7 @@
 #include "app/ScannedMenuItemJson.h"
 
+#include <nlohmann/json.hpp>
+
 namespace tovrel {
 
 json::Value toJson(const ScannedMenuItem& item) {

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <limits>
 
+#include <nlohmann/json.hpp>
+
 #include "app/CommandList.h"
 #include "app/CommandRow.h"
 #include "app/JsonOutput.h"

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <nlohmann/json.hpp>
+
 #include "stores/StoredDocument.h"
 #include "support/CheckedMath.h"
 #include "support/Json.h"

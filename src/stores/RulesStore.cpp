@@ -4,6 +4,8 @@
 #include <map>
 #include <unordered_set>
 
+#include <nlohmann/json.hpp>
+
 #include "stores/StoredDocument.h"
 #include "support/UUID.h"
 

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
 
 #include "app/PreferenceValueJson.h"
 #include "platform/memory/MemoryPreferencesDomain.h"

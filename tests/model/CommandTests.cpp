@@ -1,6 +1,7 @@
 #include "model/Command.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include "commands/CommandSamples.h"
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace tovrel {
 namespace {

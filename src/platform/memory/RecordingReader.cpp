@@ -3,6 +3,8 @@
 #include <utility>
 #include <vector>
 
+#include <nlohmann/json.hpp>
+
 #include "platform/memory/MemoryApplication.h"
 #include "platform/memory/MemoryElement.h"
 #include "platform/memory/Recording.h"
