@@ -12,7 +12,7 @@ int preferences(const command_line::PreferencesArguments& arguments, bool asJson
     case PreferencesVerb::write:
         return preferences_commands::write(preferences, arguments.key, arguments.value, console.error);
     case PreferencesVerb::remove:
-        return preferences_commands::remove(preferences, arguments.key, console.error);
+        return preferences_commands::remove(preferences, arguments.key);
     case PreferencesVerb::list:
         return preferences_commands::list(preferences, asJson, console.output, console.error);
     case PreferencesVerb::exportAll:
