@@ -127,6 +127,7 @@ int main(int argc, char** argv) {
 
     LinuxAccessibility accessibility(std::make_shared<AtspiBus>());
     std::vector<Measurement> connectedRounds;
+    connectedRounds.reserve(rounds);
     for (int round = 0; round < rounds; ++round) {
         connectedRounds.push_back(timed([&] { return readWith(accessibility, processIdentifier); }));
     }

@@ -119,6 +119,7 @@ class Parser {
             addVerb("commands", Verb::commands, "List an application's menu commands and your own commands");
         addSharedOptions(*verb);
         addJsonFlag(*verb);
+        addIDsFlag(*verb);
     }
 
     void addSearch() {
@@ -135,6 +136,7 @@ class Parser {
             ->required();
         addSharedOptions(*verb);
         addJsonFlag(*verb);
+        addIDsFlag(*verb);
         addValue(
             *verb, "--limit", "N",
             [this](const std::string& text) {
@@ -147,7 +149,7 @@ class Parser {
         CLI::App* verb = addVerb("press", Verb::press, "Press a menu item in a running application");
         addValue(
             *verb, "ID", "", [this](const std::string& text) { invocation_.commandID = text; },
-            "The command's id, as `tovrel commands --json` prints it")
+            "The command's id, as `tovrel search --ids` prints it")
             ->required();
         addSharedOptions(*verb);
     }
@@ -261,6 +263,10 @@ class Parser {
 
     void addJsonFlag(CLI::App& app) {
         app.add_flag("--json", invocation_.asJson, "Print JSON, and nothing else");
+    }
+
+    void addIDsFlag(CLI::App& app) {
+        app.add_flag("--ids", invocation_.showsIDs, "Show each command's id, by which it can be pressed");
     }
 
     /// What no single option can tell.

@@ -35,6 +35,7 @@ struct Invocation {
     std::optional<std::string> preferencesFile;
     std::string localeIdentifier; ///< Empty for the environment's.
     bool asJson = false;
+    bool showsIDs = false;            ///< In tables for people; JSON always has them.
     std::optional<std::size_t> limit; ///< Of the results of each query.
     std::vector<std::string> queries; ///< At least one for `search`; each may be empty.
     std::string commandID;

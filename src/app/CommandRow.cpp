@@ -15,9 +15,9 @@ std::string pathCell(const Command& command) {
 
 } // namespace
 
-TableRow commandRow(const Command& command, const OutputStyle& style) {
+TableRow commandRow(const Command& command, bool showsID, const OutputStyle& style) {
     return {.cells = {checkMarkCell(command.isChecked), pathCell(command), shortcutCell(command.shortcut),
-                      disabledCell(command.isEnabled, style)},
+                      disabledCell(command.isEnabled, style), showsID ? command.id.utf8() : ""},
             .isDimmed = !command.isEnabled};
 }
 

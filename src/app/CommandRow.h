@@ -5,8 +5,9 @@
 
 namespace tovrel {
 
-/// A command as people read it: check mark, "File › Export", shortcut, and "disabled" unless colour shows it.
-TableRow commandRow(const Command& command, const OutputStyle& style);
+/// A command as people read it: check mark, "File › Export", shortcut, and "disabled" unless colour shows it;
+/// then its id, if that is wanted.
+TableRow commandRow(const Command& command, bool showsID, const OutputStyle& style);
 
 /// Of such rows the path gives way on a narrow terminal, from its beginning: the title is at its end.
 inline constexpr FlexibleColumn commandPathColumn{.index = 1, .elideAt = terminal_text::ElideAt::start};

@@ -16,7 +16,7 @@ int commands(const Context& context) {
         std::vector<TableRow> rows;
         rows.reserve(list.commands.size());
         for (const Command& command : list.commands) {
-            rows.push_back(commandRow(command, console.style));
+            rows.push_back(commandRow(command, context.invocation.showsIDs, console.style));
         }
         printTable(console.output, rows, commandPathColumn, console.style);
     }

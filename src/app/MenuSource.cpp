@@ -46,7 +46,8 @@ MenuSource recordedMenuSource(const std::string& path, std::istream& standardInp
         return {.application = recorded.application,
                 .accessibility = std::move(accessibility),
                 .isRecording = true,
-                .shortfall = nullptr};
+                .shortfall = nullptr,
+                .bringToFront = nullptr};
     } catch (const std::runtime_error& reason) {
         const std::string name = path == "-" ? "on standard input" : "\"" + path + "\"";
         throw Failure("the recording " + name + " cannot be used: " + reason.what());

@@ -25,6 +25,9 @@ struct MenuSource {
     bool isRecording = false; ///< There is nothing behind the menus that could be pressed.
     /// Asked after a read: absent when everything was read. May be null, as if it always were.
     std::function<std::optional<MenuReadShortfall>()> shortfall;
+    /// Brings the application to the front and waits for it, within half a second. False when it was there
+    /// already or could not be brought there. Null where there is nothing to bring.
+    std::function<bool()> bringToFront;
 };
 
 /// The source that the options name. Throws Failure when it cannot be had. `standardInput` is what a

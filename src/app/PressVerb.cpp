@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <chrono>
 
 #include "app/CommandList.h"
 #include "app/Failure.h"
@@ -10,6 +11,25 @@ namespace {
 
 std::string quoted(const Text& text) {
     return "\"" + text.utf8() + "\"";
+}
+
+/// The list with the menus as they are while the application is in front: some disable items such as Paste
+/// while their window has no focus, and enable them again only some milliseconds after it is back.
+CommandList listWithApplicationInFront(const Context& context) {
+    constexpr std::chrono::milliseconds patience{200};
+    const bool wasBroughtToFront = context.source.bringToFront && context.source.bringToFront();
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    for (;;) {
+        CommandList list = buildCommandList(context.source, context.preferences, context.textServices);
+        const bool isWaitedFor =
+            wasBroughtToFront &&
+            std::any_of(list.commands.begin(), list.commands.end(), [&](const Command& command) {
+                return command.id == context.invocation.commandID && !command.isEnabled;
+            });
+        if (!isWaitedFor || std::chrono::steady_clock::now() > deadline) {
+            return list;
+        }
+    }
 }
 
 const Command& commandWithID(const Text& id, const CommandList& list) {
@@ -28,7 +48,7 @@ int press(const Context& context) {
     if (context.source.isRecording) {
         throw Failure("a recording has nothing to press; name a running application instead");
     }
-    const CommandList list = buildCommandList(context.source, context.preferences, context.textServices);
+    const CommandList list = listWithApplicationInFront(context);
     const Command& command = commandWithID(context.invocation.commandID, list);
     const auto* action = std::get_if<MenuAction>(&command.action);
     if (action == nullptr) {

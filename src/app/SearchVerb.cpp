@@ -32,7 +32,8 @@ std::vector<CommandSearchResult> shownResults(const CommandSearchResults& result
 /// One section for each query, with a heading where there are several.
 class SectionPrinter {
   public:
-    SectionPrinter(const Console& console, bool hasHeadings) : console_(console), hasHeadings_(hasHeadings) {}
+    SectionPrinter(const Console& console, bool hasHeadings, bool showsIDs)
+        : console_(console), hasHeadings_(hasHeadings), showsIDs_(showsIDs) {}
 
     void print(const std::string& query, const std::vector<CommandSearchResult>& results) {
         std::ostream& out = console_.output;
@@ -47,7 +48,7 @@ class SectionPrinter {
         std::vector<TableRow> rows;
         rows.reserve(results.size());
         for (const CommandSearchResult& result : results) {
-            rows.push_back(commandRow(result.command, console_.style));
+            rows.push_back(commandRow(result.command, showsIDs_, console_.style));
         }
         printTable(out, rows, commandPathColumn, console_.style);
     }
@@ -55,6 +56,7 @@ class SectionPrinter {
   private:
     const Console& console_;
     bool hasHeadings_;
+    bool showsIDs_;
     bool isFirst_ = true;
 };
 
@@ -66,7 +68,7 @@ int search(const Context& context) {
     CommandList list = buildCommandList(context.source, context.preferences, context.textServices);
     const CommandSearchIndex index(std::move(list.commands), context.textServices);
     CommandSearch commandSearch;
-    SectionPrinter sections(console, invocation.queries.size() > 1);
+    SectionPrinter sections(console, invocation.queries.size() > 1, invocation.showsIDs);
     const char* separator = "[";
     for (const std::string& query : invocation.queries) {
         const CommandSearchResults results = commandSearch.search(query, index);

@@ -73,7 +73,8 @@ class Verbs : public testing::Test {
         .application = std::make_shared<MemoryApplication>(42, Text("org.example.Editor"), Text("Editor")),
         .accessibility = accessibility_,
         .isRecording = false,
-        .shortfall = nullptr};
+        .shortfall = nullptr,
+        .bringToFront = nullptr};
     MemoryPreferencesDomain preferences_;
     TextServices textServices_{"en"};
     std::istringstream input_;
@@ -125,6 +126,12 @@ TEST_F(Verbs, SearchPrintsAListForEachQuery) {
     invocation.queries = {"save"};
     EXPECT_EQ(run(verbs::search, invocation), 0);
     EXPECT_EQ(output_.str(), "File › Save      Ctrl+S\nFile › Save As…  Ctrl+Shift+S\nSaver (Open)\n");
+
+    invocation.showsIDs = true;
+    invocation.limit = 1;
+    EXPECT_EQ(run(verbs::search, invocation), 0);
+    EXPECT_EQ(output_.str(), "File › Save  Ctrl+S  menu:org.example.Editor:File/Save\n");
+    invocation.showsIDs = false;
 
     invocation.queries = {"save", "", "qqq\n"};
     invocation.limit = 2;

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view extension = ".desktop";
 
 /// Real ones have at most some 100 KiB, mostly translations.
-constexpr std::uintmax_t largestFile = 1024 * 1024;
+constexpr std::uintmax_t largestFile = 1U << 20U;
 
 std::string lowercased(std::string_view text) {
     std::string lower(text);

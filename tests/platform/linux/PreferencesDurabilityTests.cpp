@@ -72,6 +72,7 @@ TEST_F(PreferencesDurability, ProcessesWritingAtOnceLoseNothing) {
     constexpr int processes = 4;
     constexpr int writes = 25;
     std::vector<ChildProcess> children;
+    children.reserve(processes);
     Barrier start;
     for (int process = 0; process < processes; ++process) {
         children.emplace_back([&, process](int /*output*/) {
@@ -90,7 +91,7 @@ TEST_F(PreferencesDurability, ProcessesWritingAtOnceLoseNothing) {
     for (ChildProcess& child : children) {
         EXPECT_EQ(child.exitStatus(), 0);
     }
-    EXPECT_EQ(makeDomain().all().size(), std::size_t{processes * writes});
+    EXPECT_THAT(makeDomain().all(), testing::SizeIs(processes * writes));
     EXPECT_THAT(reports, IsEmpty());
 }
 

@@ -264,7 +264,7 @@ TEST_F(SqlitePreferences, AFileSizeLimitKeepsTheOldValue) {
         const rlimit limit{isFull ? rlim_t{100'000} : before.rlim_cur, before.rlim_max};
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
     });
-    std::signal(SIGXFSZ, handlerBefore);
+    EXPECT_EQ(std::signal(SIGXFSZ, handlerBefore), SIG_IGN);
 }
 
 TEST_F(SqlitePreferences, AFullDiskKeepsTheOldValue) {
