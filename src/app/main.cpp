@@ -8,7 +8,7 @@
 
 int main(int argc, char** argv) {
     // A reader of standard output that goes away shows as a failed write instead.
-    std::signal(SIGPIPE, SIG_IGN);
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     tovrel::DescriptorBuffer buffer(STDOUT_FILENO);
     std::ostream output(&buffer);
     output.exceptions(std::ios::badbit);
