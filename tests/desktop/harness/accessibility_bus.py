@@ -1,0 +1,18 @@
+"""The private accessibility bus."""
+
+from gi.repository import GLib
+
+from .bus_connection import BusConnection
+
+LAUNCHER = ("org.a11y.Bus", "/org/a11y/bus")
+
+
+def start_accessibility_bus(session_address):
+    """Starts the accessibility bus, switches accessibility on for toolkits and returns the bus's address.
+    Some toolkits look at the switch only when an application starts."""
+    session = BusConnection(session_address)
+    try:
+        session.set(*LAUNCHER, "org.a11y.Status", "IsEnabled", GLib.Variant("b", True))
+        return session.call(*LAUNCHER, "org.a11y.Bus", "GetAddress")[0]
+    finally:
+        session.close()

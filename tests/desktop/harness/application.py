@@ -1,0 +1,40 @@
+"""One application running on the private desktop."""
+
+import os
+import signal
+
+
+class Application:
+    """A started application with a window on the screen."""
+
+    def __init__(self, process, window, desktop):
+        self.process = process
+        self.window = window
+        self._desktop = desktop
+
+    @property
+    def pid(self):
+        return self.process.pid
+
+    @property
+    def tree(self):
+        """The root of its accessible tree as the witness sees it."""
+        return self._desktop.witness.application(self.pid)
+
+    def bring_to_front(self):
+        self._desktop.bring_to_front(self.window)
+
+    def stop(self):
+        """Suspends it, as if it hung."""
+        os.kill(self.pid, signal.SIGSTOP)
+
+    def resume(self):
+        os.kill(self.pid, signal.SIGCONT)
+
+    def kill(self):
+        """Ends it without warning; it cannot tidy up."""
+        os.kill(self.pid, signal.SIGKILL)
+
+    def end(self):
+        """Ends it and waits until it is gone."""
+        self._desktop.end(self)

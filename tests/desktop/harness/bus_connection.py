@@ -1,0 +1,29 @@
+"""A D-Bus connection whose calls all have a deadline."""
+
+from gi.repository import Gio, GLib
+
+CALL_TIMEOUT_MS = 5000
+
+
+class BusConnection:
+    """A connection to one bus. Nothing is cached and nothing is called that was not asked for."""
+
+    def __init__(self, address):
+        flags = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
+        self._connection = Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
+
+    def call(self, name, path, interface, method, arguments=None):
+        """The values that the call returns, as a tuple."""
+        return self._connection.call_sync(name, path, interface, method, arguments, None,
+                                          Gio.DBusCallFlags.NONE, CALL_TIMEOUT_MS, None).unpack()
+
+    def get(self, name, path, interface, prop):
+        return self.call(name, path, "org.freedesktop.DBus.Properties", "Get",
+                         GLib.Variant("(ss)", (interface, prop)))[0]
+
+    def set(self, name, path, interface, prop, value):
+        self.call(name, path, "org.freedesktop.DBus.Properties", "Set",
+                  GLib.Variant("(ssv)", (interface, prop, value)))
+
+    def close(self):
+        self._connection.close_sync(None)

@@ -1,0 +1,115 @@
+"""The private desktop as a whole."""
+
+import atexit
+import contextlib
+import shutil
+import tempfile
+from pathlib import Path
+
+from .accessibility_bus import start_accessibility_bus
+from .application import Application
+from .display import start_display
+from .interruption import raise_on_ending_signals, undisturbed
+from .pictures import paint_background, take_picture
+from .processes import Processes
+from .requirements import require
+from .session_bus import start_session_bus
+from .surroundings import private_environment
+from .waiting import wait_until
+from .windows import Windows
+from .witness import Witness
+
+
+class Desktop:
+    """A context manager: entered, there is a desktop; left in whatever way, nothing of it remains.
+
+    At most one is entered at a time in a process, because leaving it ends every process that came to be
+    below this one meanwhile."""
+
+    _entered = False
+
+    def __init__(self, size=(1280, 800), with_buses=True):
+        """`with_buses`: without them there are windows, but no session bus and no accessibility."""
+        self._size = size
+        self._with_buses = with_buses
+        self._teardown = contextlib.ExitStack()
+        self.environment = {}
+        self.windows = None
+        self.witness = None
+        self.home = None
+
+    def __enter__(self):
+        if Desktop._entered:
+            raise RuntimeError("there is a private desktop already")
+        require("Xvfb", "openbox", "dbus-daemon", "xdotool", "xprop", "import", "display", "setpriv")
+        raise_on_ending_signals()
+        Desktop._entered = True
+        # Also when an exception passes the test runner by.
+        atexit.register(self.close)
+        try:
+            self._set_up()
+        except BaseException:
+            self.close()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        self.close()
+
+    def close(self):
+        """Ends all processes and removes all files of the desktop."""
+        with undisturbed():
+            self._teardown.close()
+            Desktop._entered = False
+            atexit.unregister(self.close)
+
+    def launch(self, command, accessible=True):
+        """Starts an application and returns it once its window is visible and, if `accessible`, its tree is on
+        the accessibility bus."""
+        require(command[0])
+        process = self._processes.start(command, self.environment, cwd=self.home)
+
+        def visible_window():
+            self._processes.require_running(process, command[0])
+            return self.windows.of_process(process.pid)
+
+        window = wait_until(visible_window, f"a window of {command[0]}")[0]
+        if accessible:
+            wait_until(lambda: self._has_menu_bar(process.pid), f"{command[0]} to be accessible")
+        return Application(process, window, self)
+
+    def bring_to_front(self, window):
+        """Activates the window and waits until the window manager says so."""
+        self.windows.activate(window)
+        wait_until(lambda: self.windows.active() == window, "the window to come to the front")
+
+    def end(self, application):
+        self._processes.end(application.process)
+        wait_until(lambda: application.window not in self.windows.of_process(application.pid),
+                   "the application's window to go")
+
+    def take_picture(self, path):
+        take_picture(self.environment, path)
+
+    def _set_up(self):
+        root = Path(tempfile.mkdtemp(prefix="tovrel-desktop-"))
+        self._teardown.callback(shutil.rmtree, root, ignore_errors=True)
+        self.environment = private_environment(root)
+        self.home = Path(self.environment["HOME"])
+        logs = root / "logs"
+        logs.mkdir()
+        self._processes = Processes(logs)
+        self._teardown.callback(self._processes.close)
+        start_display(self._processes, root, self.environment, self._size)
+        self.windows = Windows(self.environment)
+        paint_background(self.environment, self._size)
+        if self._with_buses:
+            start_session_bus(self._processes, self.environment)
+            self.witness = Witness(start_accessibility_bus(self.environment["DBUS_SESSION_BUS_ADDRESS"]))
+            self._teardown.callback(self.witness.close)
+        self._processes.start(["openbox", "--sm-disable"], self.environment)
+        wait_until(self.windows.has_window_manager, "the window manager")
+
+    def _has_menu_bar(self, process_id):
+        root = self.witness.application(process_id)
+        return root is not None and root.find("menu bar") is not None

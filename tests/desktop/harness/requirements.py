@@ -1,0 +1,29 @@
+"""Which programs the private desktop needs, and the Debian packages they come in."""
+
+import shutil
+
+PACKAGE_OF = {
+    "Xvfb": "xvfb",
+    "openbox": "openbox",
+    "dbus-daemon": "dbus",
+    "xdotool": "xdotool",
+    "xprop": "x11-utils",
+    "import": "imagemagick",
+    "display": "imagemagick",
+    "setpriv": "util-linux",
+    "mousepad": "mousepad",
+    "featherpad": "featherpad",
+    "xterm": "xterm",
+}
+
+
+class MissingProgram(RuntimeError):
+    """A program that the private desktop needs is not installed."""
+
+
+def require(*programs):
+    """Raises MissingProgram with the packages to install unless every program is there."""
+    missing = [program for program in programs if shutil.which(program) is None]
+    if missing:
+        packages = sorted({PACKAGE_OF.get(program, program) for program in missing})
+        raise MissingProgram(f"not installed: {', '.join(missing)} (apt-get install {' '.join(packages)})")

@@ -1,0 +1,32 @@
+"""The directories and environment variables of a private desktop."""
+
+import os
+from pathlib import Path
+
+# What is passed on: where programs are found, and how sanitizers report.
+PASSED_ON = ("PATH", "TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "ASAN_SYMBOLIZER_PATH")
+
+
+def private_environment(root):
+    """Makes a home under `root` and returns an environment that names nothing of the user's session."""
+    directories = {
+        "HOME": "home",
+        "XDG_CONFIG_HOME": "home/.config",
+        "XDG_CACHE_HOME": "home/.cache",
+        "XDG_DATA_HOME": "home/.local/share",
+        "XDG_STATE_HOME": "home/.local/state",
+        "XDG_RUNTIME_DIR": "run",
+        "TMPDIR": "tmp",
+    }
+    environment = {name: os.environ[name] for name in PASSED_ON if name in os.environ}
+    for name, directory in directories.items():
+        path = Path(root) / directory
+        path.mkdir(parents=True, exist_ok=True)
+        path.chmod(0o700)
+        environment[name] = str(path)
+    environment["LANG"] = "C.UTF-8"
+    environment["LC_ALL"] = "C.UTF-8"
+    environment["TOVREL_PREFERENCES"] = str(Path(root) / "home" / "preferences.db")
+    # Applications keep their settings to themselves and need no daemon for them.
+    environment["GSETTINGS_BACKEND"] = "memory"
+    return environment

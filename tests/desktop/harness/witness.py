@@ -1,0 +1,100 @@
+"""Reads what applications publish on the accessibility bus: the witness of what a command did. It shares no
+code with the program under test."""
+
+from gi.repository import GLib
+
+from .bus_connection import BusConnection
+
+ACCESSIBLE = "org.a11y.atspi.Accessible"
+APPLICATIONS = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
+STATES = {"active": 1, "checked": 4, "enabled": 8, "sensitive": 24, "showing": 25, "visible": 30}
+
+
+class Witness:
+    """One connection to the accessibility bus."""
+
+    def __init__(self, address):
+        self._bus = BusConnection(address)
+
+    def application(self, process_id):
+        """The root node of the process's accessible tree, or None while it has not registered."""
+        try:
+            roots = self._bus.call(*APPLICATIONS, ACCESSIBLE, "GetChildren")[0]
+        except GLib.Error:
+            return None
+        for name, path in roots:
+            if self._process_of(name) == process_id:
+                return Node(self._bus, name, path)
+        return None
+
+    def close(self):
+        self._bus.close()
+
+    def _process_of(self, name):
+        # Answered by the bus itself, so an application that hangs cannot delay it.
+        try:
+            return self._bus.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                                  "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))[0]
+        except GLib.Error:
+            return None
+
+
+class Node:
+    """One node of an application's accessible tree; every answer is fresh."""
+
+    def __init__(self, bus, name, path):
+        self._bus = bus
+        self._name = name
+        self._path = path
+
+    @property
+    def name(self):
+        return self._bus.get(self._name, self._path, ACCESSIBLE, "Name")
+
+    @property
+    def role(self):
+        return self._bus.call(self._name, self._path, ACCESSIBLE, "GetRoleName")[0]
+
+    @property
+    def states(self):
+        words = self._bus.call(self._name, self._path, ACCESSIBLE, "GetState")[0]
+        bits = words[0] | words[1] << 32
+        return {state for state, bit in STATES.items() if bits >> bit & 1}
+
+    @property
+    def interfaces(self):
+        return set(self._bus.call(self._name, self._path, ACCESSIBLE, "GetInterfaces")[0])
+
+    @property
+    def toolkit(self):
+        """Of an application's root node, e.g. "gtk" or "Qt"."""
+        return self._bus.get(self._name, self._path, "org.a11y.atspi.Application", "ToolkitName")
+
+    @property
+    def children(self):
+        return [Node(self._bus, name, path)
+                for name, path in self._bus.call(self._name, self._path, ACCESSIBLE, "GetChildren")[0]]
+
+    @property
+    def text(self):
+        return self._bus.call(self._name, self._path, "org.a11y.atspi.Text", "GetText",
+                              GLib.Variant("(ii)", (0, -1)))[0]
+
+    def walk(self, below=lambda node: True):
+        """This node and all below it, depth first; `below` says whether a node's children are visited."""
+        yield self
+        if below(self):
+            for child in self.children:
+                yield from child.walk(below)
+
+    def find(self, role, name=None, showing=True):
+        """The first node outside the menus with this role, or None. A node that vanishes meanwhile is not
+        there."""
+        try:
+            for node in self.walk(lambda node: node.role not in ("menu bar", "menu", "text")):
+                if (node.role == role and (name is None or node.name.strip() == name)
+                        and (not showing or "showing" in node.states)):
+                    return node
+        except GLib.Error:
+            pass
+        return None
