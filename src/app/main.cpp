@@ -1,5 +1,17 @@
-#include "app/CommandLine.h"
+#include <csignal>
+#include <iostream>
+#include <unistd.h>
+
+#include "app/DescriptorBuffer.h"
+#include "app/Program.h"
+#include "app/Terminal.h"
 
 int main(int argc, char** argv) {
-    return tovrel::runCommandLine(argc, argv);
+    // A reader of standard output that goes away shows as a failed write instead.
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    tovrel::DescriptorBuffer buffer(STDOUT_FILENO);
+    std::ostream output(&buffer);
+    output.exceptions(std::ios::badbit);
+    return tovrel::runProgram(argc, argv,
+                              {std::cin, output, std::cerr, tovrel::outputStyleOf(STDOUT_FILENO)});
 }

@@ -1,5 +1,7 @@
 #include "model/Command.h"
 
+#include <nlohmann/json.hpp>
+
 namespace tovrel {
 
 json::Value toJson(CommandSource source) {

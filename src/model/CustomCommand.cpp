@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include <nlohmann/json.hpp>
+
 namespace tovrel {
 namespace {
 

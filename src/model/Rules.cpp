@@ -1,5 +1,7 @@
 #include "model/Rules.h"
 
+#include <nlohmann/json.hpp>
+
 #include "model/ScannedMenuItem.h"
 
 namespace tovrel {

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include <nlohmann/json.hpp>
+
 namespace tovrel::json {
 namespace {
 
@@ -42,6 +44,8 @@ Value parse(std::string_view bytes) {
     }
     try {
         return Value::parse(bytes);
+    } catch (const Value::out_of_range&) {
+        throw DecodeError("a number is too large");
     } catch (const Value::exception&) {
         throw DecodeError(bytes.empty() ? "empty document" : "not valid JSON in UTF-8");
     }

@@ -8,6 +8,8 @@ namespace tovrel {
 struct PointInTime {
     double secondsSinceReferenceDate = 0;
 
+    // A rewritten comparison with 0 is mistaken for one with a null pointer by clang-tidy 14.
+    // NOLINTNEXTLINE(modernize-use-nullptr)
     friend auto operator<=>(const PointInTime&, const PointInTime&) = default;
 };
 

@@ -2,8 +2,7 @@
 
 #include <optional>
 
-#include <unicode/bytestream.h>
-#include <unicode/casemap.h>
+#include <unicode/brkiter.h>
 #include <unicode/coll.h>
 #include <unicode/locid.h>
 #include <unicode/normalizer2.h>
@@ -11,6 +10,7 @@
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 #include <unicode/uscript.h>
+#include <unicode/utext.h>
 #include <unicode/utf16.h>
 
 #include "support/Fatal.h"
@@ -78,6 +78,27 @@ icu::UnicodeString withoutDiacritics(const icu::UnicodeString& decomposed) {
     return result;
 }
 
+/// The clusters of a text in which every code point is one, as in nearly all; absent when it may not be so.
+std::optional<std::vector<std::string_view>> simpleClusters(std::string_view text) {
+    std::vector<std::string_view> clusters;
+    clusters.reserve(text.size());
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t start = position;
+        const auto codePoint = static_cast<UChar32>(nextCodePoint(text, position));
+        // Whole Hangul syllables stand alone as long as no single jamo follows.
+        switch (u_getIntPropertyValue(codePoint, UCHAR_GRAPHEME_CLUSTER_BREAK)) {
+        case U_GCB_OTHER:
+        case U_GCB_LV:
+        case U_GCB_LVT:
+            clusters.push_back(text.substr(start, position - start));
+            break;
+        default:
+            return std::nullopt;
+        }
+    }
+    return clusters;
+}
+
 icu::Locale localeNamed(std::string_view identifier) {
     if (identifier.empty()) {
         return icu::Locale::getDefault();
@@ -99,6 +120,7 @@ struct TextServices::Implementation {
         formC = icu::Normalizer2::getNFCInstance(status);
         formD = icu::Normalizer2::getNFDInstance(status);
         collator.reset(icu::Collator::createInstance(locale, status));
+        clusters.reset(icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
         if (U_FAILURE(status)) {
             fatal("the Unicode data of the ICU library is missing");
         }
@@ -111,6 +133,7 @@ struct TextServices::Implementation {
     const icu::Normalizer2* formC = nullptr;
     const icu::Normalizer2* formD = nullptr;
     std::unique_ptr<icu::Collator> collator;
+    std::unique_ptr<icu::BreakIterator> clusters;
     /// Opened on first use; null inside when it cannot be.
     std::optional<std::unique_ptr<icu::Transliterator>> toLatin;
 };
@@ -163,7 +186,7 @@ bool TextServices::hasNonLatinScript(std::string_view text) {
     return false;
 }
 
-std::string TextServices::transliteratedToLatin(std::string_view text) const {
+std::optional<std::string> TextServices::transliteratedToLatin(std::string_view text) const {
     auto& toLatin = implementation_->toLatin;
     if (!toLatin) {
         UErrorCode status = U_ZERO_ERROR;
@@ -173,11 +196,39 @@ std::string TextServices::transliteratedToLatin(std::string_view text) const {
         }
     }
     if (!*toLatin) {
-        return {};
+        return std::nullopt;
     }
     icu::UnicodeString utf16 = utf16From(text);
     (*toLatin)->transliterate(utf16);
     return utf8From(utf16);
+}
+
+std::vector<std::string_view> TextServices::graphemeClusters(std::string_view text) const {
+    if (std::optional<std::vector<std::string_view>> simple = simpleClusters(text)) {
+        return *std::move(simple);
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    UText opened = UTEXT_INITIALIZER;
+    utext_openUTF8(&opened, text.data(), static_cast<std::int64_t>(text.size()), &status);
+    icu::BreakIterator& iterator = *implementation_->clusters;
+    iterator.setText(&opened, status);
+    std::vector<std::string_view> clusters;
+    if (U_SUCCESS(status)) {
+        std::int32_t start = iterator.first();
+        for (std::int32_t end = iterator.next(); end != icu::BreakIterator::DONE; end = iterator.next()) {
+            clusters.push_back(
+                text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start)));
+            start = end;
+        }
+    }
+    utext_close(&opened);
+    return clusters;
+}
+
+std::string TextServices::composed(std::string_view text) const {
+    UErrorCode status = U_ZERO_ERROR;
+    std::string result = utf8From(implementation_->formC->normalize(utf16From(text), status));
+    return U_SUCCESS(status) ? result : std::string(text);
 }
 
 bool TextServices::isOrderedBefore(const Text& left, const Text& right) const {

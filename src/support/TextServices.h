@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "support/Text.h"
 
@@ -34,9 +36,16 @@ class TextServices {
     /// Whether transliteration to Latin can change the text at all: it holds a letter of another script.
     [[nodiscard]] static bool hasNonLatinScript(std::string_view text);
 
-    /// The text of any script in Latin letters (ICU's Any-Latin), e.g. "Файл" as "Fajl". Empty when the
-    /// transliteration is not to be had. The result is undefined in case and keeps diacritics.
-    [[nodiscard]] std::string transliteratedToLatin(std::string_view text) const;
+    /// The text of any script in Latin letters (ICU's Any-Latin), e.g. "Файл" as "Fajl"; it may carry
+    /// diacritics. Absent when the transliteration is not to be had.
+    [[nodiscard]] std::optional<std::string> transliteratedToLatin(std::string_view text) const;
+
+    /// The extended grapheme clusters (Unicode Standard Annex 29) of a text, what a user perceives as its
+    /// characters, as views into it.
+    [[nodiscard]] std::vector<std::string_view> graphemeClusters(std::string_view text) const;
+
+    /// The text in normalization form C.
+    [[nodiscard]] std::string composed(std::string_view text) const;
 
     /// Whether `left` is shown strictly before `right`: case-insensitive, by the locale's rules.
     [[nodiscard]] bool isOrderedBefore(const Text& left, const Text& right) const;

@@ -13,6 +13,13 @@ bool MemoryPreferencesDomain::set(const std::string& key, const PreferenceValue&
     return true;
 }
 
+bool MemoryPreferencesDomain::setAll(const std::vector<std::pair<std::string, PreferenceValue>>& values) {
+    for (const auto& [key, value] : values) {
+        set(key, value);
+    }
+    return true;
+}
+
 bool MemoryPreferencesDomain::remove(const std::string& key) {
     if (values_.erase(key) > 0) {
         ++revision_;

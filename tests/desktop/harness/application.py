@@ -21,6 +21,11 @@ class Application:
         """The root of its accessible tree as the witness sees it."""
         return self._desktop.witness.application(self.pid)
 
+    def text(self):
+        """What its text view holds, or None while it has none."""
+        view = self.tree.find("text") if self.tree else None
+        return view.text if view else None
+
     def bring_to_front(self):
         self._desktop.bring_to_front(self.window)
 

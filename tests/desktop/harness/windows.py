@@ -18,7 +18,7 @@ class Windows:
 
     def active(self):
         """The active window, or None when there is none."""
-        # The property is read as it is: tools that look for the focus wait when there is none.
+        # Read as it is: tools that look for the active window wait while there is none.
         answer = self._run("xprop", "-root", "_NET_ACTIVE_WINDOW").stdout
         number = answer.rpartition("#")[2].strip()
         return int(number, 16) or None if number.startswith("0x") else None

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "model/Command.h"
+#include "model/ScannedMenuItem.h"
+
+namespace tovrel::bench {
+
+/// A menu tree of about `leafCount` commands with distinct paths: the recorded menu bars of the tests,
+/// repeated under numbered titles, one title in ten extended by a word with accents, in Cyrillic or in
+/// Japanese.
+std::vector<ScannedMenuItem> menuTree(std::size_t leafCount);
+
+/// The command list of such a tree, cut to exactly `count`, one command in seventeen with some history.
+std::vector<Command> commands(std::size_t count);
+
+/// What users type, each meant as typed letter by letter.
+const std::vector<const char*>& queries();
+
+} // namespace tovrel::bench

@@ -1,0 +1,62 @@
+# shellcheck shell=bash disable=SC2034,SC2154
+# What the scripts share. Sourced with `root` set to the top folder of the checkout.
+
+# Debian packages to build the program, to run it on a private desktop, and to test it.
+build_packages=(ca-certificates g++ cmake ninja-build pkg-config libicu-dev nlohmann-json3-dev libsqlite3-dev
+    libsystemd-dev libxcb1-dev libxkbcommon-dev libcli11-dev)
+desktop_packages=(at-spi2-core dbus xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core mousepad
+    util-linux python3 python3-gi gir1.2-glib-2.0)
+test_packages=(clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev libgtest-dev libgmock-dev libbenchmark-dev
+    libatspi2.0-dev featherpad xterm)
+
+heading() {
+    printf '\n== %s\n' "$*"
+}
+
+fail() {
+    printf '%s: %s\n' "$(basename "$0")" "$*" >&2
+    exit 1
+}
+
+# Installs those of the named Debian packages that are missing.
+install_packages() {
+    local package missing=()
+    for package in "$@"; do
+        if [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
+            missing+=("$package")
+        fi
+    done
+    if [ "${#missing[@]}" -eq 0 ]; then
+        return
+    fi
+    if [ "$(id -u)" -ne 0 ]; then
+        fail "these packages are missing; as root run: apt-get install ${missing[*]}"
+    fi
+    heading "Installing ${#missing[@]} Debian packages"
+    quietly "$root/build/install.log" apt-get update
+    quietly "$root/build/install.log" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+# Runs a command with its output in a log file, of which the end is shown if it fails.
+quietly() {
+    local log=$1
+    shift
+    mkdir -p "$(dirname "$log")"
+    if ! "$@" >"$log" 2>&1; then
+        tail -n 40 "$log" >&2
+        fail "failed: $* (all of its output: $log)"
+    fi
+}
+
+# Configures a preset and builds the targets of it that are named, or all.
+build_preset() {
+    local preset=$1 options=()
+    shift
+    if command -v ccache >/dev/null; then
+        options=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    fi
+    heading "Building the preset $preset"
+    quietly "$root/build/$preset.log" cmake --preset "$preset" "${options[@]}"
+    quietly "$root/build/$preset.log" cmake --build --preset "$preset" "$@"
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <vector>
+
+#include "app/MenuSource.h"
+#include "app/ScannedMenus.h"
+#include "model/Command.h"
+#include "platform/PreferencesDomain.h"
+#include "support/TextServices.h"
+
+namespace tovrel {
+
+/// The keys under which the stores that build a command list keep their documents.
+namespace storage_keys {
+inline constexpr const char* commandHistory = "Tovrel.commandHistory";
+inline constexpr const char* customCommands = "customCommands";
+} // namespace storage_keys
+
+/// What the palette would list over the application.
+struct CommandList {
+    std::vector<Command> commands;
+    ScannedMenus menus;
+};
+
+/// Reads the application's menus and builds the list from them and the preferences. An application for which
+/// the palette is turned off has its commands listed all the same.
+CommandList buildCommandList(const MenuSource& source, PreferencesDomain& preferences,
+                             const TextServices& textServices);
+
+} // namespace tovrel

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <istream>
+#include <optional>
+#include <ostream>
+
+namespace tovrel {
+
+/// How results for people are laid out.
+struct OutputStyle {
+    bool hasColour = false;
+    std::optional<std::size_t> width; ///< Columns of the terminal; absent when it is none.
+};
+
+/// The streams the program talks to.
+struct Console {
+    std::istream& input;
+    std::ostream& output;
+    std::ostream& error;
+    OutputStyle style;
+};
+
+} // namespace tovrel

@@ -1,0 +1,113 @@
+#include <chrono>
+#include <sstream>
+
+#include "app/Failure.h"
+#include "app/MenuSource.h"
+#include "platform/linux/LinuxAccessibility.h"
+#include "platform/linux/LinuxWorkspace.h"
+
+namespace tovrel {
+namespace {
+
+std::shared_ptr<RunningApplication> runningApplication(const command_line::MenuSourceOptions& options,
+                                                       LinuxWorkspace& workspace, const X11Windows& windows) {
+    if (options.processIdentifier) {
+        if (auto application = workspace.applicationWithProcessIdentifier(*options.processIdentifier)) {
+            return application;
+        }
+        throw Failure("there is no process " + std::to_string(*options.processIdentifier));
+    }
+    if (options.bundleIdentifier) {
+        const auto applications = workspace.applicationsWithIdentifier(Text(*options.bundleIdentifier));
+        if (applications.empty()) {
+            throw Failure("no running application has the identifier \"" + *options.bundleIdentifier + "\"");
+        }
+        return applications.front();
+    }
+    if (!windows.isAvailable()) {
+        throw Failure("there is no X display to find the front application on; name one with --pid or --app");
+    }
+    if (auto application = workspace.frontApplication()) {
+        return application;
+    }
+    throw Failure("no application is in front; name one with --pid or --app");
+}
+
+std::string nameOf(const RunningApplication& application) {
+    const std::optional<Text> name = application.localizedName();
+    return name ? name->utf8() : "process " + std::to_string(application.processIdentifier());
+}
+
+std::string inSeconds(std::chrono::milliseconds time) {
+    std::ostringstream text;
+    text << std::chrono::duration<double>(time).count() << " s";
+    return text.str();
+}
+
+std::optional<MenuReadShortfall> shortfallOf(const MenuReadReport& report, const std::string& name,
+                                             const AtspiLimits& limits, bool isEnabled) {
+    const bool isPartial = report.nodes > 1; // more than the bar itself
+    switch (report.outcome) {
+    case MenuReadOutcome::completed:
+        return std::nullopt;
+    case MenuReadOutcome::applicationSilent:
+        return MenuReadShortfall{name + " did not answer within " + inSeconds(limits.silence), isPartial};
+    case MenuReadOutcome::tooSlow:
+        return MenuReadShortfall{name + " did not answer everything within " + inSeconds(limits.total),
+                                 isPartial};
+    case MenuReadOutcome::treeTooLarge:
+        return MenuReadShortfall{name + " has more menu items than are read at once", isPartial};
+    case MenuReadOutcome::applicationGone:
+        return MenuReadShortfall{name + " quit while its menus were read", isPartial};
+    case MenuReadOutcome::noMenuBar:
+        return MenuReadShortfall{name + " shows no menu bar", false};
+    case MenuReadOutcome::noAccessibilityBus:
+        return MenuReadShortfall{"the accessibility bus cannot be reached", false};
+    case MenuReadOutcome::notRegistered:
+        break;
+    }
+    return MenuReadShortfall{
+        name + " is not on the accessibility bus; " +
+            (isEnabled
+                 ? "restart it if it was started before accessibility was switched on"
+                 : "accessibility is switched off for toolkits: switch it on and restart the application"),
+        false};
+}
+
+} // namespace
+
+MenuSource liveMenuSource(const command_line::MenuSourceOptions& options) {
+    const auto windows = std::make_shared<X11Windows>();
+    const auto bus = std::make_shared<AtspiBus>([windows] { return windows->accessibilityBusAddress(); });
+    const auto workspace = std::make_shared<LinuxWorkspace>(
+        windows, bus, std::make_shared<DesktopEntries>(DesktopEntries::ofEnvironment()));
+    const AtspiLimits limits;
+    const auto accessibility = std::make_shared<LinuxAccessibility>(
+        bus,
+        [windows](std::int32_t processIdentifier) -> std::optional<Text> {
+            const auto window = windows->frontWindow(processIdentifier);
+            return window ? std::optional(window->title) : std::nullopt;
+        },
+        limits);
+    const std::shared_ptr<RunningApplication> application = runningApplication(options, *workspace, *windows);
+    return {.application = application,
+            .accessibility = accessibility,
+            .isRecording = false,
+            .shortfall =
+                [=] {
+                    const auto report = accessibility->lastReport();
+                    return report ? shortfallOf(*report, nameOf(*application), limits, bus->isEnabled())
+                                  : std::nullopt;
+                },
+            .bringToFront =
+                [=] {
+                    constexpr std::chrono::milliseconds patience{500}; // a window manager takes a few
+                    const auto front = workspace->frontApplication();
+                    const bool isFront =
+                        front && front->processIdentifier() == application->processIdentifier();
+                    return !isFront && workspace->activate(*application) &&
+                           workspace->waitUntilFront(*application, patience);
+                }};
+}
+
+} // namespace tovrel

@@ -1,0 +1,26 @@
+#include "app/PreferencesCommands.h"
+#include "app/Verbs.h"
+
+namespace tovrel::verbs {
+
+int preferences(const command_line::PreferencesArguments& arguments, bool asJson,
+                PreferencesDomain& preferences, const Console& console) {
+    using command_line::PreferencesVerb;
+    switch (arguments.verb) {
+    case PreferencesVerb::read:
+        return preferences_commands::read(preferences, arguments.key, asJson, console.output, console.error);
+    case PreferencesVerb::write:
+        return preferences_commands::write(preferences, arguments.key, arguments.value, console.error);
+    case PreferencesVerb::remove:
+        return preferences_commands::remove(preferences, arguments.key);
+    case PreferencesVerb::list:
+        return preferences_commands::list(preferences, asJson, console.output, console.error);
+    case PreferencesVerb::exportAll:
+        return preferences_commands::exportAll(preferences, console.output, console.error);
+    case PreferencesVerb::importAll:
+        break;
+    }
+    return preferences_commands::importAll(preferences, console.input, console.error);
+}
+
+} // namespace tovrel::verbs

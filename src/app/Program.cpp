@@ -1,0 +1,78 @@
+#include "app/Program.h"
+
+#include <exception>
+#include <new>
+
+#include "app/CommandLine.h"
+#include "app/DescriptorBuffer.h"
+#include "app/ErrorLine.h"
+#include "app/Failure.h"
+#include "app/Verbs.h"
+#include "platform/linux/PreferencesFile.h"
+#include "platform/linux/SqlitePreferencesDomain.h"
+
+namespace tovrel {
+namespace {
+
+using command_line::Invocation;
+using command_line::Verb;
+
+constexpr int failure = 1;
+constexpr int wrongUsage = 2;
+
+int runVerb(const Invocation& invocation, const Console& console) {
+    SqlitePreferencesDomain preferences(preferencesFile(invocation.preferencesFile));
+    if (invocation.verb == Verb::preferences) {
+        return verbs::preferences(invocation.preferences, invocation.asJson, preferences, console);
+    }
+    const MenuSource source = resolveMenuSource(invocation.source, console.input);
+    const TextServices textServices(invocation.localeIdentifier);
+    const verbs::Context context{invocation, console, source, preferences, textServices};
+    switch (invocation.verb) {
+    case Verb::menus:
+        return verbs::menus(context);
+    case Verb::commands:
+        return verbs::commands(context);
+    case Verb::search:
+        return verbs::search(context);
+    case Verb::press:
+        return verbs::press(context);
+    default:
+        return verbs::record(context);
+    }
+}
+
+int runParsed(const command_line::Parsed& parsed, const Console& console) {
+    if (const auto* usage = std::get_if<command_line::WrongUsage>(&parsed)) {
+        printErrorLine(console.error, usage->message);
+        return wrongUsage;
+    }
+    if (const auto* information = std::get_if<command_line::Information>(&parsed)) {
+        console.output << information->text;
+        return 0;
+    }
+    return runVerb(std::get<Invocation>(parsed), console);
+}
+
+} // namespace
+
+int runProgram(int argc, const char* const* argv, const Console& console) {
+    try {
+        const int status = runParsed(command_line::parse(argc, argv), console);
+        if (!console.output.flush()) {
+            throw Failure("the output cannot be written");
+        }
+        return status;
+    } catch (const OutputError& error) {
+        if (error.code() != std::errc::broken_pipe) {
+            printErrorLine(console.error, "the output cannot be written: " + error.code().message());
+        }
+    } catch (const std::bad_alloc&) {
+        printErrorLine(console.error, "out of memory");
+    } catch (const std::exception& error) {
+        printErrorLine(console.error, error.what());
+    }
+    return failure;
+}
+
+} // namespace tovrel

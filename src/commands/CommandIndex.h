@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "model/Command.h"
+#include "model/Rules.h"
+#include "model/ScannedMenuItem.h"
+#include "stores/CommandHistoryStore.h"
+
+namespace tovrel {
+
+/// Turns what is known about the front application into the flat list of commands that is searched.
+struct CommandIndex {
+    /// The menu commands (leaves of the tree in menu order, without the system menu and what the blacklist
+    /// rules hide), then the enabled custom commands in stored order. Disabled menu items are included.
+    /// All rules of all applications may be passed; `bundleID`, absent when unknown, selects among them.
+    /// Two menu items with the same path give two commands with the same id.
+    [[nodiscard]] static std::vector<Command>
+    buildCommands(const std::vector<ScannedMenuItem>& menuItems,
+                  const std::vector<CustomCommand>& customCommands, const std::optional<Text>& bundleID,
+                  const std::vector<MenuBlacklistRule>& blacklistRules,
+                  const std::vector<MenuCommandAliasRule>& aliasRules, CommandHistoryStore& historyStore);
+
+    /// Every node of the forest, each followed by its descendants before its next sibling.
+    [[nodiscard]] static std::vector<const ScannedMenuItem*>
+    flattenMenuItems(const std::vector<ScannedMenuItem>& items);
+
+    /// The aliases of the first rule whose scope equals `bundleID` (both absent, or both present and equal)
+    /// and whose path equals `menuPath`; empty when no rule does.
+    [[nodiscard]] static std::vector<Text>
+    aliasesForMenuPath(const std::vector<Text>& menuPath, const std::optional<Text>& bundleID,
+                       const std::vector<MenuCommandAliasRule>& aliasRules);
+};
+
+} // namespace tovrel

@@ -1,0 +1,153 @@
+#include "commands/CommandKeys.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
+#include <unicode/uscript.h>
+
+#include "commands/SearchKeys.h"
+#include "support/Utf8.h"
+
+namespace tovrel {
+namespace {
+
+void addDistinct(std::string_view key, std::vector<std::string>& keys) {
+    if (!key.empty() && std::find(keys.begin(), keys.end(), key) == keys.end()) {
+        keys.emplace_back(key);
+    }
+}
+
+/// Scripts whose transliteration of a word does not depend on the words around it. Others (Thai, whose words
+/// are found by a dictionary, or Greek, whose letters look at their neighbours) take the long way.
+bool isWordwiseScript(UScriptCode script) {
+    switch (script) {
+    case USCRIPT_LATIN:
+    case USCRIPT_CYRILLIC:
+    case USCRIPT_HIRAGANA:
+    case USCRIPT_KATAKANA:
+    case USCRIPT_HAN:
+    case USCRIPT_HANGUL:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether every character that can reach a key belongs to such a script. The prolonged sound mark of
+/// Katakana has no script of its own; it belongs to the letter before it.
+bool isWordwise(std::string_view text) {
+    constexpr char32_t prolongedSoundMark = 0x30FC;
+    for (std::size_t position = 0; position < text.size();) {
+        const bool isFirst = position == 0;
+        const char32_t codePoint = nextCodePoint(text, position);
+        if (codePoint < 0x80 || (codePoint == prolongedSoundMark && !isFirst)) {
+            continue;
+        }
+        const auto character = static_cast<UChar32>(codePoint);
+        if ((U_GET_GC_MASK(character) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) == 0) {
+            continue;
+        }
+        UErrorCode status = U_ZERO_ERROR;
+        if (!isWordwiseScript(uscript_getScript(character, &status))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Whether the first character of a key can not compose with one before it.
+bool startsFresh(std::string_view key) {
+    if (key.empty() || static_cast<unsigned char>(key.front()) < 0x80) {
+        return true;
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2* formC = icu::Normalizer2::getNFCInstance(status);
+    std::size_t position = 0;
+    return U_SUCCESS(status) &&
+           formC->hasBoundaryBefore(static_cast<UChar32>(nextCodePoint(key, position))) != 0;
+}
+
+} // namespace
+
+CommandKeyDeriver::Derived CommandKeyDeriver::derive(std::string_view text) const {
+    std::vector<std::string> variants = searchVariants(text, *textServices_);
+    Derived result{.native = std::move(variants.front()), .latin = {}, .isComposable = isWordwise(text)};
+    result.latin = variants.size() > 1 ? std::move(variants.back()) : result.native;
+    result.isComposable = result.isComposable && startsFresh(result.native) && startsFresh(result.latin);
+    return result;
+}
+
+const CommandKeyDeriver::Derived& CommandKeyDeriver::derived(const Text& text) {
+    const auto found = derived_.find(text.utf8());
+    return found != derived_.end() ? found->second
+                                   : derived_.emplace(text.utf8(), derive(text.view())).first->second;
+}
+
+void CommandKeyDeriver::addVariants(const Text& text, std::vector<std::string>& variants) {
+    const Derived& keys = derived(text);
+    addDistinct(keys.native, variants);
+    if (keys.latin != keys.native) {
+        addDistinct(keys.latin, variants);
+    }
+}
+
+void CommandKeyDeriver::addJoinedVariants(const std::vector<const Text*>& texts,
+                                          std::vector<std::string>& variants) {
+    std::vector<const Derived*> parts;
+    bool isComposable = true;
+    for (const Text* text : texts) {
+        parts.push_back(&derived(*text));
+        isComposable = isComposable && parts.back()->isComposable;
+    }
+    if (!isComposable) {
+        std::string whole;
+        for (const Text* text : texts) {
+            whole += text->utf8() + " ";
+        }
+        for (const std::string& variant : searchVariants(whole, *textServices_)) {
+            addDistinct(variant, variants);
+        }
+        return;
+    }
+    std::string native;
+    std::string latin;
+    for (const Derived* part : parts) {
+        native += part->native;
+        latin += part->latin;
+    }
+    addDistinct(native, variants);
+    if (latin != native) {
+        addDistinct(latin, variants);
+    }
+}
+
+CommandKeys CommandKeyDeriver::keysOf(const Command& command) {
+    CommandKeys keys;
+    keys.candidateVariants.reserve(command.menuPath.size() + 6);
+    for (const Text& alias : command.aliases) {
+        addVariants(alias, keys.aliasVariants);
+    }
+    std::vector<std::string>& candidates = keys.candidateVariants;
+    addVariants(command.title, candidates);
+    if (command.subtitle) {
+        addVariants(*command.subtitle, candidates);
+    }
+    if (command.shortcut) {
+        addVariants(*command.shortcut, candidates);
+    }
+    std::vector<const Text*> path;
+    for (const Text& title : command.menuPath) {
+        path.push_back(&title);
+    }
+    addJoinedVariants(path, candidates);
+    path.push_back(&command.title);
+    addJoinedVariants(path, candidates);
+    for (const Text& token : command.searchTokens) {
+        addVariants(token, candidates);
+    }
+    return keys;
+}
+
+} // namespace tovrel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "model/Command.h"
+#include "support/TextServices.h"
+
+namespace tovrel {
+
+/// Every key a command can be found by, each once within its list; none is empty.
+struct CommandKeys {
+    std::vector<std::string> aliasVariants; ///< Of its aliases.
+    std::vector<std::string>
+        candidateVariants; ///< Of its title, subtitle, shortcut, menu path and search tokens.
+};
+
+/// Derives the keys of many commands. Titles of menus come back in thousands of commands, and transliteration
+/// costs microseconds a word, so the keys of each distinct title are derived once, and those of a whole menu
+/// path are put together from them wherever that provably gives the same.
+class CommandKeyDeriver {
+  public:
+    explicit CommandKeyDeriver(const TextServices& textServices) : textServices_(&textServices) {}
+
+    CommandKeys keysOf(const Command& command);
+
+  private:
+    /// What is known about one text.
+    struct Derived {
+        std::string native;
+        std::string latin; ///< The same as `native` where transliteration changes nothing.
+        /// Whether the keys of this text after another and a space are the two texts' keys end to end.
+        bool isComposable = false;
+    };
+
+    const Derived& derived(const Text& text);
+    Derived derive(std::string_view text) const;
+    void addVariants(const Text& text, std::vector<std::string>& variants);
+    /// The variants of the texts joined with single spaces.
+    void addJoinedVariants(const std::vector<const Text*>& texts, std::vector<std::string>& variants);
+
+    const TextServices* textServices_;
+    std::unordered_map<std::string, Derived> derived_;
+};
+
+} // namespace tovrel

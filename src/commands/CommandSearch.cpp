@@ -1,0 +1,126 @@
+#include "commands/CommandSearch.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "commands/SearchKeys.h"
+#include "support/CheckedMath.h"
+
+namespace tovrel {
+namespace {
+
+constexpr std::size_t discoveryLimit = 20;
+
+} // namespace
+
+std::vector<CommandSearch::Match> CommandSearch::discoveries(const CommandSearchIndex& index) {
+    std::vector<Match> matches;
+    for (std::uint32_t entry = 0; entry < index.entries().size(); ++entry) {
+        if (const std::int64_t score = index.entries()[entry].discoveryScore; score > 0) {
+            matches.push_back({entry, score});
+        }
+    }
+    return matches;
+}
+
+std::vector<CommandSearch::Match> CommandSearch::strongMatches(const SearchQuery& query,
+                                                               const CommandSearchIndex& index) {
+    std::vector<Match> matches;
+    std::vector<std::uint32_t> entries;
+    const auto examine = [&](std::uint32_t entry) {
+        if (!index.keys().mayMatch(entry, query)) {
+            return;
+        }
+        if (const MatchScore score = index.keys().strongScore(entry, query); score > 0) {
+            matches.push_back({entry, checkedAdd(score, index.entries()[entry].rankBoost)});
+            entries.push_back(entry);
+        }
+    };
+    // A key that holds the longer query holds the shorter one it extends.
+    if (previous_ && query.key.starts_with(previous_->key) && index.sharesContentsWith(previous_->index)) {
+        std::for_each(previous_->entries.begin(), previous_->entries.end(), examine);
+    } else {
+        for (std::uint32_t entry = 0; entry < index.entries().size(); ++entry) {
+            examine(entry);
+        }
+    }
+    previous_.emplace(Narrowed{index, query.key, std::move(entries)});
+    return matches;
+}
+
+std::vector<CommandSearch::Match> CommandSearch::withLooseMatches(const std::vector<Match>& strong,
+                                                                  const SearchQuery& query,
+                                                                  const CommandSearchIndex& index) {
+    std::vector<Match> matches;
+    auto nextStrong = strong.begin();
+    for (std::uint32_t entry = 0; entry < index.entries().size(); ++entry) {
+        if (nextStrong != strong.end() && nextStrong->entry == entry) {
+            matches.push_back(*nextStrong++);
+        } else if (index.keys().mayMatch(entry, query)) {
+            if (const MatchScore score = index.keys().looseScore(entry, query); score > 0) {
+                matches.push_back({entry, checkedAdd(score, index.entries()[entry].rankBoost)});
+            }
+        }
+    }
+    return matches;
+}
+
+/// Best score first; equal scores keep their order. Scores lie close together unless the history is damaged,
+/// and are then counted instead of compared: sorting a list of thousands would cost more than finding it.
+std::vector<CommandSearch::Match> CommandSearch::ranked(std::vector<Match> matches) {
+    if (matches.empty()) {
+        return matches;
+    }
+    const auto [lowest, highest] =
+        std::minmax_element(matches.begin(), matches.end(),
+                            [](const Match& left, const Match& right) { return left.score < right.score; });
+    const std::int64_t top = highest->score;
+    constexpr std::int64_t lowestCounted = -4096;
+    if (lowest->score < lowestCounted) {
+        std::stable_sort(matches.begin(), matches.end(),
+                         [](const Match& left, const Match& right) { return left.score > right.score; });
+        return matches;
+    }
+    const auto distance = [top](const Match& match) { return static_cast<std::size_t>(top - match.score); };
+    std::vector<std::size_t> places(distance(*lowest) + 2, 0);
+    for (const Match& match : matches) {
+        ++places[distance(match) + 1];
+    }
+    for (std::size_t i = 1; i < places.size(); ++i) {
+        places[i] += places[i - 1];
+    }
+    std::vector<Match> sorted(matches.size());
+    for (const Match& match : matches) {
+        sorted[places[distance(match)]++] = match;
+    }
+    return sorted;
+}
+
+CommandSearchResults CommandSearch::search(const Text& query, const CommandSearchIndex& index) {
+    std::vector<Match> matches;
+    std::string key = normalizedKey(query.view(), index.textServices());
+    if (key.empty()) {
+        matches = ranked(discoveries(index));
+        matches.resize(std::min(matches.size(), discoveryLimit));
+    } else {
+        const SearchQuery prepared = index.keys().prepare(std::move(key));
+        matches = strongMatches(prepared, index);
+        const auto isWeak = [](const Match& match) { return match.score < strongMatchScore; };
+        if (std::all_of(matches.begin(), matches.end(), isWeak)) {
+            // A loose match scores at most 420 and a boost is at most 225: none of these can be strong.
+            matches = withLooseMatches(matches, prepared, index);
+        } else {
+            std::erase_if(matches, isWeak);
+        }
+        matches = ranked(std::move(matches));
+    }
+
+    std::vector<CommandSearchResults::Row> rows;
+    rows.reserve(matches.size());
+    for (const Match& match : matches) {
+        rows.push_back({index.entries()[match.entry].command, match.score});
+    }
+    return {index, std::move(rows)};
+}
+
+} // namespace tovrel

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "commands/CommandSearchIndex.h"
+#include "commands/CommandSearchResults.h"
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// Finds and ranks commands for what the user has typed.
+///
+/// The result depends on the arguments alone. What the object remembers of its last search only saves work:
+/// when a query's key extends the one before, over the same index, only what matched then is looked at.
+class CommandSearch {
+  public:
+    /// The commands that match `query`, as typed, best first; equal scores are ordered by title, then by
+    /// position in the command list. A score is the match score plus the entry's rank boost. Once anything
+    /// scores 680 or more, lower scores are left out. A query with no letter, digit or mark lists at most 20
+    /// commands by their discovery score instead. Never fails.
+    [[nodiscard]] CommandSearchResults search(const Text& query, const CommandSearchIndex& index);
+
+  private:
+    struct Match {
+        std::uint32_t entry = 0;
+        std::int64_t score = 0;
+    };
+
+    /// What a search leaves for the next one.
+    struct Narrowed {
+        CommandSearchIndex index;
+        std::string key;                    ///< What was searched for, not empty.
+        std::vector<std::uint32_t> entries; ///< Those that it matched more than loosely, in order.
+    };
+
+    /// All lists of matches are in the order of the entries until they are ranked.
+    [[nodiscard]] static std::vector<Match> discoveries(const CommandSearchIndex& index);
+    [[nodiscard]] std::vector<Match> strongMatches(const SearchQuery& query, const CommandSearchIndex& index);
+    [[nodiscard]] static std::vector<Match> withLooseMatches(const std::vector<Match>& strong,
+                                                             const SearchQuery& query,
+                                                             const CommandSearchIndex& index);
+    [[nodiscard]] static std::vector<Match> ranked(std::vector<Match> matches);
+
+    std::optional<Narrowed> previous_;
+};
+
+} // namespace tovrel

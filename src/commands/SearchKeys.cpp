@@ -1,0 +1,57 @@
+#include "commands/SearchKeys.h"
+
+#include <unicode/uchar.h>
+
+#include "support/Utf8.h"
+
+namespace tovrel {
+namespace {
+
+bool isAlphanumeric(char32_t codePoint) {
+    return (U_GET_GC_MASK(static_cast<UChar32>(codePoint)) & (U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK)) != 0;
+}
+
+bool isAsciiAlphanumeric(char byte) {
+    return (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z');
+}
+
+} // namespace
+
+std::string normalizedKey(std::string_view text, const TextServices& textServices) {
+    const std::string lowered = textServices.lowercased(textServices.folded(text));
+    std::string key;
+    key.reserve(lowered.size());
+    bool isAllAscii = true;
+    for (std::size_t position = 0; position < lowered.size();) {
+        const char byte = lowered[position];
+        if (static_cast<unsigned char>(byte) < 0x80) {
+            ++position;
+            if (isAsciiAlphanumeric(byte)) {
+                key += byte;
+            }
+            continue;
+        }
+        const std::size_t start = position;
+        if (isAlphanumeric(nextCodePoint(lowered, position))) {
+            key.append(lowered, start, position - start);
+            isAllAscii = false;
+        }
+    }
+    // What stood between two characters is gone, so that they may compose now.
+    return isAllAscii ? key : textServices.composed(key);
+}
+
+std::vector<std::string> searchVariants(std::string_view text, const TextServices& textServices) {
+    std::vector<std::string> variants{normalizedKey(text, textServices)};
+    if (TextServices::hasNonLatinScript(text)) {
+        if (const std::optional<std::string> latin = textServices.transliteratedToLatin(text)) {
+            std::string key = normalizedKey(*latin, textServices);
+            if (key != variants.front()) {
+                variants.push_back(std::move(key));
+            }
+        }
+    }
+    return variants;
+}
+
+} // namespace tovrel

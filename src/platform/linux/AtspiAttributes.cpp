@@ -1,0 +1,92 @@
+#include "platform/linux/AtspiAttributes.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace tovrel {
+namespace {
+
+bool is(const AtspiNode& node, AtspiState state) {
+    return node.states && holds(*node.states, state);
+}
+
+bool isPartOfMenu(const AtspiNode& node) {
+    switch (node.role.value_or(AtspiRole::separator)) {
+    case AtspiRole::menuBar:
+    case AtspiRole::menu:
+    case AtspiRole::menuItem:
+    case AtspiRole::checkMenuItem:
+    case AtspiRole::radioMenuItem:
+    case AtspiRole::popupMenu:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isHidden(const AtspiNode& node, const AtspiMenuTree& tree, bool visibilityIsTold) {
+    if (!node.states) {
+        return false;
+    }
+    if (tree.toolkit == AtspiToolkit::gtk) {
+        return visibilityIsTold && !is(node, AtspiState::visible);
+    }
+    return tree.toolkit == AtspiToolkit::qt && !is(node, AtspiState::sensitive) && node.hasComponent == false;
+}
+
+/// A container's own states are not read: it is as enabled as its menu. A disabled ancestor disables all.
+std::optional<bool> isEnabled(const AtspiNode& node, std::optional<bool> parentIsEnabled) {
+    if (parentIsEnabled == false || !node.states) {
+        return node.role == AtspiRole::popupMenu || parentIsEnabled == false ? parentIsEnabled : std::nullopt;
+    }
+    return is(node, AtspiState::sensitive);
+}
+
+} // namespace
+
+std::vector<AtspiAttributes> atspiAttributes(const AtspiMenuTree& tree) {
+    const bool visibilityIsTold =
+        std::any_of(tree.nodes.begin(), tree.nodes.end(),
+                    [](const AtspiNode& node) { return is(node, AtspiState::visible); });
+    std::vector<AtspiAttributes> all(tree.nodes.size());
+    // A node stands behind its parent, so that one pass forwards sees parents first, one backwards children.
+    for (std::size_t index = 0; index < all.size(); ++index) {
+        const AtspiNode& node = tree.nodes[index];
+        AtspiAttributes& attributes = all[index];
+        const std::string_view name = node.name ? std::string_view(*node.name) : std::string_view();
+        const std::size_t tab = name.find('\t');
+        attributes.title = trimmed(Text(name.substr(0, tab)));
+        attributes.shortcut = menuShortcut(node.keyBinding, tree.toolkit,
+                                           tab == std::string_view::npos ? "" : name.substr(tab + 1));
+        attributes.isChecked = is(node, AtspiState::checked);
+        if (index > 0) {
+            attributes.isEnabled = isEnabled(node, all[node.parent].isEnabled);
+        } else {
+            attributes.isEnabled = true;
+        }
+    }
+    for (std::size_t index = all.size(); index-- > 0;) {
+        std::vector<std::size_t>& children = all[index].children;
+        std::copy_if(tree.nodes[index].children.begin(), tree.nodes[index].children.end(),
+                     std::back_inserter(children), [&](std::size_t child) {
+                         const AtspiNode& node = tree.nodes[child];
+                         return isPartOfMenu(node) && !isHidden(node, tree, visibilityIsTold) &&
+                                !(all[child].title.empty() && all[child].children.empty());
+                     });
+    }
+    return all;
+}
+
+std::vector<Text> atspiMenuPath(const AtspiMenuTree& tree, const std::vector<AtspiAttributes>& attributes,
+                                std::size_t node) {
+    std::vector<Text> path;
+    for (; node != 0; node = tree.nodes[node].parent) {
+        if (!attributes[node].title.empty()) {
+            path.push_back(attributes[node].title);
+        }
+    }
+    std::reverse(path.begin(), path.end());
+    return path;
+}
+
+} // namespace tovrel

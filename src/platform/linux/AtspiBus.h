@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/linux/DBus.h"
+
+namespace tovrel {
+
+/// An application on the accessibility bus.
+struct AtspiApplication {
+    std::string busName; ///< Unique name, such as ":1.7".
+    std::string root;    ///< Path of its application object.
+    std::int32_t processIdentifier = 0;
+};
+
+/// The accessibility bus: a message bus of its own, whose address is found when it is first needed. No
+/// application is asked here, only the bus and the registry on it, so a hung application delays nothing.
+class AtspiBus {
+  public:
+    /// `addressOnScreen` answers the address that the display's root window carries, which is the only source
+    /// left when the session bus is out of reach; it may be empty.
+    explicit AtspiBus(std::function<std::optional<std::string>()> addressOnScreen = {});
+
+    /// The connection, opened anew when there is none or the last one was lost; null when there is no bus.
+    /// Stays valid until `connection` or `disconnect` is called again.
+    [[nodiscard]] DBusConnection* connection();
+
+    /// Drops the connection: late answers to calls that were given up are then no longer kept by anyone.
+    void disconnect() { connection_.reset(); }
+
+    /// Whether the bus answers (waiting at most half a second).
+    [[nodiscard]] bool answers();
+
+    /// Whether accessibility is enabled for toolkits: IsEnabled of org.a11y.Status on the session bus. GTK
+    /// registers on the accessibility bus regardless, Qt and Firefox only when it is. False when unknown.
+    [[nodiscard]] bool isEnabled() const;
+
+    /// The applications on the bus that have a process identifier; absent when the registry does not answer
+    /// within half a second.
+    [[nodiscard]] std::optional<std::vector<AtspiApplication>> applications();
+
+  private:
+    [[nodiscard]] std::optional<std::string> address() const;
+
+    std::function<std::optional<std::string>()> addressOnScreen_;
+    std::optional<DBusConnection> connection_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/linux/AtspiCalls.h"
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// A menu bar as far as it was read, and how that went.
+struct AtspiMenuReading {
+    AtspiMenuTree tree;
+    MenuReadReport report;
+};
+
+/// Reads the menu bar of the front window of the application that owns `busName`, whose application object is
+/// at `root`; `windowTitle` helps to tell its windows apart (see `findAtspiMenuBar`).
+///
+/// Whatever the application does, the read ends within the limits: it asks nothing of objects of other
+/// applications, meets no object twice and stops at the stated time, number of objects and depth. `started`
+/// is when the caller began, which the total time counts from.
+AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& busName,
+                                const std::string& root, const std::optional<Text>& windowTitle,
+                                const AtspiLimits& limits, SteadyTime started);
+
+} // namespace tovrel

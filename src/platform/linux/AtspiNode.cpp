@@ -1,0 +1,15 @@
+#include "platform/linux/AtspiNode.h"
+
+namespace tovrel {
+
+AtspiToolkit atspiToolkit(std::string_view toolkitName) {
+    if (toolkitName == "gtk" || toolkitName == "GAIL") {
+        return AtspiToolkit::gtk;
+    }
+    if (toolkitName == "Qt") {
+        return AtspiToolkit::qt;
+    }
+    return toolkitName == "Gecko" ? AtspiToolkit::gecko : AtspiToolkit::other;
+}
+
+} // namespace tovrel

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tovrel {
+
+/// The roles the menu reader knows, by their numbers in the AT-SPI2 protocol (org.a11y.atspi.Accessible,
+/// GetRole). Any other number may occur.
+enum class AtspiRole : std::uint32_t {
+    checkBox = 7,
+    checkMenuItem = 8,
+    comboBox = 11,
+    drawingArea = 18,
+    frame = 23,
+    icon = 26,
+    image = 27,
+    label = 29,
+    list = 31,
+    listItem = 32,
+    menu = 33,
+    menuBar = 34,
+    menuItem = 35,
+    passwordText = 40,
+    popupMenu = 41,
+    progressBar = 42,
+    pushButton = 43,
+    radioButton = 44,
+    radioMenuItem = 45,
+    scrollBar = 48,
+    separator = 50,
+    slider = 51,
+    spinButton = 52,
+    statusBar = 54,
+    table = 55,
+    tearOffMenuItem = 59,
+    terminal = 60,
+    text = 61,
+    toggleButton = 62,
+    tree = 65,
+    treeTable = 66,
+    paragraph = 73,
+    entry = 79,
+    documentFrame = 82,
+    heading = 83,
+    link = 88,
+    documentSpreadsheet = 92,
+    documentPresentation = 93,
+    documentText = 94,
+    documentWeb = 95,
+    documentEmail = 96,
+    listBox = 98,
+};
+
+/// The state bits the menu reader uses (bit i of word i/32 of org.a11y.atspi.Accessible.GetState).
+enum class AtspiState : std::uint8_t { active = 1, checked = 4, sensitive = 24, visible = 30 };
+
+/// The two words of a state set as one number.
+using AtspiStates = std::uint64_t;
+
+inline bool holds(AtspiStates states, AtspiState state) {
+    return ((states >> static_cast<unsigned>(state)) & 1U) != 0;
+}
+
+/// What builds an application's user interface, as far as menus differ by it.
+enum class AtspiToolkit {
+    gtk,   ///< GTK 2 and 3, and what imitates them through ATK (LibreOffice).
+    qt,    ///< Qt 5 and 6.
+    gecko, ///< Firefox and its relatives.
+    other,
+};
+
+/// From the property ToolkitName of org.a11y.atspi.Application.
+AtspiToolkit atspiToolkit(std::string_view toolkitName);
+
+/// One object of a menu tree as the application answered. What was not asked or not answered is absent.
+struct AtspiNode {
+    std::string path; ///< D-Bus object path.
+    std::size_t parent = 0;
+    std::size_t depth = 0; ///< Below the menu bar, which has 0.
+    std::optional<AtspiRole> role;
+    std::optional<std::string> name;
+    std::optional<AtspiStates> states;
+    std::string keyBinding; ///< Of org.a11y.atspi.Action.GetKeyBinding(0), unchanged.
+    std::optional<bool>
+        hasComponent; ///< Implements org.a11y.atspi.Component; asked in Qt, where hidden items lack it.
+    std::vector<std::size_t> children; ///< Positions in the tree, each after the node's own.
+};
+
+/// An application's menu bar, a plain value.
+struct AtspiMenuTree {
+    AtspiToolkit toolkit = AtspiToolkit::other;
+    std::string busName;          ///< Of the application on the accessibility bus.
+    std::vector<AtspiNode> nodes; ///< The menu bar first; empty when there is none.
+};
+
+} // namespace tovrel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// What this program uses of a desktop entry (Desktop Entry Specification 1.5).
+struct DesktopEntry {
+    Text identifier;            ///< Desktop-file id without ".desktop", such as "org.xfce.mousepad".
+    Text name;                  ///< In the user's language where the entry has it.
+    std::string icon;           ///< Icon name or absolute path; may be empty.
+    std::string startupWMClass; ///< WM_CLASS of its windows; may be empty.
+    std::string exec;           ///< Command line, unexpanded; may be empty.
+    bool terminal = false;      ///< Runs inside a terminal, without windows of its own.
+    bool noDisplay = false;     ///< Not meant for menus.
+    bool hidden = false;        ///< The user or administrator deleted it, and with it those of the same id.
+};
+
+/// Reads the text of a desktop-entry file. `locale` is a POSIX locale such as "de_AT.UTF-8@euro", which
+/// chooses the name. Absent when it is not an application's entry with a name, unless it is hidden; lines
+/// that make no sense are passed over.
+std::optional<DesktopEntry> parseDesktopEntry(std::string_view text, std::string_view locale);
+
+/// The program that an Exec line starts: the last part of its path, looked for behind "env" and assignments.
+/// Empty when there is none.
+std::string executableName(std::string_view exec);
+
+/// Whether the Exec line has arguments of its own, beside the places for files and the like (%U).
+bool hasOwnArguments(std::string_view exec);
+
+} // namespace tovrel

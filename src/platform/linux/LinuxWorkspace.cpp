@@ -1,0 +1,74 @@
+#include "platform/linux/LinuxWorkspace.h"
+
+#include <set>
+#include <utility>
+
+#include "platform/linux/Process.h"
+
+namespace tovrel {
+namespace {
+
+constexpr std::chrono::milliseconds focusChangePatience{50};
+
+} // namespace
+
+LinuxWorkspace::LinuxWorkspace(std::shared_ptr<X11Windows> windows, std::shared_ptr<AtspiBus> bus,
+                               std::shared_ptr<DesktopEntries> entries)
+    : windows_(std::move(windows)), bus_(std::move(bus)), entries_(std::move(entries)) {}
+
+std::shared_ptr<RunningApplication> LinuxWorkspace::frontApplication() {
+    const auto window = windows_->activeWindow(std::chrono::steady_clock::now() + focusChangePatience);
+    if (!window || !window->processIdentifier) {
+        return nullptr;
+    }
+    return std::make_shared<LinuxRunningApplication>(*window->processIdentifier, window, *entries_);
+}
+
+bool LinuxWorkspace::activate(const RunningApplication& application) {
+    const auto window = windows_->frontWindow(application.processIdentifier());
+    return window && windows_->activate(window->identifier);
+}
+
+bool LinuxWorkspace::waitUntilFront(const RunningApplication& application,
+                                    std::chrono::milliseconds patience) {
+    return windows_->waitUntilActive(application.processIdentifier(),
+                                     std::chrono::steady_clock::now() + patience);
+}
+
+std::shared_ptr<LinuxRunningApplication>
+LinuxWorkspace::applicationWithProcessIdentifier(std::int32_t processIdentifier) {
+    if (!processStartTime(processIdentifier)) {
+        return nullptr;
+    }
+    return std::make_shared<LinuxRunningApplication>(processIdentifier,
+                                                     windows_->frontWindow(processIdentifier), *entries_);
+}
+
+std::vector<std::shared_ptr<LinuxRunningApplication>>
+LinuxWorkspace::applicationsWithIdentifier(const Text& identifier) {
+    auto applications = runningApplications();
+    std::erase_if(applications,
+                  [&](const auto& application) { return application->bundleIdentifier() != identifier; });
+    return applications;
+}
+
+std::vector<std::shared_ptr<LinuxRunningApplication>> LinuxWorkspace::runningApplications() {
+    std::vector<std::shared_ptr<LinuxRunningApplication>> applications;
+    std::set<std::int32_t> met;
+    for (const X11Window& window : windows_->windows()) {
+        if (window.processIdentifier && met.insert(*window.processIdentifier).second) {
+            applications.push_back(
+                std::make_shared<LinuxRunningApplication>(*window.processIdentifier, window, *entries_));
+        }
+    }
+    for (const AtspiApplication& application :
+         bus_->applications().value_or(std::vector<AtspiApplication>())) {
+        if (met.insert(application.processIdentifier).second) {
+            applications.push_back(std::make_shared<LinuxRunningApplication>(application.processIdentifier,
+                                                                             std::nullopt, *entries_));
+        }
+    }
+    return applications;
+}
+
+} // namespace tovrel

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "platform/Workspace.h"
+#include "platform/linux/AtspiBus.h"
+#include "platform/linux/DesktopEntries.h"
+#include "platform/linux/LinuxRunningApplication.h"
+#include "platform/linux/X11Windows.h"
+
+namespace tovrel {
+
+/// The applications of an X11 desktop. Without a display there is no front application, and those that run
+/// are the ones on the accessibility bus.
+class LinuxWorkspace : public Workspace {
+  public:
+    LinuxWorkspace(std::shared_ptr<X11Windows> windows, std::shared_ptr<AtspiBus> bus,
+                   std::shared_ptr<DesktopEntries> entries);
+
+    /// The application of the active window. A desktop that is just changing it is given 50 ms; the change
+    /// takes a few where it was seen.
+    [[nodiscard]] std::shared_ptr<RunningApplication> frontApplication() override;
+
+    bool activate(const RunningApplication& application) override;
+
+    /// Waits until a window of the application is active, as it soon is after `activate`.
+    bool waitUntilFront(const RunningApplication& application, std::chrono::milliseconds patience);
+
+    /// Null when there is no such process.
+    [[nodiscard]] std::shared_ptr<LinuxRunningApplication>
+    applicationWithProcessIdentifier(std::int32_t processIdentifier);
+
+    /// The running applications with this identifier, the one with the topmost window first.
+    [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>>
+    applicationsWithIdentifier(const Text& identifier);
+
+    /// Each process that has a window or is on the accessibility bus, those with windows first and the one
+    /// with the topmost window before the others.
+    [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>> runningApplications();
+
+  private:
+    std::shared_ptr<X11Windows> windows_;
+    std::shared_ptr<AtspiBus> bus_;
+    std::shared_ptr<DesktopEntries> entries_;
+};
+
+} // namespace tovrel

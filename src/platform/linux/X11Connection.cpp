@@ -1,0 +1,127 @@
+#include "platform/linux/X11Connection.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <poll.h>
+
+namespace tovrel {
+namespace {
+
+struct Free {
+    void operator()(void* memory) const { std::free(memory); } // NOLINT: xcb allocates its replies so
+};
+template <typename Reply>
+using Owned = std::unique_ptr<Reply, Free>;
+
+/// In units of four bytes, as the protocol counts.
+constexpr std::uint32_t longestProperty = 16 * 1024;
+
+Owned<xcb_get_property_reply_t> property(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t name,
+                                         std::uint8_t format) {
+    xcb_generic_error_t* error = nullptr;
+    const auto cookie =
+        xcb_get_property(connection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, longestProperty);
+    Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, cookie, &error));
+    const Owned<xcb_generic_error_t> owned(error); // The window may be gone by now.
+    return reply && reply->format == format ? std::move(reply) : nullptr;
+}
+
+} // namespace
+
+X11Connection::X11Connection(const char* display) {
+    int screen = 0;
+    connection_.reset(xcb_connect(display, &screen));
+    if (!isOpen()) {
+        return;
+    }
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection_.get()));
+    for (; screens.rem > 0; xcb_screen_next(&screens), --screen) {
+        if (screen == 0) {
+            root_ = screens.data->root;
+            break;
+        }
+    }
+}
+
+bool X11Connection::isOpen() const {
+    return connection_ && xcb_connection_has_error(connection_.get()) == 0;
+}
+
+xcb_atom_t X11Connection::atom(const char* name) {
+    const auto known = atoms_.find(name);
+    if (known != atoms_.end()) {
+        return known->second;
+    }
+    const auto cookie =
+        xcb_intern_atom(connection_.get(), 0, static_cast<std::uint16_t>(std::strlen(name)), name);
+    const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_.get(), cookie, nullptr));
+    if (!reply) {
+        return XCB_ATOM_NONE;
+    }
+    return atoms_.emplace(name, reply->atom).first->second;
+}
+
+std::optional<std::string> X11Connection::bytes(xcb_window_t window, const char* name) {
+    const auto reply = isOpen() ? property(connection_.get(), window, atom(name), 8) : nullptr;
+    if (!reply) {
+        return std::nullopt;
+    }
+    const auto length = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
+    return std::string(static_cast<const char*>(xcb_get_property_value(reply.get())), length);
+}
+
+std::vector<std::uint32_t> X11Connection::numbers(xcb_window_t window, const char* name) {
+    const auto reply = isOpen() ? property(connection_.get(), window, atom(name), 32) : nullptr;
+    if (!reply) {
+        return {};
+    }
+    const auto* values = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    return {values, values + xcb_get_property_value_length(reply.get()) / 4};
+}
+
+void X11Connection::watchRootProperties() {
+    if (isOpen()) {
+        const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+        xcb_change_window_attributes(connection_.get(), root_, XCB_CW_EVENT_MASK, &mask);
+        xcb_flush(connection_.get());
+    }
+}
+
+bool X11Connection::waitForPropertyChange(std::chrono::steady_clock::time_point deadline) {
+    bool hasChanged = false;
+    while (isOpen() && !hasChanged) {
+        while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
+            hasChanged = hasChanged || (event->response_type & 0x7FU) == XCB_PROPERTY_NOTIFY;
+        }
+        const auto left =
+            std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (hasChanged || left.count() <= 0) {
+            break;
+        }
+        pollfd readable{xcb_get_file_descriptor(connection_.get()), POLLIN, 0};
+        poll(&readable, 1, static_cast<int>(left.count()));
+    }
+    return hasChanged;
+}
+
+bool X11Connection::sendToWindowManager(xcb_window_t window, const char* message,
+                                        const std::vector<std::uint32_t>& data) {
+    if (!isOpen()) {
+        return false;
+    }
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = atom(message);
+    std::copy_n(data.begin(), std::min<std::size_t>(data.size(), 5), &event.data.data32[0]);
+    constexpr std::uint32_t toWindowManager =
+        XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    const auto cookie = xcb_send_event_checked(connection_.get(), 0, root_, toWindowManager,
+                                               reinterpret_cast<const char*>(&event));
+    const Owned<xcb_generic_error_t> error(xcb_request_check(connection_.get(), cookie));
+    return !error && isOpen();
+}
+
+} // namespace tovrel

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include <xcb/xcb.h>
+
+namespace tovrel {
+
+/// A connection to the X server of this process's environment, and what it is asked here. Without a server
+/// every question has an absent answer.
+class X11Connection {
+  public:
+    /// Connects to `display`, or to $DISPLAY when null.
+    explicit X11Connection(const char* display = nullptr);
+
+    [[nodiscard]] bool isOpen() const;
+
+    /// The root window of the connection's screen; 0 without a server.
+    [[nodiscard]] xcb_window_t root() const { return root_; }
+
+    /// The bytes of a property of 8-bit items, whatever its type says; absent when the window lacks it or is
+    /// gone. At most 64 KiB are read.
+    [[nodiscard]] std::optional<std::string> bytes(xcb_window_t window, const char* property);
+    /// The values of a property of 32-bit items, such as window identifiers and numbers. At most 16,384.
+    [[nodiscard]] std::vector<std::uint32_t> numbers(xcb_window_t window, const char* property);
+
+    /// From now on `waitForPropertyChange` notices changes of the root window's properties.
+    void watchRootProperties();
+    /// Waits until a watched property may have changed. False at the deadline, or when the server is gone.
+    bool waitForPropertyChange(std::chrono::steady_clock::time_point deadline);
+
+    /// Sends a message about a window to the window manager. False when it could not be sent.
+    bool sendToWindowManager(xcb_window_t window, const char* message,
+                             const std::vector<std::uint32_t>& data);
+
+  private:
+    struct Disconnect {
+        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+    };
+
+    xcb_atom_t atom(const char* name);
+
+    std::unique_ptr<xcb_connection_t, Disconnect> connection_;
+    xcb_window_t root_ = 0;
+    std::unordered_map<std::string, xcb_atom_t> atoms_;
+};
+
+} // namespace tovrel

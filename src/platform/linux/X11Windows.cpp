@@ -1,0 +1,132 @@
+#include "platform/linux/X11Windows.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <string_view>
+#include <tuple>
+#include <unistd.h>
+#include <utility>
+
+namespace tovrel {
+namespace {
+
+/// The process identifier of a window counts only together with the machine it belongs to.
+bool isThisMachine(const std::optional<std::string>& clientMachine) {
+    std::array<char, 256> name{};
+    if (!clientMachine || gethostname(name.data(), name.size() - 1) != 0) {
+        return true;
+    }
+    // Some programs write the name with a domain, some with the final NUL.
+    const std::string_view machine(clientMachine->c_str());
+    const std::string_view own(name.data());
+    return machine.substr(0, machine.find('.')) == own.substr(0, own.find('.'));
+}
+
+/// Two strings, each ended by a NUL.
+std::pair<std::string, std::string> classParts(const std::string& property) {
+    const std::size_t end = property.find('\0');
+    if (end == std::string::npos) {
+        return {property, ""};
+    }
+    return {property.substr(0, end), property.substr(end + 1).c_str()};
+}
+
+} // namespace
+
+X11Windows::X11Windows(const char* display) : connection_(display) {
+    connection_.watchRootProperties();
+}
+
+xcb_window_t X11Windows::activeWindowIdentifier() {
+    const auto active = connection_.numbers(connection_.root(), "_NET_ACTIVE_WINDOW");
+    return active.empty() ? 0 : active.front();
+}
+
+std::optional<X11Window> X11Windows::activeWindow(std::chrono::steady_clock::time_point deadline) {
+    do {
+        if (const xcb_window_t active = activeWindowIdentifier(); active != 0) {
+            return describe(active);
+        }
+    } while (connection_.waitForPropertyChange(deadline));
+    return std::nullopt;
+}
+
+std::vector<xcb_window_t> X11Windows::topmostFirst() {
+    auto identifiers = connection_.numbers(connection_.root(), "_NET_CLIENT_LIST_STACKING");
+    if (identifiers.empty()) {
+        identifiers = connection_.numbers(connection_.root(), "_NET_CLIENT_LIST");
+    }
+    std::reverse(identifiers.begin(), identifiers.end());
+    return identifiers;
+}
+
+std::vector<X11Window> X11Windows::windows() {
+    const auto identifiers = topmostFirst();
+    std::vector<X11Window> described;
+    described.reserve(identifiers.size());
+    std::transform(identifiers.begin(), identifiers.end(), std::back_inserter(described),
+                   [this](xcb_window_t window) { return describe(window); });
+    return described;
+}
+
+std::optional<X11Window> X11Windows::frontWindow(std::int32_t processIdentifier) {
+    std::vector<xcb_window_t> candidates = topmostFirst();
+    candidates.insert(candidates.begin(), activeWindowIdentifier());
+    for (const xcb_window_t window : candidates) {
+        if (window != 0 && processOf(window) == processIdentifier) {
+            return describe(window);
+        }
+    }
+    return std::nullopt;
+}
+
+bool X11Windows::activate(xcb_window_t window) {
+    // From a pager, which is obeyed whichever window has the user's attention; no time, no own window.
+    constexpr std::uint32_t fromPager = 2;
+    return connection_.sendToWindowManager(window, "_NET_ACTIVE_WINDOW", {fromPager, XCB_CURRENT_TIME, 0});
+}
+
+bool X11Windows::waitUntilActive(std::int32_t processIdentifier,
+                                 std::chrono::steady_clock::time_point deadline) {
+    do {
+        const xcb_window_t active = activeWindowIdentifier();
+        if (active != 0 && processOf(active) == processIdentifier) {
+            return true;
+        }
+    } while (connection_.waitForPropertyChange(deadline));
+    return false;
+}
+
+std::optional<std::string> X11Windows::accessibilityBusAddress() {
+    auto address = connection_.bytes(connection_.root(), "AT_SPI_BUS");
+    return address && !address->empty() ? std::optional<std::string>(address->c_str()) : std::nullopt;
+}
+
+std::optional<std::int32_t> X11Windows::processOf(xcb_window_t window) {
+    const auto process = connection_.numbers(window, "_NET_WM_PID");
+    return !process.empty() && isThisMachine(connection_.bytes(window, "WM_CLIENT_MACHINE"))
+               ? std::optional(static_cast<std::int32_t>(process.front()))
+               : std::nullopt;
+}
+
+X11Window X11Windows::describe(xcb_window_t window) {
+    X11Window described;
+    described.identifier = window;
+    described.processIdentifier = processOf(window);
+    auto title = connection_.bytes(window, "_NET_WM_NAME");
+    if (!title) {
+        title = connection_.bytes(window, "WM_NAME");
+    }
+    described.title = Text(title.value_or(""));
+    std::tie(described.instanceName, described.className) =
+        classParts(connection_.bytes(window, "WM_CLASS").value_or(""));
+    auto application = connection_.bytes(window, "_GTK_APPLICATION_ID");
+    if (!application) {
+        application = connection_.bytes(window, "_KDE_NET_WM_DESKTOP_FILE");
+    }
+    described.applicationIdentifier = application.value_or("");
+    return described;
+}
+
+} // namespace tovrel

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/linux/X11Connection.h"
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// What an application window says of itself (EWMH 1.5, ICCCM 2.0, and what GTK and KDE add).
+struct X11Window {
+    xcb_window_t identifier = 0;
+    std::optional<std::int32_t> processIdentifier; ///< Of a process of this machine (_NET_WM_PID).
+    Text title;                                    ///< _NET_WM_NAME, else WM_NAME.
+    std::string instanceName;                      ///< First part of WM_CLASS.
+    std::string className;                         ///< Second part of WM_CLASS.
+    std::string applicationIdentifier;             ///< _GTK_APPLICATION_ID, else _KDE_NET_WM_DESKTOP_FILE.
+};
+
+/// The application windows of an X display, read anew at each question. Without a display there are none.
+class X11Windows {
+  public:
+    explicit X11Windows(const char* display = nullptr);
+
+    [[nodiscard]] bool isAvailable() const { return connection_.isOpen(); }
+
+    /// The active window. While the focus changes the desktop names none for a moment, which is waited out
+    /// until the deadline.
+    [[nodiscard]] std::optional<X11Window> activeWindow(std::chrono::steady_clock::time_point deadline);
+
+    /// All application windows, the topmost first.
+    [[nodiscard]] std::vector<X11Window> windows();
+    /// The active window of this process if it has it, else its topmost.
+    [[nodiscard]] std::optional<X11Window> frontWindow(std::int32_t processIdentifier);
+
+    /// Asks the window manager to activate the window.
+    bool activate(xcb_window_t window);
+    /// Waits until a window of this process is active; whether one is.
+    bool waitUntilActive(std::int32_t processIdentifier, std::chrono::steady_clock::time_point deadline);
+
+    /// The accessibility bus's address as the display carries it.
+    [[nodiscard]] std::optional<std::string> accessibilityBusAddress();
+
+  private:
+    [[nodiscard]] xcb_window_t activeWindowIdentifier();
+    [[nodiscard]] std::vector<xcb_window_t> topmostFirst();
+    [[nodiscard]] std::optional<std::int32_t> processOf(xcb_window_t window);
+    [[nodiscard]] X11Window describe(xcb_window_t window);
+
+    X11Connection connection_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "model/Rules.h"
+#include "platform/PreferencesDomain.h"
+#include "support/Text.h"
+#include "support/TextServices.h"
+
+namespace tovrel {
+
+/// The user's rules for applications and their menus, each kind in one JSON document of the preferences
+/// domain: "rules.appBehaviors", "rules.defaultAppBehavior", "rules.menuBlacklistRules" and
+/// "rules.menuCommandAliasRules". A plain value that keeps nothing itself: copies on one domain always agree.
+///
+/// Every read decodes afresh, every change rewrites its whole document. A document that is absent or
+/// unreadable reads as empty (the default behaviour as `enabled`), and the next change replaces it; nothing
+/// is reported.
+class RulesStore {
+  public:
+    /// The domain and the text services must outlive the store and its copies.
+    RulesStore(PreferencesDomain& defaults, const TextServices& text);
+
+    /// How applications without an entry of their own behave.
+    [[nodiscard]] AppBehaviorRule defaultBehavior() const;
+
+    /// Leaves the entries of single applications as they are, also those that now equal the default.
+    void setDefaultBehavior(AppBehaviorRule rule);
+
+    /// The application's own entry, else the default.
+    [[nodiscard]] AppBehaviorRule behavior(const Text& bundleID) const;
+
+    /// Stores the entry of an application, or removes it when it equals the default.
+    void setBehavior(AppBehaviorRule rule, const Text& bundleID);
+    void removeBehavior(const Text& bundleID);
+
+    /// Every entry, by bundle identifier as the user's locale orders it, ignoring case.
+    [[nodiscard]] std::vector<AppBehaviorSetting> appBehaviorSettings() const;
+
+    /// In the order in which they were added.
+    [[nodiscard]] std::vector<MenuBlacklistRule> menuBlacklistRules() const;
+
+    /// Appends a rule with a fresh id, also when an equal one is there. Without a bundle identifier it is for
+    /// every application.
+    void addMenuBlacklistRule(const std::optional<Text>& bundleID, const std::vector<Text>& path,
+                              MenuBlacklistMode mode);
+    void removeMenuBlacklistRule(const Text& id);
+
+    /// In the order in which they were last set.
+    [[nodiscard]] std::vector<MenuCommandAliasRule> menuCommandAliasRules() const;
+
+    /// Replaces the aliases of one menu command, normalised; its rule moves to the end of the list. Without
+    /// any alias left the rule is removed.
+    void setMenuCommandAliases(const std::optional<Text>& bundleID, const std::vector<Text>& path,
+                               const std::vector<Text>& aliases);
+
+    /// The aliases trimmed, without empty ones, and of those alike but for case only the first.
+    [[nodiscard]] std::vector<Text> normalizedAliases(const std::vector<Text>& aliases) const;
+
+  private:
+    PreferencesDomain& defaults_;
+    const TextServices& text_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,143 @@
+#include <array>
+#include <memory>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "platform/PreferencesDomain.h"
+#include "platform/linux/SqlitePreferencesDomain.h"
+#include "platform/memory/MemoryPreferencesDomain.h"
+#include "support/TemporaryDirectory.h"
+
+namespace tovrel {
+namespace {
+
+struct MemoryDomain {
+    MemoryPreferencesDomain domain;
+};
+
+struct SqliteDomain {
+    testing_support::TemporaryDirectory directory;
+    SqlitePreferencesDomain domain{directory.path() / "preferences.sqlite",
+                                   [](const std::string& line) { ADD_FAILURE() << line; }};
+};
+
+std::string everyByte() {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte) {
+        bytes += static_cast<char>(byte);
+    }
+    return bytes;
+}
+
+template <typename Implementation>
+class PreferencesDomainContract : public testing::Test {
+  protected:
+    PreferencesDomain& domain() { return implementation_.domain; }
+
+  private:
+    Implementation implementation_;
+};
+
+using Implementations = testing::Types<MemoryDomain, SqliteDomain>;
+
+class ImplementationNames {
+  public:
+    template <typename Implementation>
+    static std::string
+    GetName(int /*index*/) { // NOLINT(readability-identifier-naming): a name of the framework
+        return std::is_same_v<Implementation, MemoryDomain> ? "Memory" : "Sqlite";
+    }
+};
+
+TYPED_TEST_SUITE(PreferencesDomainContract, Implementations, ImplementationNames);
+
+TYPED_TEST(PreferencesDomainContract, StartsEmptyAndRemovingNothingSucceeds) {
+    PreferencesDomain& domain = this->domain();
+    EXPECT_EQ(domain.value("key"), std::nullopt);
+    EXPECT_TRUE(domain.lastReadSucceeded());
+    EXPECT_TRUE(domain.all().empty());
+    EXPECT_TRUE(domain.remove("key"));
+    EXPECT_TRUE(domain.setAll({}));
+    EXPECT_TRUE(domain.all().empty());
+}
+
+TYPED_TEST(PreferencesDomainContract, GivesBackEveryValueWithItsTypeAndBytes) {
+    PreferencesDomain& domain = this->domain();
+    const std::array<PreferenceValue, 10> values{PreferenceData{everyByte()},
+                                                 PreferenceData{""},
+                                                 PreferenceData{"text"},
+                                                 PreferenceData{"1"},
+                                                 Text("text"),
+                                                 Text(""),
+                                                 Text(std::string("a\0b", 3)),
+                                                 Text("E\u0301 \U0001F3A8"),
+                                                 true,
+                                                 false};
+    for (const PreferenceValue& value : values) {
+        ASSERT_TRUE(domain.set("key", value)); // each replaces the one before, of whatever type
+        EXPECT_EQ(domain.value("key"), value) << value.index();
+    }
+    // Equal texts may differ in their bytes; the bytes are what was given.
+    ASSERT_TRUE(domain.set("key", Text("E\u0301")));
+    EXPECT_EQ(std::get<Text>(*domain.value("key")).utf8(), "E\u0301");
+
+    const PreferenceData large{std::string(1'000'000, 'x') + everyByte()};
+    ASSERT_TRUE(domain.set("large", large));
+    EXPECT_EQ(domain.value("large"), PreferenceValue(large));
+    EXPECT_EQ(dataValue(domain, "large"), large.bytes);
+    EXPECT_EQ(dataValue(domain, "key"), std::nullopt); // a string is no data
+}
+
+TYPED_TEST(PreferencesDomainContract, KeysAreComparedAndOrderedByteByByte) {
+    PreferencesDomain& domain = this->domain();
+    const std::set<std::string> keys{"",
+                                     "A",
+                                     "a",
+                                     "a b",
+                                     "\u00e9",
+                                     "e\u0301",
+                                     "'; DROP TABLE preferences; --",
+                                     std::string("a\0", 2),
+                                     std::string("a\0b", 3),
+                                     "\xFF\xFE"};
+    for (const std::string& key : keys) {
+        ASSERT_TRUE(domain.set(key, PreferenceData{"of " + key}));
+    }
+    auto expected = keys.begin();
+    const auto all = domain.all();
+    ASSERT_EQ(all.size(), keys.size());
+    for (const auto& [key, value] : all) {
+        EXPECT_EQ(key, *expected++);
+        EXPECT_EQ(value, PreferenceValue(PreferenceData{"of " + key}));
+        EXPECT_EQ(domain.value(key), value);
+    }
+    EXPECT_TRUE(domain.remove("a"));
+    EXPECT_EQ(domain.value("a"), std::nullopt);
+    EXPECT_EQ(domain.all().size(), keys.size() - 1);
+}
+
+TYPED_TEST(PreferencesDomainContract, SetsManyValuesAtOnceAndKeepsTheOthers) {
+    PreferencesDomain& domain = this->domain();
+    ASSERT_TRUE(domain.set("kept", true));
+    ASSERT_TRUE(domain.set("replaced", true));
+    EXPECT_TRUE(domain.setAll({{"replaced", Text("new")}, {"added", false}, {"added", true}}));
+    EXPECT_EQ(domain.all(), (std::vector<std::pair<std::string, PreferenceValue>>{
+                                {"added", true}, {"kept", true}, {"replaced", Text("new")}}));
+}
+
+TYPED_TEST(PreferencesDomainContract, TheRevisionMovesWithEveryChangeAndOnlyThen) {
+    PreferencesDomain& domain = this->domain();
+    std::set<std::uint64_t> seen{domain.revision()};
+    const auto isNew = [&] { return seen.insert(domain.revision()).second; };
+    EXPECT_TRUE(domain.set("key", true) && isNew());
+    EXPECT_TRUE(domain.setAll({{"other", Text("x")}}) && isNew());
+    EXPECT_TRUE(domain.remove("key") && isNew());
+    EXPECT_EQ(domain.value("other"), PreferenceValue(Text("x")));
+    EXPECT_EQ(domain.all().size(), 1U);
+    EXPECT_FALSE(isNew());
+    EXPECT_FALSE(isNew());
+}
+
+} // namespace
+} // namespace tovrel

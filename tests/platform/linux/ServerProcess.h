@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace tovrel {
+
+/// A program that runs beside a test and ends with it.
+class ServerProcess {
+  public:
+    /// Starts the program with a pipe whose number replaces "{fd}" in the arguments, and reads the first line
+    /// the program writes there: servers tell that way where they listen once they do.
+    explicit ServerProcess(std::vector<std::string> arguments);
+    ~ServerProcess();
+    ServerProcess(const ServerProcess&) = delete;
+    ServerProcess& operator=(const ServerProcess&) = delete;
+
+    /// Empty when the program could not be started.
+    [[nodiscard]] const std::string& announced() const { return announced_; }
+
+  private:
+    pid_t process_ = -1;
+    std::string announced_;
+};
+
+} // namespace tovrel
