@@ -25,37 +25,37 @@ class PreferencesInSearchTests(DesktopTestCase):
     def test_custom_commands_rules_aliases_and_history_change_what_is_found(self):
         editor, _ = self.open_text("mousepad", "one\n")
         source = ("--pid", editor.pid)
-        save, reload_ = f"menu:{SCOPE}:File/Save", f"menu:{SCOPE}:File/Reload"
-        plain = dict(self.found("save", *source))
-        self.assertEqual(plain[save], 900)
+        save, save_as = f"menu:{SCOPE}:File/Save All", f"menu:{SCOPE}:File/Save As..."
+        plain = self.found("save all", *source)
+        self.assertEqual(plain, [(save, 900)])
 
         self.write("customCommands", [CUSTOM, {**CUSTOM, "id": "OTHER", "appScope": "org.example.Other"}])
         for query in ("tidy the desk", "cleanup"):
             self.assertEqual([command for command, _ in self.found(query, *source)], [f"custom:{CUSTOM['id']}"])
 
         self.write("rules.menuCommandAliasRules",
-                   [{"appScope": SCOPE, "targetPath": ["File", "Save"], "aliases": ["keep"]}])
+                   [{"appScope": SCOPE, "targetPath": ["File", "Save All"], "aliases": ["keep"]}])
         self.assertEqual(self.found("keep", *source)[0], (save, 1000))
 
         self.write("Tovrel.commandHistory", {save: {"usageCount": 3, "lastUsedAt": 700000000.5,
                                                     "isFavorite": True}})
-        self.assertEqual(dict(self.found("save", *source))[save], 900 + 120 + 3 * 8 + 25)
+        self.assertEqual(self.found("save all", *source), [(save, 900 + 120 + 3 * 8 + 25)])
 
         self.write("rules.menuBlacklistRules",
-                   [{"id": "A", "appScope": SCOPE, "targetPath": ["File", "Save"], "mode": "excludeSelf"},
+                   [{"id": "A", "appScope": SCOPE, "targetPath": ["File", "Save All"], "mode": "excludeSelf"},
                     {"id": "B", "targetPath": ["Edit"], "mode": "excludeChildren"},
                     {"id": "C", "appScope": "org.example.Other", "targetPath": ["File"],
                      "mode": "excludeChildren"}])
         commands = self.tovrel.expect("commands", "--json", *source).json
         identifiers = [command["id"] for command in commands]
         self.assertNotIn(save, identifiers)
-        self.assertIn(reload_, identifiers)
+        self.assertIn(save_as, identifiers)
         self.assertFalse([path for path in identifiers if path.startswith(f"menu:{SCOPE}:Edit/")])
 
         for key in ("customCommands", "rules.menuCommandAliasRules", "Tovrel.commandHistory",
                     "rules.menuBlacklistRules"):
             self.tovrel.expect("preferences", "delete", key)
-        self.assertEqual(dict(self.found("save", *source)), plain)
+        self.assertEqual(self.found("save all", *source), plain)
 
     def test_another_database_is_named_by_option(self):
         other = self.directory / "other.db"

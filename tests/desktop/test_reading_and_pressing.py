@@ -20,7 +20,7 @@ class ReadingTests(DesktopTestCase):
             with self.subTest(editor=editor):
                 application, _ = self.open_text(editor, TEXT)
                 published = menu_entries(application.tree)
-                self.assertGreater(len(published), 80)
+                self.assertGreater(len(published), 50)
                 by_process = self.tovrel.expect("menus", "--json", "--pid", application.pid).json
                 self.assertEqual(list(titled_entries(by_process)), published)
                 in_front = self.tovrel.expect("menus", "--json").json
@@ -68,11 +68,11 @@ class PressingTests(DesktopTestCase):
 
     def test_a_named_application_obeys_behind_another_window(self):
         application, _ = self.open_text("mousepad", TEXT)
-        self.assertIsNotNone(application.tree.find("statusbar"))
+        self.assertIsNone(application.tree.find("statusbar"))
         self.launch("xterm", accessible=False).bring_to_front()
         command = self.best_command("statusbar", "--pid", application.pid)
         self.tovrel.expect("press", "--pid", application.pid, command)
-        self.wait_until(lambda: application.tree.find("statusbar") is None, "the status bar to go")
+        self.wait_until(lambda: application.tree.find("statusbar"), "the status bar to appear")
 
     def test_a_dialog_that_the_command_opens_does_not_hold_the_program_up(self):
         for editor, query, title in (("mousepad", "find and replace", "Find and Replace"),
