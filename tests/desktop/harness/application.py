@@ -36,6 +36,10 @@ class Application:
     def resume(self):
         os.kill(self.pid, signal.SIGCONT)
 
+    def kill(self):
+        """Ends it without warning; it cannot tidy up."""
+        os.kill(self.pid, signal.SIGKILL)
+
     def end(self):
         """Ends it and waits until it is gone."""
         self._desktop.end(self)

@@ -107,6 +107,9 @@ class Desktop:
             start_session_bus(self._processes, self.environment)
             self.witness = Witness(start_accessibility_bus(self.environment["DBUS_SESSION_BUS_ADDRESS"]))
             self._teardown.callback(self.witness.close)
+        # The first key pressed on a display makes every client read the keyboard's layout anew, and a window
+        # manager that does so misses keys; so it is pressed before there is one.
+        self.windows.press_keys("Shift_L")
         self._processes.start(["openbox", "--sm-disable"], self.environment)
         wait_until(self.windows.has_window_manager, "the window manager")
 

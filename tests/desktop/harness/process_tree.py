@@ -6,11 +6,11 @@ import os
 PR_SET_CHILD_SUBREAPER = 36
 
 
-def adopt_orphans():
+def adopt_orphans(adopt):
     """Makes this process the parent of every process below it whose own parent ends, so that a daemon which a
-    bus started on demand is still found and ended."""
+    bus started on demand is still found and ended; or no longer."""
     libc = ctypes.CDLL(None, use_errno=True)
-    if libc.prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) != 0:
+    if libc.prctl(PR_SET_CHILD_SUBREAPER, int(adopt), 0, 0, 0) != 0:
         raise OSError(ctypes.get_errno(), "prctl(PR_SET_CHILD_SUBREAPER)")
 
 
@@ -25,6 +25,11 @@ def descendants(ancestor):
     for process_id in found:
         found.extend(children.get(process_id, []))
     return found[1:]
+
+
+def is_alive(process_id):
+    """False also for a process that has ended and whose status nobody has taken yet."""
+    return _living_parent(str(process_id)) is not None
 
 
 def reap_orphans(children_of_others):

@@ -21,7 +21,7 @@ class Processes:
         self._started = []
         # Only what came to be later is ended; there may be processes of the caller.
         self._before = set(descendants(os.getpid()))
-        adopt_orphans()
+        adopt_orphans(True)
 
     def start(self, command, environment, death_signal="KILL", **options):
         """Starts `command` in a session of its own and returns its Popen, with the attribute `log` added."""
@@ -48,6 +48,7 @@ class Processes:
     def close(self):
         """Ends everything that came to be below this process since construction."""
         self._end(self._remaining)
+        adopt_orphans(False)
         for process in self._started:
             process.wait()
 

@@ -45,7 +45,8 @@ class Windows:
         self._xdotool("type", "--clearmodifiers", text)
 
     def has_window_manager(self):
-        return "window id #" in self._run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK").stdout
+        # It announces itself before it listens; the list of windows comes when it manages them.
+        return "window id #" in self._run("xprop", "-root", "_NET_CLIENT_LIST").stdout
 
     def _xdotool(self, *arguments):
         return self._run("xdotool", *arguments)

@@ -62,6 +62,15 @@ class Node:
         return {state for state, bit in STATES.items() if bits >> bit & 1}
 
     @property
+    def interfaces(self):
+        return set(self._bus.call(self._name, self._path, ACCESSIBLE, "GetInterfaces")[0])
+
+    @property
+    def toolkit(self):
+        """Of an application's root node, e.g. "gtk" or "Qt"."""
+        return self._bus.get(self._name, self._path, "org.a11y.atspi.Application", "ToolkitName")
+
+    @property
     def children(self):
         return [Node(self._bus, name, path)
                 for name, path in self._bus.call(self._name, self._path, ACCESSIBLE, "GetChildren")[0]]
