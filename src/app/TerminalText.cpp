@@ -116,11 +116,9 @@ std::string printable(std::string_view text) {
     for (std::size_t position = 0; position < text.size();) {
         const std::size_t start = position;
         const char32_t codePoint = nextCodePoint(text, position);
-        if (codePoint == illFormedSequence) {
-            shown += replacementCharacter;
-        } else if (codePoint < 0x20 || codePoint == 0x7F) {
+        if (codePoint < 0x20 || codePoint == 0x7F) {
             shown += pictureOf(codePoint);
-        } else if (isUnsafe(static_cast<UChar32>(codePoint))) {
+        } else if (codePoint == illFormedSequence || isUnsafe(static_cast<UChar32>(codePoint))) {
             shown += replacementCharacter;
         } else {
             shown += text.substr(start, position - start);

@@ -169,7 +169,7 @@ TEST_F(Program, AReaderThatHasEnoughIsNoReasonToComplain) {
     stream.exceptions(std::ios::badbit);
     EXPECT_EQ(runInto(stream, {"commands", "--json", "--recording", mousepad}), 1);
     EXPECT_EQ(error_, "");
-    signal(SIGPIPE, before);
+    EXPECT_NE(signal(SIGPIPE, before), SIG_ERR);
     close(ends[1]);
 }
 
