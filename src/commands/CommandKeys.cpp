@@ -69,9 +69,38 @@ bool startsFresh(std::string_view key) {
            formC->hasBoundaryBefore(static_cast<UChar32>(nextCodePoint(key, position))) != 0;
 }
 
+std::vector<std::string_view> wordsOf(std::string_view text) {
+    std::vector<std::string_view> words;
+    for (std::size_t start = 0; start <= text.size();) {
+        const std::size_t end = std::min(text.find(' ', start), text.size());
+        words.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    return words;
+}
+
 } // namespace
 
-CommandKeyDeriver::Derived CommandKeyDeriver::derive(std::string_view text) const {
+std::optional<CommandKeyDeriver::Derived>
+CommandKeyDeriver::composed(const std::vector<std::string_view>& texts) {
+    Derived whole{.native = {}, .latin = {}, .isComposable = true};
+    for (const std::string_view text : texts) {
+        const Derived& part = derived(text);
+        if (!part.isComposable) {
+            return std::nullopt;
+        }
+        whole.native += part.native;
+        whole.latin += part.latin;
+    }
+    return whole;
+}
+
+CommandKeyDeriver::Derived CommandKeyDeriver::derive(std::string_view text) {
+    if (text.find(' ') != std::string_view::npos && TextServices::hasNonLatinScript(text)) {
+        if (std::optional<Derived> whole = composed(wordsOf(text))) {
+            return *std::move(whole);
+        }
+    }
     std::vector<std::string> variants = searchVariants(text, *textServices_);
     Derived result{.native = std::move(variants.front()), .latin = {}, .isComposable = isWordwise(text)};
     result.latin = variants.size() > 1 ? std::move(variants.back()) : result.native;
@@ -79,47 +108,38 @@ CommandKeyDeriver::Derived CommandKeyDeriver::derive(std::string_view text) cons
     return result;
 }
 
-const CommandKeyDeriver::Derived& CommandKeyDeriver::derived(const Text& text) {
-    const auto found = derived_.find(text.utf8());
-    return found != derived_.end() ? found->second
-                                   : derived_.emplace(text.utf8(), derive(text.view())).first->second;
+const CommandKeyDeriver::Derived& CommandKeyDeriver::derived(std::string_view text) {
+    std::string key(text);
+    if (const auto found = derived_.find(key); found != derived_.end()) {
+        return found->second;
+    }
+    Derived result = derive(text);
+    return derived_.emplace(std::move(key), std::move(result)).first->second;
 }
 
 void CommandKeyDeriver::addVariants(const Text& text, std::vector<std::string>& variants) {
-    const Derived& keys = derived(text);
+    const Derived& keys = derived(text.view());
     addDistinct(keys.native, variants);
     if (keys.latin != keys.native) {
         addDistinct(keys.latin, variants);
     }
 }
 
-void CommandKeyDeriver::addJoinedVariants(const std::vector<const Text*>& texts,
+void CommandKeyDeriver::addJoinedVariants(const std::vector<std::string_view>& texts,
                                           std::vector<std::string>& variants) {
-    std::vector<const Derived*> parts;
-    bool isComposable = true;
-    for (const Text* text : texts) {
-        parts.push_back(&derived(*text));
-        isComposable = isComposable && parts.back()->isComposable;
-    }
-    if (!isComposable) {
-        std::string whole;
-        for (const Text* text : texts) {
-            whole += text->utf8() + " ";
-        }
-        for (const std::string& variant : searchVariants(whole, *textServices_)) {
-            addDistinct(variant, variants);
+    if (const std::optional<Derived> whole = composed(texts)) {
+        addDistinct(whole->native, variants);
+        if (whole->latin != whole->native) {
+            addDistinct(whole->latin, variants);
         }
         return;
     }
-    std::string native;
-    std::string latin;
-    for (const Derived* part : parts) {
-        native += part->native;
-        latin += part->latin;
+    std::string joined;
+    for (const std::string_view text : texts) {
+        joined.append(text).append(" ");
     }
-    addDistinct(native, variants);
-    if (latin != native) {
-        addDistinct(latin, variants);
+    for (const std::string& variant : searchVariants(joined, *textServices_)) {
+        addDistinct(variant, variants);
     }
 }
 
@@ -137,12 +157,12 @@ CommandKeys CommandKeyDeriver::keysOf(const Command& command) {
     if (command.shortcut) {
         addVariants(*command.shortcut, candidates);
     }
-    std::vector<const Text*> path;
+    std::vector<std::string_view> path;
     for (const Text& title : command.menuPath) {
-        path.push_back(&title);
+        path.push_back(title.view());
     }
     addJoinedVariants(path, candidates);
-    path.push_back(&command.title);
+    path.push_back(command.title.view());
     addJoinedVariants(path, candidates);
     for (const Text& token : command.searchTokens) {
         addVariants(token, candidates);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -17,8 +19,9 @@ struct CommandKeys {
 };
 
 /// Derives the keys of many commands. Titles of menus come back in thousands of commands, and transliteration
-/// costs microseconds a word, so the keys of each distinct title are derived once, and those of a whole menu
-/// path are put together from them wherever that provably gives the same.
+/// costs microseconds a word, so the keys of each distinct title are derived once, those of a whole menu path
+/// are put together from its titles', and those of a title in another script from its words', wherever that
+/// gives the same.
 class CommandKeyDeriver {
   public:
     explicit CommandKeyDeriver(const TextServices& textServices) : textServices_(&textServices) {}
@@ -34,11 +37,14 @@ class CommandKeyDeriver {
         bool isComposable = false;
     };
 
-    const Derived& derived(const Text& text);
-    Derived derive(std::string_view text) const;
+    const Derived& derived(std::string_view text);
+    [[nodiscard]] Derived derive(std::string_view text);
+    /// Of the texts joined with single spaces, put together from theirs; absent where that may not be the
+    /// same.
+    std::optional<Derived> composed(const std::vector<std::string_view>& texts);
     void addVariants(const Text& text, std::vector<std::string>& variants);
     /// The variants of the texts joined with single spaces.
-    void addJoinedVariants(const std::vector<const Text*>& texts, std::vector<std::string>& variants);
+    void addJoinedVariants(const std::vector<std::string_view>& texts, std::vector<std::string>& variants);
 
     const TextServices* textServices_;
     std::unordered_map<std::string, Derived> derived_;

@@ -1,6 +1,7 @@
 #include "commands/CommandSearch.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "commands/SearchKeys.h"
@@ -67,60 +68,54 @@ std::vector<CommandSearch::Match> CommandSearch::withLooseMatches(const std::vec
 
 /// Best score first; equal scores keep their order. Scores lie close together unless the history is damaged,
 /// and are then counted instead of compared: sorting a list of thousands would cost more than finding it.
-std::vector<CommandSearch::Match> CommandSearch::ranked(std::vector<Match> matches) {
+CommandSearchResults CommandSearch::ranked(std::vector<Match> matches, const CommandSearchIndex& index) {
+    std::vector<CommandSearchResults::Row> rows(matches.size());
     if (matches.empty()) {
-        return matches;
+        return {index, std::move(rows)};
     }
+    const auto row = [&](const Match& match) {
+        return CommandSearchResults::Row{index.entries()[match.entry].command, match.score};
+    };
     const auto [lowest, highest] =
         std::minmax_element(matches.begin(), matches.end(),
                             [](const Match& left, const Match& right) { return left.score < right.score; });
-    const std::int64_t top = highest->score;
     constexpr std::int64_t lowestCounted = -4096;
     if (lowest->score < lowestCounted) {
         std::stable_sort(matches.begin(), matches.end(),
                          [](const Match& left, const Match& right) { return left.score > right.score; });
-        return matches;
+        std::transform(matches.begin(), matches.end(), rows.begin(), row);
+        return {index, std::move(rows)};
     }
+    const std::int64_t top = highest->score;
     const auto distance = [top](const Match& match) { return static_cast<std::size_t>(top - match.score); };
     std::vector<std::size_t> places(distance(*lowest) + 2, 0);
     for (const Match& match : matches) {
         ++places[distance(match) + 1];
     }
-    for (std::size_t i = 1; i < places.size(); ++i) {
-        places[i] += places[i - 1];
-    }
-    std::vector<Match> sorted(matches.size());
+    std::partial_sum(places.begin(), places.end(), places.begin());
     for (const Match& match : matches) {
-        sorted[places[distance(match)]++] = match;
+        rows[places[distance(match)]++] = row(match);
     }
-    return sorted;
+    return {index, std::move(rows)};
 }
 
 CommandSearchResults CommandSearch::search(const Text& query, const CommandSearchIndex& index) {
-    std::vector<Match> matches;
     std::string key = normalizedKey(query.view(), index.textServices());
     if (key.empty()) {
-        matches = ranked(discoveries(index));
-        matches.resize(std::min(matches.size(), discoveryLimit));
+        CommandSearchResults results = ranked(discoveries(index), index);
+        results.truncate(discoveryLimit);
+        return results;
+    }
+    const SearchQuery prepared = index.keys().prepare(std::move(key));
+    std::vector<Match> matches = strongMatches(prepared, index);
+    const auto isWeak = [](const Match& match) { return match.score < strongMatchScore; };
+    if (std::all_of(matches.begin(), matches.end(), isWeak)) {
+        // A loose match scores at most 420 and a boost is at most 225: none of these can be strong.
+        matches = withLooseMatches(matches, prepared, index);
     } else {
-        const SearchQuery prepared = index.keys().prepare(std::move(key));
-        matches = strongMatches(prepared, index);
-        const auto isWeak = [](const Match& match) { return match.score < strongMatchScore; };
-        if (std::all_of(matches.begin(), matches.end(), isWeak)) {
-            // A loose match scores at most 420 and a boost is at most 225: none of these can be strong.
-            matches = withLooseMatches(matches, prepared, index);
-        } else {
-            std::erase_if(matches, isWeak);
-        }
-        matches = ranked(std::move(matches));
+        std::erase_if(matches, isWeak);
     }
-
-    std::vector<CommandSearchResults::Row> rows;
-    rows.reserve(matches.size());
-    for (const Match& match : matches) {
-        rows.push_back({index.entries()[match.entry].command, match.score});
-    }
-    return {index, std::move(rows)};
+    return ranked(std::move(matches), index);
 }
 
 } // namespace tovrel

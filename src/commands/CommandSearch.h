@@ -42,7 +42,8 @@ class CommandSearch {
     [[nodiscard]] static std::vector<Match> withLooseMatches(const std::vector<Match>& strong,
                                                              const SearchQuery& query,
                                                              const CommandSearchIndex& index);
-    [[nodiscard]] static std::vector<Match> ranked(std::vector<Match> matches);
+    [[nodiscard]] static CommandSearchResults ranked(std::vector<Match> matches,
+                                                     const CommandSearchIndex& index);
 
     std::optional<Narrowed> previous_;
 };

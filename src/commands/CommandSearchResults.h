@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -56,6 +57,9 @@ class CommandSearchResults {
 
     CommandSearchResults(CommandSearchIndex index, std::vector<Row> rows)
         : index_(std::move(index)), rows_(std::move(rows)) {}
+
+    /// Keeps the first `count` rows at most.
+    void truncate(std::size_t count) { rows_.resize(std::min(count, rows_.size())); }
 
     [[nodiscard]] std::size_t size() const { return rows_.size(); }
     [[nodiscard]] bool empty() const { return rows_.empty(); }

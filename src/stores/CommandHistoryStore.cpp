@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-#include <nlohmann/json.hpp>
-
 #include "stores/StoredDocument.h"
 #include "support/CheckedMath.h"
-#include "support/Json.h"
+#include "support/JsonDocument.h"
 
 namespace tovrel {
 namespace {

@@ -4,10 +4,8 @@
 #include <string>
 #include <vector>
 
-#include <nlohmann/json.hpp>
-
 #include "platform/PreferencesDomain.h"
-#include "support/Json.h"
+#include "support/JsonDocument.h"
 
 /// How every store keeps a JSON document: as a data value under one key, read and written whole, silently.
 namespace tovrel::stored_document {

@@ -18,7 +18,8 @@ namespace tovrel::json {
 
 using Value = nlohmann::json;
 
-/// Why a document could not be decoded. Thrown inside decoders only; `decodeDocument` is where it ends.
+/// Why a document could not be decoded. Thrown inside decoders only; `decodeDocument` (JsonDocument.h) is
+/// where it ends.
 class DecodeError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
@@ -65,16 +66,5 @@ class EncodeError : public std::runtime_error {
 
 /// The compact bytes of a value.
 std::string dump(const Value& value);
-
-/// Parses and decodes a document; absent when either fails. `decode` may throw DecodeError.
-template <typename Decode>
-auto decodeDocument(std::string_view bytes, const Decode& decode)
-    -> std::optional<decltype(decode(Value()))> {
-    try {
-        return decode(parse(bytes));
-    } catch (const DecodeError&) {
-        return std::nullopt;
-    }
-}
 
 } // namespace tovrel::json

@@ -1,9 +1,9 @@
 #include "model/Command.h"
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "commands/CommandSamples.h"
+#include "support/JsonDocument.h"
 
 namespace tovrel {
 namespace {

@@ -1,9 +1,8 @@
-#include "support/Json.h"
-
 #include <cmath>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
+
+#include "support/JsonDocument.h"
 
 namespace tovrel {
 namespace {
