@@ -7,7 +7,7 @@ build_packages=(ca-certificates g++ cmake ninja-build pkg-config libicu-dev nloh
 desktop_packages=(at-spi2-core dbus xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core mousepad
     util-linux python3 python3-gi gir1.2-glib-2.0)
 test_packages=(clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev libgtest-dev libgmock-dev libbenchmark-dev
-    libatspi2.0-dev featherpad xterm)
+    libatspi2.0-dev featherpad xterm shellcheck)
 
 heading() {
     printf '\n== %s\n' "$*"
@@ -16,6 +16,12 @@ heading() {
 fail() {
     printf '%s: %s\n' "$(basename "$0")" "$*" >&2
     exit 1
+}
+
+# As fail, for arguments that make no sense.
+usage_error() {
+    printf '%s: %s\n' "$(basename "$0")" "$*" >&2
+    exit 2
 }
 
 # Installs those of the named Debian packages that are missing.
