@@ -10,4 +10,10 @@ std::optional<std::string> dataValue(PreferencesDomain& domain, const std::strin
     return std::move(std::get<PreferenceData>(*value).bytes);
 }
 
+std::optional<bool> booleanValue(PreferencesDomain& domain, const std::string& key) {
+    const std::optional<PreferenceValue> value = domain.value(key);
+    const bool* boolean = value ? std::get_if<bool>(&*value) : nullptr;
+    return boolean == nullptr ? std::nullopt : std::optional(*boolean);
+}
+
 } // namespace tovrel

@@ -58,4 +58,7 @@ class PreferencesDomain {
 /// The bytes under the key; absent when there is no value or one of another type.
 std::optional<std::string> dataValue(PreferencesDomain& domain, const std::string& key);
 
+/// The boolean under the key; absent when there is no value or one of another type.
+std::optional<bool> booleanValue(PreferencesDomain& domain, const std::string& key);
+
 } // namespace tovrel

@@ -1,0 +1,16 @@
+#include "stores/PaletteSettingsStore.h"
+
+namespace tovrel {
+
+PaletteSettingsStore::PaletteSettingsStore(PreferencesDomain& defaults, const std::string& keyPrefix)
+    : defaults_(&defaults), showCheckedStatusKey_(keyPrefix + ".showCheckedStatus"),
+      showCheckedStatus_(booleanValue(defaults, showCheckedStatusKey_).value_or(true)),
+      commandShortcutOpensSettings_(
+          booleanValue(defaults, keyPrefix + ".commandShortcutOpensSettings").value_or(false)) {}
+
+void PaletteSettingsStore::setShowCheckedStatus(bool isShown) {
+    showCheckedStatus_.set(isShown);
+    defaults_->set(showCheckedStatusKey_, isShown);
+}
+
+} // namespace tovrel
