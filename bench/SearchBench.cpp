@@ -36,7 +36,7 @@ const TextServices& warmServices() {
 void BM_IndexBuild(benchmark::State& state) {
     const std::vector<Command> list = commands(static_cast<std::size_t>(state.range(0)));
     const TextServices& services = warmServices();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         std::vector<Command> copy = list;
         state.ResumeTiming();
@@ -53,7 +53,7 @@ void BM_Keystrokes(benchmark::State& state) {
     const TextServices& services = warmServices();
     const CommandSearchIndex index(commands(static_cast<std::size_t>(state.range(0))), services);
     std::map<std::string, std::vector<double>> times;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         for (const char* query : queries()) {
             CommandSearch search;
             std::string typed;
@@ -88,7 +88,7 @@ BENCHMARK(BM_Keystrokes)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kM
 void BM_WholeQueries(benchmark::State& state) {
     const CommandSearchIndex index(commands(static_cast<std::size_t>(state.range(0))), warmServices());
     std::vector<double> taken;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         for (const char* query : queries()) {
             const Text text = query;
             const Clock::time_point start = Clock::now();
@@ -112,7 +112,7 @@ void BM_CommandList(benchmark::State& state) {
     }
     const PreferenceData stored{json::dump(document)};
     MemoryPreferencesDomain domain;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         domain.set("Tovrel.commandHistory", stored);
         CommandHistoryStore history(domain, "Tovrel.commandHistory", warmServices());
         const std::vector<Command> list =

@@ -8,24 +8,10 @@
 
 #include "execution/Url.h"
 #include "model/CustomCommand.h"
+#include "platform/ProcessRunner.h"
 #include "support/Text.h"
 
 namespace tovrel {
-
-/// A program to run to completion.
-struct CommandProcessRequest {
-    Text executablePath;         ///< Absolute.
-    std::vector<Text> arguments; ///< Without the program name.
-
-    friend bool operator==(const CommandProcessRequest&, const CommandProcessRequest&) = default;
-};
-
-/// A process that could not be started: an errno value.
-struct LaunchFailure {
-    int error = 0;
-
-    friend bool operator==(const LaunchFailure&, const LaunchFailure&) = default;
-};
 
 /// What a command of kind `open` holds names nothing that exists and is no URL.
 struct InvalidOpenPayload {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "model/ApplicationIcon.h"
 #include "support/Text.h"
 
 namespace tovrel {
@@ -17,6 +18,9 @@ class RunningApplication {
 
     /// Name to show to the user; absent when unknown.
     [[nodiscard]] virtual std::optional<Text> localizedName() const = 0;
+
+    /// Absent when unknown.
+    [[nodiscard]] virtual std::optional<ApplicationIcon> icon() const = 0;
 
     /// 0 when unknown.
     [[nodiscard]] virtual std::int32_t processIdentifier() const = 0;

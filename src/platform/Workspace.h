@@ -1,8 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "platform/RunningApplication.h"
+#include "support/Observable.h"
+#include "support/Text.h"
 
 namespace tovrel {
 
@@ -17,6 +20,14 @@ class Workspace {
     /// Asks the desktop to bring the application to the front, without waiting for it to happen. False when
     /// it has no window to bring there or the request could not be made.
     virtual bool activate(const RunningApplication& application) = 0;
+
+    /// The observer is called each time an application comes to the front, this one included; with null when
+    /// it cannot be told which.
+    [[nodiscard]] virtual Subscription
+    onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) = 0;
+
+    /// Hands a URL to whatever the desktop opens its kind with. The outcome is not known.
+    virtual void open(const Text& url) = 0;
 };
 
 } // namespace tovrel

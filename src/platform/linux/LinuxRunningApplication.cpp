@@ -46,7 +46,9 @@ LinuxRunningApplication::LinuxRunningApplication(std::int32_t processIdentifier,
     if (entry != nullptr) {
         identifier_ = entry->identifier;
         name_ = entry->name;
-        icon_ = entry->icon;
+        if (!entry->icon.empty()) {
+            icon_ = ApplicationIcon{Text(entry->icon)};
+        }
     } else if (window && !window->className.empty()) {
         name_ = Text(window->className);
     } else if (std::string executable = processExecutable(processIdentifier); !executable.empty()) {

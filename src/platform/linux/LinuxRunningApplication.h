@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 
 #include "platform/RunningApplication.h"
 #include "platform/linux/DesktopEntries.h"
@@ -25,15 +24,15 @@ class LinuxRunningApplication : public RunningApplication {
     [[nodiscard]] std::int32_t processIdentifier() const override { return processIdentifier_; }
     [[nodiscard]] bool isTerminated() const override;
 
-    /// Icon name or path, as the entry has it; empty when unknown.
-    [[nodiscard]] const std::string& icon() const { return icon_; }
+    /// As the entry has it.
+    [[nodiscard]] std::optional<ApplicationIcon> icon() const override { return icon_; }
 
   private:
     std::int32_t processIdentifier_;
     std::optional<std::uint64_t> startTime_;
     std::optional<Text> identifier_;
     std::optional<Text> name_;
-    std::string icon_;
+    std::optional<ApplicationIcon> icon_;
 };
 
 } // namespace tovrel

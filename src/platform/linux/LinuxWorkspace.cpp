@@ -29,6 +29,13 @@ bool LinuxWorkspace::activate(const RunningApplication& application) {
     return window && windows_->activate(window->identifier);
 }
 
+Subscription
+LinuxWorkspace::onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) {
+    return activations_.subscribe(std::move(observer));
+}
+
+void LinuxWorkspace::open(const Text& /*url*/) {}
+
 bool LinuxWorkspace::waitUntilFront(const RunningApplication& application,
                                     std::chrono::milliseconds patience) {
     return windows_->waitUntilActive(application.processIdentifier(),

@@ -26,6 +26,11 @@ class LinuxWorkspace : public Workspace {
 
     bool activate(const RunningApplication& application) override;
 
+    [[nodiscard]] Subscription
+    onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override;
+
+    void open(const Text& url) override;
+
     /// Waits until a window of the application is active, as it soon is after `activate`.
     bool waitUntilFront(const RunningApplication& application, std::chrono::milliseconds patience);
 
@@ -45,6 +50,7 @@ class LinuxWorkspace : public Workspace {
     std::shared_ptr<X11Windows> windows_;
     std::shared_ptr<AtspiBus> bus_;
     std::shared_ptr<DesktopEntries> entries_;
+    ObserverList<const std::shared_ptr<RunningApplication>&> activations_;
 };
 
 } // namespace tovrel

@@ -18,6 +18,7 @@ class MemoryApplication : public RunningApplication {
 
     [[nodiscard]] std::optional<Text> bundleIdentifier() const override { return bundleIdentifier_; }
     [[nodiscard]] std::optional<Text> localizedName() const override { return localizedName_; }
+    [[nodiscard]] std::optional<ApplicationIcon> icon() const override { return std::nullopt; }
     [[nodiscard]] std::int32_t processIdentifier() const override { return processIdentifier_; }
     [[nodiscard]] bool isTerminated() const override { return isTerminated_; }
 

@@ -140,7 +140,7 @@ TEST_F(DesktopEntriesTest, AnApplicationIsIdentifiedInTheStatedOrder) {
     window.className = "Unknown";
     EXPECT_EQ(identified(window).bundleIdentifier(), Text("program"));
     EXPECT_EQ(identified(std::nullopt).localizedName(), Text("By program"));
-    EXPECT_EQ(identified(window).icon(), "picture");
+    EXPECT_EQ(identified(window).icon(), ApplicationIcon{"picture"});
     EXPECT_FALSE(identified(window).isTerminated());
 
     const LinuxRunningApplication nobody(0x7FFFFFF0, window, all);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "model/ModifierFlags.h"
+#include "support/Text.h"
+
+namespace tovrel {
+
+enum class KeyEventType { keyDown, keyUp };
+
+/// One press or release of a key.
+struct KeyEvent {
+    KeyEventType type = KeyEventType::keyDown;
+    std::uint32_t keyCode = 0; ///< Virtual key code, the same on every platform and layout: 35 is P.
+    /// What the current layout makes of the key with no modifier but Shift; absent when that is nothing.
+    std::optional<Text> charactersIgnoringModifiers;
+    ModifierFlags modifierFlags = 0;
+};
+
+} // namespace tovrel

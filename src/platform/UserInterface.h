@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "model/Geometry.h"
+#include "platform/StatusItem.h"
+#include "support/Observable.h"
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// A question with two answers. The first button is the default one.
+struct Alert {
+    Text messageText;
+    Text informativeText;
+    Text firstButton;
+    Text secondButton;
+};
+
+/// This process as an application of the desktop.
+class UserInterface {
+  public:
+    virtual ~UserInterface() = default;
+
+    /// Brings this application to the front, whichever other one is there.
+    virtual void activate() = 0;
+
+    /// The observer is called when this application was active and no longer is.
+    [[nodiscard]] virtual Subscription onResignActive(std::function<void()> observer) = 0;
+
+    /// The main screen without the desktop's bars; absent without a screen.
+    [[nodiscard]] virtual std::optional<Rect> mainScreenVisibleFrame() = 0;
+
+    /// Asks the question, as a warning, and returns once it is answered; events go on being handled. True
+    /// only when the first button was chosen.
+    [[nodiscard]] virtual bool runAlert(const Alert& alert) = 0;
+
+    /// The item is shown as soon as the desktop has a status bar; null when it cannot have one.
+    [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription description) = 0;
+
+    /// The observer is called when one of this application's menus opens (true) and closes (false).
+    [[nodiscard]] virtual Subscription onMenuTracking(std::function<void(bool)> observer) = 0;
+
+    /// Ends the program's main loop.
+    virtual void terminate() = 0;
+};
+
+} // namespace tovrel
