@@ -21,8 +21,18 @@ class X11Connection {
 
     [[nodiscard]] bool isOpen() const;
 
+    /// For what the questions below do not cover; never null, but of no use unless open.
+    [[nodiscard]] xcb_connection_t* handle() const { return connection_.get(); }
+    /// -1 without a server.
+    [[nodiscard]] int fileDescriptor() const {
+        return isOpen() ? xcb_get_file_descriptor(connection_.get()) : -1;
+    }
+
     /// The root window of the connection's screen; 0 without a server.
     [[nodiscard]] xcb_window_t root() const { return root_; }
+
+    /// XCB_ATOM_NONE without a server.
+    xcb_atom_t atom(const char* name);
 
     /// The bytes of a property of 8-bit items, whatever its type says; absent when the window lacks it or is
     /// gone. At most 64 KiB are read.
@@ -43,8 +53,6 @@ class X11Connection {
     struct Disconnect {
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
     };
-
-    xcb_atom_t atom(const char* name);
 
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     xcb_window_t root_ = 0;
