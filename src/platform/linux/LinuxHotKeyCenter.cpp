@@ -17,6 +17,7 @@ LinuxHotKeyCenter::LinuxHotKeyCenter(MainQueue& queue, DestinationOfKeys destina
     : queue_(queue), destination_(std::move(destination)), connection_(display), xkb_(connection_.handle()),
       rawKeys_(connection_.handle(), connection_.root()), focusWait_(connection_) {
     xkb_.useDetectableAutoRepeat();
+    xkb_.selectKeyboardEvents();
     keyMap_ = X11KeyMap::read(connection_.handle());
 }
 
@@ -148,6 +149,8 @@ void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event) {
         handleRawKey(*key);
     } else if (const auto state = xkb_.stateOf(event)) {
         keyboardState_ = *state;
+    } else if (xkb_.isKeyboardChange(event)) {
+        hasKeyboardChanged_ = true;
     } else {
         switch (event.response_type & 0x7FU) {
         case XCB_KEY_PRESS:

@@ -30,6 +30,24 @@ void XkbExtension::useDetectableAutoRepeat() {
     xcb_discard_reply(connection_, cookie.sequence);
 }
 
+void XkbExtension::selectKeyboardEvents() {
+    if (!isAvailable_) {
+        return;
+    }
+    constexpr std::uint16_t events = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
+    constexpr std::uint16_t newKeyboard = XCB_XKB_NKN_DETAIL_KEYCODES | XCB_XKB_NKN_DETAIL_DEVICE_ID;
+    constexpr std::uint16_t map = XCB_XKB_MAP_PART_KEY_SYMS | XCB_XKB_MAP_PART_MODIFIER_MAP;
+    xcb_xkb_select_events_details_t details{};
+    details.affectNewKeyboard = newKeyboard;
+    details.newKeyboardDetails = newKeyboard;
+    xcb_xkb_select_events_aux(connection_, XCB_XKB_ID_USE_CORE_KBD, events, 0, 0, map, map, &details);
+}
+
+bool XkbExtension::isKeyboardChange(const xcb_generic_event_t& event) const {
+    const auto kind = kindOf(event);
+    return kind == XCB_XKB_NEW_KEYBOARD_NOTIFY || kind == XCB_XKB_MAP_NOTIFY;
+}
+
 void XkbExtension::selectStateEvents(bool isWanted) {
     if (!isAvailable_) {
         return;
@@ -44,14 +62,17 @@ void XkbExtension::selectStateEvents(bool isWanted) {
 }
 
 std::optional<XkbExtension::State> XkbExtension::stateOf(const xcb_generic_event_t& event) const {
-    if (!isAvailable_ || (event.response_type & 0x7FU) != firstEvent_) {
+    if (kindOf(event) != XCB_XKB_STATE_NOTIFY) {
         return std::nullopt;
     }
     const auto& changed = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event);
-    if (changed.xkbType != XCB_XKB_STATE_NOTIFY) {
-        return std::nullopt;
-    }
     return State{changed.mods, changed.lockedMods, changed.group};
+}
+
+std::optional<std::uint8_t> XkbExtension::kindOf(const xcb_generic_event_t& event) const {
+    // All events of the extension share one number and have their kind in the second byte.
+    return isAvailable_ && (event.response_type & 0x7FU) == firstEvent_ ? std::optional(event.pad0)
+                                                                        : std::nullopt;
 }
 
 std::optional<XkbExtension::State> XkbExtension::state() {

@@ -25,6 +25,11 @@ class XkbExtension {
     /// From now on this connection is told of a held key as press, press, …, release.
     void useDetectableAutoRepeat();
 
+    /// From now on another keyboard, layout or modifier mapping comes as an event. The core protocol's own
+    /// event for that is not sent to clients of the extension in all cases.
+    void selectKeyboardEvents();
+    [[nodiscard]] bool isKeyboardChange(const xcb_generic_event_t& event) const;
+
     /// Whether changes of the modifiers come as events from now on.
     void selectStateEvents(bool isWanted);
     /// The state an event tells of; absent when it is another event.
@@ -33,6 +38,8 @@ class XkbExtension {
     [[nodiscard]] std::optional<State> state();
 
   private:
+    [[nodiscard]] std::optional<std::uint8_t> kindOf(const xcb_generic_event_t& event) const;
+
     xcb_connection_t* connection_;
     bool isAvailable_ = false;
     std::uint8_t firstEvent_ = 0;
