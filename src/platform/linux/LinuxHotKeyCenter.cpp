@@ -38,7 +38,7 @@ std::variant<HotKeyHandle, HotKeyError> LinuxHotKeyCenter::registerHotKey(std::u
         return hot_key_errors::alreadyRegistered;
     }
     if (const auto refusal = registration.grab.take(connection_.handle(), connection_.root())) {
-        dispatchSoonWhatCameAlong();
+        waitForServer();
         return HotKeyError{*refusal};
     }
     registration.isTaken = true;
@@ -65,9 +65,7 @@ void LinuxHotKeyCenter::unregisterHotKey(HotKeyHandle handle) {
     if (heldFor_ == handle) {
         letGo();
     }
-    // Any question will do: it is answered after the server has done what it was told before.
-    static_cast<void>(keysDown(connection_.handle()));
-    dispatchSoonWhatCameAlong();
+    waitForServer();
 }
 
 void LinuxHotKeyCenter::setHotKeyHandler(HotKeyHandler handler) {
@@ -313,6 +311,12 @@ void LinuxHotKeyCenter::selectRawKeys() {
         std::any_of(registrations_.begin(), registrations_.end(),
                     [](const Registration& registration) { return registration.state != KeyState::up; });
     rawKeys_.select(rawHandler_ != nullptr, rawHandler_ != nullptr || isAnyDown);
+}
+
+void LinuxHotKeyCenter::waitForServer() {
+    // Any question will do: it is answered after what was asked before.
+    static_cast<void>(keysDown(connection_.handle()));
+    dispatchSoonWhatCameAlong();
 }
 
 void LinuxHotKeyCenter::dispatchSoonWhatCameAlong() {

@@ -113,6 +113,8 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
 
     void adoptKeyboard();
     void selectRawKeys();
+    /// Returns when the server has done everything that it was asked.
+    void waitForServer();
     /// To be called after questions to the server outside of `dispatch`: events that arrived with the answers
     /// make the descriptor readable no more.
     void dispatchSoonWhatCameAlong();
