@@ -73,6 +73,14 @@ void AppCoordinator::start() {
     showAccessibilityOnboardingIfNeeded();
 }
 
+void AppCoordinator::warmUp() {
+    paletteWindowController();
+    // Of each script the rules are loaded at its first use.
+    for (const char* sample : {"Ж", "あ", "ア", "漢", "한", "α", "א", "ع"}) {
+        static_cast<void>(platform_.textServices.transliteratedToLatin(sample));
+    }
+}
+
 void AppCoordinator::handleTogglePalette() {
     if (shouldForwardToggleShortcut()) {
         paletteWindowController().close();

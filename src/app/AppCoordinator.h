@@ -49,7 +49,7 @@ struct Platform {
     std::optional<Text> ownBundleIdentifier;
     PalettePanelFactory makePalettePanel;
     std::function<PointInTime()> now;
-    /// Whether a file or directory exists at a path.
+    CommandExecutor::UrlOpener openURL;
     CommandExecutor::FileExists fileExists;
     /// Shows, once in a user's life, that other applications' menus cannot be read yet and what to do.
     std::function<void()> showAccessibilityOnboarding;
@@ -64,6 +64,9 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
 
     /// Status item, watch over the front application, global shortcut, onboarding. Called once.
     void start();
+
+    /// Does ahead of time what the first use would wait for.
+    void warmUp();
 
     /// Opens the palette for the application in front, closes it when it is already open for that, or lets
     /// the application have the shortcut.

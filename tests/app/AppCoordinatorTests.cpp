@@ -83,6 +83,7 @@ class AppCoordinatorTest : public testing::Test {
                              return panel;
                          },
                      .now = [this] { return now_; },
+                     .openURL = [this](const Url& url) { workspace_.open(url.text()); },
                      .fileExists = [](const Text&) { return false; },
                      .showAccessibilityOnboarding = [this] { ++onboardings_; }});
     }
