@@ -71,6 +71,11 @@ std::string requiredText(const std::string& option, const std::string& text) {
     return text;
 }
 
+bool takesSource(Verb verb) {
+    return verb == Verb::menus || verb == Verb::commands || verb == Verb::search || verb == Verb::press ||
+           verb == Verb::record;
+}
+
 class Parser {
   public:
     Parser() {
@@ -82,6 +87,9 @@ class Parser {
         addSearch();
         addPress();
         addRecord();
+        addVerb("toggle", Verb::toggle, "Open the running program's palette, or close it");
+        addVerb("quit", Verb::quit, "End the running program");
+        addJsonFlag(*addVerb("status", Verb::status, "Show what the running program is doing"));
         addPreferences();
     }
 
@@ -275,8 +283,8 @@ class Parser {
         const int sources = static_cast<int>(source.recordingFile.has_value()) +
                             static_cast<int>(source.processIdentifier.has_value()) +
                             static_cast<int>(source.bundleIdentifier.has_value());
-        if (app_.get_subcommands().empty()) {
-            return wrongUsage("a verb is missing");
+        if (sources > 0 && !takesSource(invocation_.verb)) {
+            return wrongUsage("none of --recording, --pid and --app is taken here");
         }
         if (sources > 1) {
             return wrongUsage("give only one of --recording, --pid and --app");
@@ -284,9 +292,6 @@ class Parser {
         if (invocation_.verb == Verb::preferences) {
             if (preferences_->get_subcommands().empty()) {
                 return wrongUsage("one of read, write, delete, list, export and import is missing");
-            }
-            if (sources > 0) {
-                return wrongUsage("preferences takes none of --recording, --pid and --app");
             }
         }
         return std::move(invocation_);
@@ -302,7 +307,10 @@ class Parser {
     }
 
     Invocation invocation_;
-    CLI::App app_{"A keyboard-driven command palette over any application", "tovrel"};
+    CLI::App app_{
+        "A keyboard-driven command palette over any application. Without a verb it starts and stays, and "
+        "a second start opens the palette.",
+        "tovrel"};
     CLI::App* preferences_ = nullptr;
 };
 

@@ -12,7 +12,18 @@
 /// What the program was asked to do. Parsing only: nothing here looks at a file or runs anything.
 namespace tovrel::command_line {
 
-enum class Verb { menus, commands, search, press, record, preferences };
+enum class Verb {
+    run, ///< No verb: become the resident program.
+    menus,
+    commands,
+    search,
+    press,
+    record,
+    toggle,
+    quit,
+    status,
+    preferences
+};
 
 /// Whose menus are meant; at most one is set, and without any the front application's are.
 struct MenuSourceOptions {
@@ -30,7 +41,7 @@ struct PreferencesArguments {
 };
 
 struct Invocation {
-    Verb verb = Verb::menus;
+    Verb verb = Verb::run;
     MenuSourceOptions source;
     std::optional<std::string> preferencesFile;
     std::string localeIdentifier; ///< Empty for the environment's.

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/StorageKeys.h"
 #include "commands/CommandIndex.h"
 #include "stores/CommandHistoryStore.h"
 #include "stores/CustomCommandStore.h"

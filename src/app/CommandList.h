@@ -10,12 +10,6 @@
 
 namespace tovrel {
 
-/// The keys under which the stores that build a command list keep their documents.
-namespace storage_keys {
-inline constexpr const char* commandHistory = "Tovrel.commandHistory";
-inline constexpr const char* customCommands = "customCommands";
-} // namespace storage_keys
-
 /// What the palette would list over the application.
 struct CommandList {
     std::vector<Command> commands;

@@ -7,6 +7,7 @@
 #include "app/DescriptorBuffer.h"
 #include "app/ErrorLine.h"
 #include "app/Failure.h"
+#include "app/ResidentVerbs.h"
 #include "app/Verbs.h"
 #include "platform/linux/PreferencesFile.h"
 #include "platform/linux/SqlitePreferencesDomain.h"
@@ -20,7 +21,19 @@ using command_line::Verb;
 constexpr int failure = 1;
 constexpr int wrongUsage = 2;
 
-int runVerb(const Invocation& invocation, const Console& console) {
+int runVerb(const Invocation& invocation, const Console& console, const RunResident& runResident) {
+    switch (invocation.verb) {
+    case Verb::run:
+        return runResident(invocation, console);
+    case Verb::toggle:
+        return verbs::toggle();
+    case Verb::quit:
+        return verbs::quit();
+    case Verb::status:
+        return verbs::status(invocation.asJson, console);
+    default:
+        break;
+    }
     SqlitePreferencesDomain preferences(preferencesFile(invocation.preferencesFile));
     if (invocation.verb == Verb::preferences) {
         return verbs::preferences(invocation.preferences, invocation.asJson, preferences, console);
@@ -42,7 +55,7 @@ int runVerb(const Invocation& invocation, const Console& console) {
     }
 }
 
-int runParsed(const command_line::Parsed& parsed, const Console& console) {
+int runParsed(const command_line::Parsed& parsed, const Console& console, const RunResident& runResident) {
     if (const auto* usage = std::get_if<command_line::WrongUsage>(&parsed)) {
         printErrorLine(console.error, usage->message);
         return wrongUsage;
@@ -51,14 +64,14 @@ int runParsed(const command_line::Parsed& parsed, const Console& console) {
         console.output << information->text;
         return 0;
     }
-    return runVerb(std::get<Invocation>(parsed), console);
+    return runVerb(std::get<Invocation>(parsed), console, runResident);
 }
 
 } // namespace
 
-int runProgram(int argc, const char* const* argv, const Console& console) {
+int runProgram(int argc, const char* const* argv, const Console& console, const RunResident& runResident) {
     try {
-        const int status = runParsed(command_line::parse(argc, argv), console);
+        const int status = runParsed(command_line::parse(argc, argv), console, runResident);
         if (!console.output.flush()) {
             throw Failure("the output cannot be written");
         }

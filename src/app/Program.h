@@ -1,12 +1,18 @@
 #pragma once
 
+#include <functional>
+
+#include "app/CommandLine.h"
 #include "app/Console.h"
 
 namespace tovrel {
 
+/// Becomes the resident program until it is told to quit; its exit status. May throw Failure.
+using RunResident = std::function<int(const command_line::Invocation&, const Console&)>;
+
 /// Runs the program as started with these arguments and returns its exit status: 0 on success, 1 on failure
 /// (one line on standard error), 2 on wrong usage (likewise). A reader that closes the pipe of standard
 /// output early gives 1 without a line: it has what it wanted.
-int runProgram(int argc, const char* const* argv, const Console& console);
+int runProgram(int argc, const char* const* argv, const Console& console, const RunResident& runResident);
 
 } // namespace tovrel

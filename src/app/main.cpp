@@ -5,6 +5,7 @@
 #include "app/DescriptorBuffer.h"
 #include "app/Program.h"
 #include "app/Terminal.h"
+#include "app/resident/Resident.h"
 
 int main(int argc, char** argv) {
     // A reader of standard output that goes away shows as a failed write instead.
@@ -12,6 +13,6 @@ int main(int argc, char** argv) {
     tovrel::DescriptorBuffer buffer(STDOUT_FILENO);
     std::ostream output(&buffer);
     output.exceptions(std::ios::badbit);
-    return tovrel::runProgram(argc, argv,
-                              {std::cin, output, std::cerr, tovrel::outputStyleOf(STDOUT_FILENO)});
+    return tovrel::runProgram(argc, argv, {std::cin, output, std::cerr, tovrel::outputStyleOf(STDOUT_FILENO)},
+                              tovrel::runResident);
 }

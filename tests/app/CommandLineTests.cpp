@@ -81,7 +81,10 @@ TEST(CommandLine, PreferencesVerbsAndValues) {
 }
 
 TEST(CommandLine, WrongUsageSaysWhatAndWhereHelpIs) {
-    EXPECT_EQ(wrongUsage({}), "a verb is missing; see tovrel --help");
+    EXPECT_EQ(invocation({}).verb, Verb::run);
+    EXPECT_EQ(wrongUsage({"--pid", "1"}),
+              "none of --recording, --pid and --app is taken here; see tovrel --help");
+    EXPECT_THAT(wrongUsage({"--app", "x", "status"}), HasSubstr("is taken here; see tovrel status --help"));
     EXPECT_EQ(wrongUsage({"frobnicate"}), "unknown argument \"frobnicate\"; see tovrel --help");
     EXPECT_EQ(wrongUsage({"search"}), "QUERY is required; see tovrel search --help");
     EXPECT_EQ(wrongUsage({"search", "x", "--frob"}), "unknown argument \"--frob\"; see tovrel search --help");
@@ -92,7 +95,7 @@ TEST(CommandLine, WrongUsageSaysWhatAndWhereHelpIs) {
     EXPECT_THAT(wrongUsage({"preferences", "frob"}), HasSubstr("\"frob\"; see tovrel preferences --help"));
     EXPECT_THAT(wrongUsage({"preferences"}), HasSubstr("is missing; see tovrel preferences --help"));
     EXPECT_THAT(wrongUsage({"preferences", "write"}), HasSubstr("see tovrel preferences write --help"));
-    EXPECT_THAT(wrongUsage({"--pid", "1", "preferences", "list"}), HasSubstr("takes none of"));
+    EXPECT_THAT(wrongUsage({"--pid", "1", "preferences", "list"}), HasSubstr("is taken here"));
     EXPECT_THAT(wrongUsage({"menus", "--recording"}), HasSubstr("--recording takes one value, once"));
     EXPECT_THAT(wrongUsage({"menus", "--pid", "1", "--pid", "2"}), HasSubstr("--pid takes one value, once"));
     EXPECT_THAT(wrongUsage({"menus", "--recording", ""}), HasSubstr("is empty"));

@@ -13,6 +13,7 @@
 #include <nlohmann/json.hpp>
 
 #include "app/DescriptorBuffer.h"
+#include "app/Failure.h"
 #include "support/Json.h"
 
 namespace tovrel {
@@ -50,8 +51,11 @@ class Program : public testing::Test {
         }
         std::istringstream inputStream(input);
         std::ostringstream error;
-        const int status =
-            runProgram(static_cast<int>(pointers.size()), pointers.data(), {inputStream, output, error, {}});
+        const RunResident noResident = [](const command_line::Invocation& invocation, const Console&) -> int {
+            throw Failure("resident with " + invocation.preferencesFile.value_or("nothing"));
+        };
+        const int status = runProgram(static_cast<int>(pointers.size()), pointers.data(),
+                                      {inputStream, output, error, {}}, noResident);
         error_ = error.str();
         return status;
     }

@@ -221,8 +221,9 @@ TEST_F(Verbs, ARecordingGivesTheVeryResultOfTheApplication) {
         arguments.insert(arguments.begin(), "tovrel");
         arguments.insert(arguments.end(), {"--recording", "-", "--json", "--locale", "en", "--preferences",
                                            "/nonexistent/preferences.sqlite"});
-        EXPECT_EQ(
-            runProgram(static_cast<int>(arguments.size()), arguments.data(), {input, output, error, {}}), 0)
+        EXPECT_EQ(runProgram(static_cast<int>(arguments.size()), arguments.data(), {input, output, error, {}},
+                             nullptr),
+                  0)
             << error.str();
         return output.str();
     };

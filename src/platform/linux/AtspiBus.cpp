@@ -39,23 +39,34 @@ std::vector<AtspiApplication> readReferences(DBusMessage& answer) {
     return applications;
 }
 
-/// What the session bus knows of the accessibility bus: the answer of a call to the object that starts it.
-template <typename Arguments>
-std::optional<DBusMessage> askLauncher(const char* interface, const char* member, Arguments arguments) {
-    auto session = DBusConnection::openSessionBus();
-    if (!session) {
-        return std::nullopt;
-    }
-    const DBusMessage call = session->methodCall("org.a11y.Bus", "/org/a11y/bus", interface, member);
-    return call && arguments(call.handle()) ? session->call(call, after(launchPatience)) : std::nullopt;
-}
-
 } // namespace
 
 AtspiBus::AtspiBus(std::function<std::optional<std::string>()> addressOnScreen)
     : addressOnScreen_(std::move(addressOnScreen)) {}
 
-std::optional<std::string> AtspiBus::address() const {
+template <typename Arguments>
+std::optional<DBusMessage> AtspiBus::askLauncher(const char* interface, const char* member,
+                                                 Arguments arguments) {
+    // A connection kept from before may turn out lost; then a new one is tried.
+    for (const bool isKept : {true, false}) {
+        if (!isKept || !session_ || !session_->isOpen()) {
+            session_ = DBusConnection::openSessionBus();
+        }
+        const DBusMessage call =
+            session_ ? session_->methodCall("org.a11y.Bus", "/org/a11y/bus", interface, member)
+                     : DBusMessage();
+        if (!call || !arguments(call.handle())) {
+            return std::nullopt;
+        }
+        auto answer = session_->call(call, after(launchPatience));
+        if (answer || session_->isOpen()) {
+            return answer;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> AtspiBus::address() {
     // The order in which the platform's own library looks for it, except that the launcher comes before the
     // display: what it answers is alive, what a window carries may be left over.
     const char* fromEnvironment = std::getenv("AT_SPI_BUS_ADDRESS"); // NOLINT(concurrency-mt-unsafe)
@@ -88,7 +99,7 @@ bool AtspiBus::answers() {
     return answer && answer->errorName().empty();
 }
 
-bool AtspiBus::isEnabled() const {
+bool AtspiBus::isEnabled() {
     auto answer = askLauncher("org.freedesktop.DBus.Properties", "Get", [](sd_bus_message* call) {
         return sd_bus_message_append(call, "ss", "org.a11y.Status", "IsEnabled") >= 0;
     });

@@ -37,16 +37,21 @@ class AtspiBus {
 
     /// Whether accessibility is enabled for toolkits: IsEnabled of org.a11y.Status on the session bus. GTK
     /// registers on the accessibility bus regardless, Qt and Firefox only when it is. False when unknown.
-    [[nodiscard]] bool isEnabled() const;
+    [[nodiscard]] bool isEnabled();
 
     /// The applications on the bus that have a process identifier; absent when the registry does not answer
     /// within half a second.
     [[nodiscard]] std::optional<std::vector<AtspiApplication>> applications();
 
   private:
-    [[nodiscard]] std::optional<std::string> address() const;
+    [[nodiscard]] std::optional<std::string> address();
+
+    /// What the object on the session bus answers that starts the accessibility bus.
+    template <typename Arguments>
+    std::optional<DBusMessage> askLauncher(const char* interface, const char* member, Arguments arguments);
 
     std::function<std::optional<std::string>()> addressOnScreen_;
+    std::optional<DBusConnection> session_;
     std::optional<DBusConnection> connection_;
 };
 

@@ -7,8 +7,6 @@
 namespace tovrel::sqlite {
 namespace {
 
-constexpr int busyTimeoutMilliseconds = 5000;
-
 int primaryCode(int code) {
     constexpr int primaryBits = 0xFF; // extended codes carry more in the bits above
     return code & primaryBits;
@@ -123,7 +121,7 @@ void Statement::Finalize::operator()(sqlite3_stmt* statement) const {
     sqlite3_finalize(statement);
 }
 
-Connection::Connection(const std::filesystem::path& file) {
+Connection::Connection(const std::filesystem::path& file, std::chrono::milliseconds lockPatience) {
     constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
     sqlite3* connection = nullptr;
     const int code = sqlite3_open_v2(file.c_str(), &connection, flags, nullptr);
@@ -134,7 +132,7 @@ Connection::Connection(const std::filesystem::path& file) {
         }
         throwError(connection, code);
     }
-    sqlite3_busy_timeout(connection, busyTimeoutMilliseconds);
+    sqlite3_busy_timeout(connection, static_cast<int>(lockPatience.count()));
     // The file may come from anywhere: nothing in its schema is to run functions on our behalf.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);

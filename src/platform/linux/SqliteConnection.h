@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -72,8 +73,8 @@ class Statement {
 class Connection {
   public:
     /// Opens an existing file for writing if that is allowed, else for reading; creates nothing. A lock held
-    /// by another process is waited for up to five seconds.
-    explicit Connection(const std::filesystem::path& file);
+    /// by another process is waited for so long at each statement.
+    Connection(const std::filesystem::path& file, std::chrono::milliseconds lockPatience);
 
     /// Runs a statement to its end.
     void execute(const char* sql);

@@ -65,8 +65,9 @@ void store(sqlite::Connection& connection, const std::string& key, const Prefere
 
 } // namespace
 
-SqlitePreferencesDomain::SqlitePreferencesDomain(const std::filesystem::path& file, Reporter report)
-    : file_(resolved(file)), report_(std::move(report)) {
+SqlitePreferencesDomain::SqlitePreferencesDomain(const std::filesystem::path& file, Reporter report,
+                                                 std::chrono::milliseconds lockPatience)
+    : file_(resolved(file)), report_(std::move(report)), lockPatience_(lockPatience) {
     if (!report_) {
         report_ = [](const std::string& line) { std::cerr << "tovrel: " << line << '\n'; };
     }
@@ -230,7 +231,7 @@ bool SqlitePreferencesDomain::open() {
     if (!S_ISREG(status.st_mode)) {
         throw std::runtime_error("it is not a regular file");
     }
-    sqlite::Connection connection(file_);
+    sqlite::Connection connection(file_, lockPatience_);
     state_ = State::damaged;
     try {
         const sqlite::Transaction transaction(connection, sqlite::Transaction::Kind::read);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -34,8 +35,15 @@ class SqlitePreferencesDomain : public PreferencesDomain {
     /// Receives one line, without a line break, for each event worth telling the user.
     using Reporter = std::function<void(const std::string&)>;
 
-    /// Nothing is opened before the first operation. Reports go to standard error unless a reporter is given.
-    explicit SqlitePreferencesDomain(const std::filesystem::path& file, Reporter report = {});
+    /// Of a command that is run by itself, which may wait for another process's lock.
+    static constexpr std::chrono::milliseconds unhurriedPatience{5000};
+    /// Of a program whose user waits for the next picture.
+    static constexpr std::chrono::milliseconds interactivePatience{1000};
+
+    /// Nothing is opened before the first operation. A lock that another process holds is waited for during
+    /// `lockPatience`. Reports go to standard error unless a reporter is given.
+    explicit SqlitePreferencesDomain(const std::filesystem::path& file, Reporter report = {},
+                                     std::chrono::milliseconds lockPatience = unhurriedPatience);
 
     [[nodiscard]] std::optional<PreferenceValue> value(const std::string& key) override;
     bool set(const std::string& key, const PreferenceValue& value) override;
@@ -64,6 +72,7 @@ class SqlitePreferencesDomain : public PreferencesDomain {
 
     std::filesystem::path file_;
     Reporter report_;
+    std::chrono::milliseconds lockPatience_;
     std::optional<sqlite::Connection> connection_;
     preferences_schema::State state_ = preferences_schema::State::empty; ///< Of `connection_`.
     std::int64_t dataVersion_ = 0; ///< Of `connection_`; SQLite changes it with other connections' commits.

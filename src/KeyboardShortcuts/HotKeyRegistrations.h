@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <iosfwd>
+#include <map>
+#include <optional>
+
+#include "model/Shortcut.h"
+#include "platform/HotKeyCenter.h"
+#include "support/TextServices.h"
+
+namespace tovrel {
+
+/// The shortcuts this module has registered system-wide, and the events that come of them.
+///
+/// While one of the program's menus is open the desktop delivers no hot keys: they are then given back, and
+/// the raw key events that reach the menu are matched instead.
+class HotKeyRegistrations {
+  public:
+    /// Told the shortcut that went down or up.
+    using Callback = std::function<void(const Shortcut&)>;
+
+    /// Of a refused registration one line is written to `output`. All references must outlive the object.
+    HotKeyRegistrations(HotKeyCenter& center, const TextServices& textServices, std::ostream& output,
+                        Callback onKeyDown, Callback onKeyUp);
+    ~HotKeyRegistrations();
+    HotKeyRegistrations(const HotKeyRegistrations&) = delete;
+    HotKeyRegistrations& operator=(const HotKeyRegistrations&) = delete;
+
+    /// A refused shortcut does not fire, and nothing else happens. A key code or modifiers outside 32 bits
+    /// end the process.
+    void registerShortcut(const Shortcut& shortcut);
+    void unregisterShortcut(const Shortcut& shortcut);
+
+    /// Whether one of this program's menus is open. Initially none is.
+    void setMenuOpen(bool isOpen);
+
+  private:
+    struct Record {
+        Shortcut shortcut;
+        std::optional<HotKeyHandle> handle; ///< Absent while given back.
+    };
+
+    std::optional<HotKeyHandle> take(const Shortcut& shortcut, std::uint32_t id);
+    void updateEventHandler();
+    bool handleHotKey(const HotKeyEvent& event);
+    bool handleRawKey(const KeyEvent& event);
+
+    HotKeyCenter* center_;
+    const TextServices* textServices_;
+    std::ostream* output_;
+    Callback onKeyDown_;
+    Callback onKeyUp_;
+    std::map<std::uint32_t, Record> records_; ///< By hot-key id.
+    std::int64_t lastId_ = 0;
+    bool isHandlerInstalled_ = false;
+    bool isMenuOpen_ = false;
+};
+
+} // namespace tovrel

@@ -1,0 +1,113 @@
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
+
+#include <utility>
+
+#include "KeyboardShortcuts/StoredShortcut.h"
+
+namespace tovrel {
+namespace {
+
+std::string storageKey(const KeyboardShortcuts::Name& name) {
+    return "KeyboardShortcuts_" + name.rawValue;
+}
+
+} // namespace
+
+KeyboardShortcuts::KeyboardShortcuts(PreferencesDomain& defaults, HotKeyCenter& center,
+                                     UserInterface& userInterface, const TextServices& textServices,
+                                     std::ostream& output)
+    : defaults_(&defaults), hotKeys_(
+                                center, textServices, output,
+                                [this](const Shortcut& fired) { callHandlers(keyDownHandlers_, fired); },
+                                [this](const Shortcut& fired) { callHandlers(keyUpHandlers_, fired); }),
+      menuTracking_(userInterface.onMenuTracking([this](bool isOpen) { hotKeys_.setMenuOpen(isOpen); })) {}
+
+KeyboardShortcuts::Name KeyboardShortcuts::makeName(std::string rawValue,
+                                                    std::optional<Shortcut> defaultShortcut) {
+    Name name{std::move(rawValue), defaultShortcut};
+    // What could not be read may be the user's shortcut: it must not be replaced by the default.
+    if (defaultShortcut && !defaults_->value(storageKey(name)) && defaults_->lastReadSucceeded()) {
+        setShortcut(defaultShortcut, name);
+    }
+    return name;
+}
+
+std::optional<Shortcut> KeyboardShortcuts::getShortcut(const Name& name) const {
+    const auto value = defaults_->value(storageKey(name));
+    const auto* text = value ? std::get_if<Text>(&*value) : nullptr;
+    return text == nullptr ? std::nullopt : decodedShortcut(*text);
+}
+
+void KeyboardShortcuts::setShortcut(const std::optional<Shortcut>& shortcut, const Name& name) {
+    const std::optional<Shortcut> current = getShortcut(name);
+    if (!shortcut && !current) {
+        return;
+    }
+    if (current) {
+        unregister(*current);
+    }
+    if (shortcut) {
+        registerOnce(*shortcut);
+        defaults_->set(storageKey(name), encodedShortcut(*shortcut));
+    } else if (name.defaultShortcut) {
+        defaults_->set(storageKey(name), false);
+    } else {
+        defaults_->remove(storageKey(name));
+    }
+    shortcutByNameDidChange_.notify(name);
+}
+
+void KeyboardShortcuts::onKeyDown(const Name& name, Handler handler) {
+    addHandler(keyDownHandlers_, name, std::move(handler));
+}
+
+void KeyboardShortcuts::onKeyUp(const Name& name, Handler handler) {
+    addHandler(keyUpHandlers_, name, std::move(handler));
+}
+
+void KeyboardShortcuts::disable(const std::vector<Name>& names) {
+    for (const Name& name : names) {
+        if (const auto shortcut = getShortcut(name)) {
+            unregister(*shortcut);
+        }
+    }
+}
+
+void KeyboardShortcuts::enable(const std::vector<Name>& names) {
+    for (const Name& name : names) {
+        if (const auto shortcut = getShortcut(name)) {
+            registerOnce(*shortcut);
+        }
+    }
+}
+
+void KeyboardShortcuts::addHandler(HandlersByName& handlersByName, const Name& name, Handler handler) {
+    Handlers& handlers = handlersByName.try_emplace(name.rawValue, Handlers{name, {}}).first->second;
+    handlers.handlers.push_back(std::move(handler));
+    enable({name});
+}
+
+void KeyboardShortcuts::callHandlers(const HandlersByName& handlersByName, const Shortcut& fired) const {
+    std::vector<Handler> toCall; // a copy: a handler may add others
+    for (const auto& [rawValue, handlers] : handlersByName) {
+        if (getShortcut(handlers.name) == fired) {
+            toCall.insert(toCall.end(), handlers.handlers.begin(), handlers.handlers.end());
+        }
+    }
+    for (const Handler& handler : toCall) {
+        handler();
+    }
+}
+
+void KeyboardShortcuts::registerOnce(const Shortcut& shortcut) {
+    if (registeredShortcuts_.insert(shortcut).second) {
+        hotKeys_.registerShortcut(shortcut);
+    }
+}
+
+void KeyboardShortcuts::unregister(const Shortcut& shortcut) {
+    hotKeys_.unregisterShortcut(shortcut);
+    registeredShortcuts_.erase(shortcut);
+}
+
+} // namespace tovrel

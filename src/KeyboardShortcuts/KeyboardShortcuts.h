@@ -1,0 +1,83 @@
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "KeyboardShortcuts/HotKeyRegistrations.h"
+#include "model/Shortcut.h"
+#include "platform/HotKeyCenter.h"
+#include "platform/PreferencesDomain.h"
+#include "platform/UserInterface.h"
+#include "support/Observable.h"
+#include "support/TextServices.h"
+
+namespace tovrel {
+
+/// Named global shortcuts that the user can change: each is kept in the preferences, registered system-wide,
+/// and calls the handlers of its name when it goes down and up.
+///
+/// Under the key "KeyboardShortcuts_" + name the preferences hold the shortcut's JSON text, or false when the
+/// user removed the shortcut of a name that has a default. Any other value counts as no shortcut and is left
+/// as it is.
+class KeyboardShortcuts {
+  public:
+    struct Name {
+        std::string rawValue;
+        std::optional<Shortcut> defaultShortcut;
+    };
+
+    using Handler = std::function<void()>;
+
+    /// All references must outlive the object. `output` gets a line for each combination that was refused.
+    KeyboardShortcuts(PreferencesDomain& defaults, HotKeyCenter& center, UserInterface& userInterface,
+                      const TextServices& textServices, std::ostream& output);
+
+    /// Makes a name usable: stores its default when nothing at all is stored for it yet.
+    Name makeName(std::string rawValue, std::optional<Shortcut> defaultShortcut);
+
+    [[nodiscard]] std::optional<Shortcut> getShortcut(const Name& name) const;
+
+    /// Stores and registers the shortcut in place of the one before; an absent one removes that. A name
+    /// without a shortcut stays untouched by its removal.
+    void setShortcut(const std::optional<Shortcut>& shortcut, const Name& name);
+
+    /// Adds a handler, called after those added before. Registers the name's shortcut if it is not yet.
+    void onKeyDown(const Name& name, Handler handler);
+    void onKeyUp(const Name& name, Handler handler);
+
+    /// Gives the names' shortcuts back to the desktop, and takes them again. Handlers stay.
+    void disable(const std::vector<Name>& names);
+    void enable(const std::vector<Name>& names);
+
+    /// The observer is told the name whose shortcut was set or removed.
+    [[nodiscard]] Subscription onShortcutByNameDidChange(std::function<void(const Name&)> observer) const {
+        return shortcutByNameDidChange_.subscribe(std::move(observer));
+    }
+
+  private:
+    struct Handlers {
+        Name name;
+        std::vector<Handler> handlers;
+    };
+    using HandlersByName = std::map<std::string, Handlers>;
+
+    void addHandler(HandlersByName& handlersByName, const Name& name, Handler handler);
+    void callHandlers(const HandlersByName& handlersByName, const Shortcut& fired) const;
+    void registerOnce(const Shortcut& shortcut);
+    void unregister(const Shortcut& shortcut);
+
+    PreferencesDomain* defaults_;
+    HandlersByName keyDownHandlers_;
+    HandlersByName keyUpHandlers_;
+    std::set<Shortcut> registeredShortcuts_;
+    HotKeyRegistrations hotKeys_;
+    Subscription menuTracking_;
+    ObserverList<const Name&> shortcutByNameDidChange_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <optional>
+
+#include "model/Shortcut.h"
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// A shortcut as it is kept in the preferences: the JSON text {"carbonKeyCode":35,"carbonModifiers":768}.
+[[nodiscard]] Text encodedShortcut(const Shortcut& shortcut);
+
+/// Absent when the text is no such document, or names a key code (0 … 65535) or modifiers (32 bits) that no
+/// shortcut has: what cannot be registered must not be tried.
+[[nodiscard]] std::optional<Shortcut> decodedShortcut(const Text& text);
+
+} // namespace tovrel

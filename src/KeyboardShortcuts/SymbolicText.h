@@ -1,0 +1,20 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "model/Shortcut.h"
+#include "support/Text.h"
+#include "support/TextServices.h"
+
+namespace tovrel {
+
+/// What the current keyboard layout types for a key without modifiers; absent when that is nothing.
+using CharacterForKeyCode = std::function<std::optional<Text>(std::uint32_t keyCode)>;
+
+/// A shortcut in glyphs: ⌃ ⌥ ⇧ ⌘ in this order, the globe for Function, then the key. Not the order of a menu
+/// item's shortcut text.
+[[nodiscard]] Text symbolicText(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode,
+                                const TextServices& textServices);
+
+} // namespace tovrel

@@ -1,0 +1,9 @@
+#pragma once
+
+/// Where the resident program is on the session bus. See packaging/org.tovrel.Tovrel.xml for what it offers.
+namespace tovrel::dbus_names {
+/// Also the program's application identifier and the name of its desktop entry.
+inline constexpr const char* service = "org.tovrel.Tovrel";
+inline constexpr const char* objectPath = "/org/tovrel/Tovrel";
+inline constexpr const char* interface = "org.tovrel.Tovrel";
+} // namespace tovrel::dbus_names

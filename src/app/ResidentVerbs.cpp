@@ -1,0 +1,52 @@
+#include "app/ResidentVerbs.h"
+
+#include <nlohmann/json.hpp>
+
+#include "app/ResidentClient.h"
+#include "app/TerminalText.h"
+#include "support/Json.h"
+
+namespace tovrel::verbs {
+namespace {
+
+json::Value textOrNull(const std::string& text) {
+    return text.empty() ? json::Value() : json::toJson(Text(text));
+}
+
+std::string textOr(const std::string& text, const char* ifEmpty) {
+    return text.empty() ? ifEmpty : terminal_text::printable(text);
+}
+
+} // namespace
+
+int toggle() {
+    ResidentClient().toggle();
+    return 0;
+}
+
+int quit() {
+    ResidentClient().quit();
+    return 0;
+}
+
+int status(bool asJson, const Console& console) {
+    const ResidentStatus status = ResidentClient().status();
+    if (asJson) {
+        console.output << json::dump({{"version", json::toJson(Text(status.version))},
+                                      {"processIdentifier", status.processIdentifier},
+                                      {"paletteVisible", status.isPaletteVisible},
+                                      {"accessibilityTrusted", status.isAccessibilityTrusted},
+                                      {"shortcut", textOrNull(status.shortcut)},
+                                      {"target", textOrNull(status.target)}})
+                       << '\n';
+        return 0;
+    }
+    console.output << "tovrel " << status.version << " runs as process " << status.processIdentifier << '\n'
+                   << "Palette:       " << (status.isPaletteVisible ? "open" : "closed") << '\n'
+                   << "Shortcut:      " << textOr(status.shortcut, "none") << '\n'
+                   << "Accessibility: " << (status.isAccessibilityTrusted ? "on" : "off") << '\n'
+                   << "Target:        " << textOr(status.target, "none yet") << '\n';
+    return 0;
+}
+
+} // namespace tovrel::verbs

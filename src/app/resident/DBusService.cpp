@@ -1,0 +1,68 @@
+#include "app/resident/DBusService.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <utility>
+
+#include "app/DBusNames.h"
+
+namespace tovrel {
+
+DBusService::DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutForPeople shortcutForPeople,
+                         std::function<void()> quit)
+    : coordinator_(std::move(coordinator)), shortcutForPeople_(std::move(shortcutForPeople)),
+      quit_(std::move(quit)) {}
+
+bool DBusService::registerOnSessionBus() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    return bus.registerObject(dbus_names::objectPath, this,
+                              QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties) &&
+           bus.registerService(dbus_names::service);
+}
+
+QString DBusService::version() const {
+    return TOVREL_VERSION;
+}
+
+uint DBusService::processIdentifier() const {
+    return static_cast<uint>(QCoreApplication::applicationPid());
+}
+
+bool DBusService::isPaletteVisible() const {
+    const auto coordinator = coordinator_.lock();
+    return coordinator && coordinator->isPaletteVisible();
+}
+
+bool DBusService::isAccessibilityTrusted() const {
+    const auto coordinator = coordinator_.lock();
+    return coordinator && coordinator->isAccessibilityTrusted();
+}
+
+QString DBusService::shortcut() const {
+    return QString::fromStdString(shortcutForPeople_().utf8());
+}
+
+QString DBusService::target() const {
+    const auto coordinator = coordinator_.lock();
+    const auto application = coordinator ? coordinator->currentApplication() : nullptr;
+    const auto identifier = application ? application->bundleIdentifier() : std::nullopt;
+    return identifier ? QString::fromStdString(identifier->utf8()) : QString();
+}
+
+void DBusService::Toggle() {
+    if (const auto coordinator = coordinator_.lock()) {
+        coordinator->handleTogglePalette();
+    }
+}
+
+void DBusService::Show() {
+    if (const auto coordinator = coordinator_.lock()) {
+        coordinator->showPalette();
+    }
+}
+
+void DBusService::Quit() {
+    quit_();
+}
+
+} // namespace tovrel

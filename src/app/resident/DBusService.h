@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "app/AppCoordinator.h"
+
+namespace tovrel {
+
+/// What other programs may ask of the resident one, over the session bus. Nothing here runs a command: it can
+/// only show the palette, where the user chooses.
+class DBusService : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.tovrel.Tovrel")
+    Q_PROPERTY(QString Version READ version CONSTANT)
+    Q_PROPERTY(uint ProcessIdentifier READ processIdentifier CONSTANT)
+    Q_PROPERTY(bool PaletteVisible READ isPaletteVisible)
+    Q_PROPERTY(bool AccessibilityTrusted READ isAccessibilityTrusted)
+    Q_PROPERTY(QString Shortcut READ shortcut)
+    Q_PROPERTY(QString Target READ target)
+
+  public:
+    /// The shortcut as people read it, or empty.
+    using ShortcutForPeople = std::function<Text()>;
+
+    DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutForPeople shortcutForPeople,
+                std::function<void()> quit);
+
+    /// Offers the object and then takes the name. False when there is no session bus or another process has
+    /// the name.
+    bool registerOnSessionBus();
+
+    [[nodiscard]] QString version() const;
+    [[nodiscard]] uint processIdentifier() const;
+    [[nodiscard]] bool isPaletteVisible() const;
+    [[nodiscard]] bool isAccessibilityTrusted() const;
+    [[nodiscard]] QString shortcut() const;
+    [[nodiscard]] QString target() const;
+
+    // Named as methods are on the bus. NOLINTBEGIN(readability-identifier-naming)
+  public slots:
+    void Toggle();
+    void Show();
+    void Quit();
+    // NOLINTEND(readability-identifier-naming)
+
+  private:
+    std::weak_ptr<AppCoordinator> coordinator_;
+    ShortcutForPeople shortcutForPeople_;
+    std::function<void()> quit_;
+};
+
+} // namespace tovrel

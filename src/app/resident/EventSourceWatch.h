@@ -1,0 +1,30 @@
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QSocketNotifier>
+
+#include "platform/linux/EventSource.h"
+
+namespace tovrel {
+
+/// Has the main loop dispatch a source's events: when its descriptor becomes readable, and before the loop goes
+/// to sleep, since a question asked over the same connection may have brought events into memory.
+class EventSourceWatch {
+  public:
+    /// The source must outlive the watch.
+    explicit EventSourceWatch(EventSource& source);
+    ~EventSourceWatch();
+    EventSourceWatch(const EventSourceWatch&) = delete;
+    EventSourceWatch& operator=(const EventSourceWatch&) = delete;
+
+  private:
+    void dispatch();
+
+    EventSource* source_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+    QMetaObject::Connection beforeSleep_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "app/CommandLine.h"
+#include "app/Console.h"
+
+namespace tovrel {
+
+/// Becomes the resident program and returns, once it is told to quit, the exit status. When one runs already,
+/// that one opens its palette and this one ends at once. Throws Failure when there is no display to show
+/// anything on, or the program was built without a user interface.
+int runResident(const command_line::Invocation& invocation, const Console& console);
+
+} // namespace tovrel

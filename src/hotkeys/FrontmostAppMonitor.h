@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+
+#include "hotkeys/FrontmostAppResolver.h"
+#include "platform/Workspace.h"
+#include "support/Observable.h"
+
+namespace tovrel {
+
+/// Remembers the last application that was in front and is not this one, so that the palette works on what
+/// the user was working in.
+class FrontmostAppMonitor {
+  public:
+    FrontmostAppMonitor(Workspace& workspace, FrontmostAppResolver resolver);
+
+    /// Begins to watch, with the application that is in front now. Called once.
+    void start();
+
+    /// The application in front, or the last other one while this program is; null when there is none, or it
+    /// has quit.
+    [[nodiscard]] std::shared_ptr<RunningApplication> resolveTargetApplication();
+
+  private:
+    void remember(const std::shared_ptr<RunningApplication>& application);
+
+    Workspace* workspace_;
+    FrontmostAppResolver resolver_;
+    Subscription activationObserver_;
+    std::shared_ptr<RunningApplication> cachedExternalApplication_;
+};
+
+} // namespace tovrel

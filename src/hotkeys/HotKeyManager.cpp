@@ -1,0 +1,72 @@
+#include "hotkeys/HotKeyManager.h"
+
+#include <chrono>
+#include <limits>
+#include <utility>
+
+#include "support/Fatal.h"
+
+namespace tovrel {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Until the desktop no longer takes the keystroke for ours.
+constexpr auto beforePosting = 50ms;
+/// Until the application in front has received it.
+constexpr auto beforeTakingBack = 150ms;
+
+std::uint16_t postableKeyCode(const Shortcut& shortcut) {
+    if (shortcut.carbonKeyCode < 0 || shortcut.carbonKeyCode > std::numeric_limits<std::uint16_t>::max()) {
+        fatal("the shortcut's key code does not fit 16 bits");
+    }
+    return static_cast<std::uint16_t>(shortcut.carbonKeyCode);
+}
+
+/// An application receives these; Function is nothing it could know of.
+constexpr ModifierFlags postableFlags = modifier_flags::command | modifier_flags::shift |
+                                        modifier_flags::option | modifier_flags::control |
+                                        modifier_flags::capsLock;
+
+} // namespace
+
+HotKeyManager::HotKeyManager(KeyboardShortcuts& shortcuts, KeyboardShortcuts::Name toggleShortcut,
+                             KeyEventPoster& poster, MainQueue& queue)
+    : shortcuts_(&shortcuts), toggleShortcut_(std::move(toggleShortcut)), poster_(&poster), queue_(&queue) {}
+
+void HotKeyManager::handleKeyDown() {
+    if (repeatGuard_.keyDown() && onTogglePalette) {
+        onTogglePalette();
+    }
+}
+
+void HotKeyManager::handleKeyUp() {
+    repeatGuard_.keyUp();
+}
+
+void HotKeyManager::forwardToggleShortcut() {
+    repeatGuard_.keyUp(); // the key-up of this press goes to whoever has the keyboard then
+    if (isForwardingToggleShortcut_) {
+        return;
+    }
+    const std::optional<Shortcut> shortcut = shortcuts_->getShortcut(toggleShortcut_);
+    if (!shortcut) {
+        return;
+    }
+    isForwardingToggleShortcut_ = true;
+    shortcuts_->disable({toggleShortcut_});
+    // Once begun it goes on without this manager: the shortcut must come back.
+    queue_->postAfter(beforePosting, [weak = weak_from_this(), shortcuts = shortcuts_, poster = poster_,
+                                      queue = queue_, name = toggleShortcut_, shortcut = *shortcut] {
+        poster->postKeyPress(postableKeyCode(shortcut),
+                             modifierFlags(shortcut.carbonModifiers) & postableFlags);
+        queue->postAfter(beforeTakingBack, [weak, shortcuts, name] {
+            shortcuts->enable({name});
+            if (const auto manager = weak.lock()) {
+                manager->isForwardingToggleShortcut_ = false;
+            }
+        });
+    });
+}
+
+} // namespace tovrel

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+
+#include "model/Geometry.h"
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// Decides whether the palette goes away when an application comes to the front.
+struct PaletteDismissalPolicy {
+    /// Only this program's own activation leaves the palette open; an unknown application is another one.
+    [[nodiscard]] static bool shouldDismiss(const std::optional<Text>& activatedBundleIdentifier,
+                                            const std::optional<Text>& ownBundleIdentifier) {
+        return !activatedBundleIdentifier || activatedBundleIdentifier != ownBundleIdentifier;
+    }
+};
+
+/// Decides where the palette goes.
+struct PalettePresentationPolicy {
+    /// Taken when there is no screen.
+    static constexpr Rect fallbackFrame{{0, 0}, {1440, 900}};
+
+    /// Centred, and 80 above the middle, where the eye is. y grows upwards.
+    [[nodiscard]] static Point panelOrigin(const Rect& visibleFrame, Size panel) {
+        constexpr double aboveCentre = 80;
+        return {visibleFrame.origin.x + visibleFrame.size.width / 2 - panel.width / 2,
+                visibleFrame.origin.y + visibleFrame.size.height / 2 + aboveCentre - panel.height / 2};
+    }
+};
+
+/// What a shortcut typed into the palette does.
+enum class PaletteShortcutRoute { commandLookup };
+
+struct PaletteShortcutRoutingPolicy {
+    /// The option is reserved: whatever it says, a shortcut runs the application's command that carries it.
+    [[nodiscard]] static PaletteShortcutRoute route(bool /*commandShortcutOpensSettings*/) {
+        return PaletteShortcutRoute::commandLookup;
+    }
+};
+
+} // namespace tovrel

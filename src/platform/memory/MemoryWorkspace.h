@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/Workspace.h"
+
+namespace tovrel {
+
+/// A desktop on which applications come to the front when they are told to.
+class MemoryWorkspace : public Workspace {
+  public:
+    [[nodiscard]] std::shared_ptr<RunningApplication> frontApplication() override { return front_; }
+    bool activate(const RunningApplication& application) override {
+        activated_.push_back(application.processIdentifier());
+        return true;
+    }
+    [[nodiscard]] Subscription
+    onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override {
+        return activations_.subscribe(std::move(observer));
+    }
+    void open(const Text& url) override { opened_.push_back(url); }
+
+    /// As when the user switches to it; null is a desktop without an application in front.
+    void bringToFront(std::shared_ptr<RunningApplication> application) {
+        front_ = std::move(application);
+        activations_.notify(front_);
+    }
+
+    /// The process identifiers of the applications that were asked to come to the front.
+    [[nodiscard]] const std::vector<std::int32_t>& activated() const { return activated_; }
+    [[nodiscard]] const std::vector<Text>& opened() const { return opened_; }
+
+  private:
+    std::shared_ptr<RunningApplication> front_;
+    ObserverList<const std::shared_ptr<RunningApplication>&> activations_;
+    std::vector<std::int32_t> activated_;
+    std::vector<Text> opened_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,156 @@
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
+
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "KeyboardShortcuts/SymbolicText.h"
+#include "platform/memory/MemoryHotKeyCenter.h"
+#include "platform/memory/MemoryPreferencesDomain.h"
+#include "platform/memory/MemoryUserInterface.h"
+
+namespace tovrel {
+namespace {
+
+constexpr const char* key = "KeyboardShortcuts_togglePalette";
+constexpr Shortcut standard{35, 768};
+constexpr Shortcut other{0, 4096};
+
+class KeyboardShortcutsTest : public testing::Test {
+  protected:
+    KeyboardShortcuts::Name toggle() { return shortcuts_.makeName("togglePalette", standard); }
+
+    TextServices textServices_{"en"};
+    MemoryPreferencesDomain preferences_;
+    MemoryHotKeyCenter center_;
+    MemoryUserInterface userInterface_;
+    std::ostringstream output_;
+    KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};
+};
+
+TEST_F(KeyboardShortcutsTest, TheDefaultIsStoredAndRegisteredOnlyWhenNothingIsStored) {
+    const auto name = toggle();
+    EXPECT_EQ(preferences_.value(key),
+              PreferenceValue(Text(R"({"carbonKeyCode":35,"carbonModifiers":768})")));
+    EXPECT_EQ(center_.registrations(standard), 1U);
+
+    shortcuts_.setShortcut(std::nullopt, name);
+    EXPECT_EQ(preferences_.value(key), PreferenceValue(false));
+    EXPECT_EQ(center_.registrations(standard), 0U);
+    EXPECT_EQ(shortcuts_.getShortcut(toggle()), std::nullopt) << "a removed shortcut does not come back";
+}
+
+TEST_F(KeyboardShortcutsTest, WhatIsNoShortcutIsLeftAlone) {
+    for (const PreferenceValue& stored :
+         {PreferenceValue(Text("nonsense")), PreferenceValue(Text(R"({"carbonKeyCode":35})")),
+          PreferenceValue(Text(R"({"carbonKeyCode":-1,"carbonModifiers":768})")),
+          PreferenceValue(Text(R"({"carbonKeyCode":65536,"carbonModifiers":768})")),
+          PreferenceValue(Text(R"({"carbonKeyCode":35,"carbonModifiers":4294967296})")),
+          PreferenceValue(Text(R"({"carbonKeyCode":"35","carbonModifiers":true})")), PreferenceValue(true),
+          PreferenceValue(PreferenceData{R"({"carbonKeyCode":35,"carbonModifiers":768})"})}) {
+        preferences_.set(key, stored);
+        const auto name = toggle();
+        shortcuts_.onKeyDown(name, [] {});
+        EXPECT_EQ(shortcuts_.getShortcut(name), std::nullopt);
+        shortcuts_.setShortcut(std::nullopt, name);
+        EXPECT_EQ(preferences_.value(key), stored);
+        EXPECT_EQ(center_.registrations(standard), 0U);
+    }
+}
+
+TEST_F(KeyboardShortcutsTest, HandlersAreCalledInOrderForTheStoredShortcutOnly) {
+    const auto name = toggle();
+    std::string calls;
+    shortcuts_.onKeyDown(name, [&] { calls += "a"; });
+    shortcuts_.onKeyDown(name, [&] { calls += "b"; });
+    shortcuts_.onKeyUp(name, [&] { calls += "u"; });
+    EXPECT_EQ(center_.registrations(standard), 1U) << "several handlers, one registration";
+    EXPECT_TRUE(center_.press(standard));
+    EXPECT_TRUE(center_.release(standard));
+    EXPECT_EQ(calls, "abu");
+
+    shortcuts_.setShortcut(other, name);
+    EXPECT_FALSE(center_.press(standard));
+    EXPECT_TRUE(center_.press(other));
+    EXPECT_EQ(calls, "abuab");
+
+    // Changed behind our back: the registered combination is no longer the name's.
+    preferences_.set(key, false);
+    center_.press(other);
+    EXPECT_EQ(calls, "abuab");
+}
+
+TEST_F(KeyboardShortcutsTest, DisablingAndEnablingLeavesOneRegistration) {
+    const auto name = toggle();
+    shortcuts_.enable({name});
+    EXPECT_EQ(center_.registrations(standard), 1U);
+    shortcuts_.disable({name});
+    shortcuts_.disable({name});
+    EXPECT_EQ(center_.registrations(standard), 0U);
+    shortcuts_.enable({name});
+    EXPECT_EQ(center_.registrations(standard), 1U);
+}
+
+TEST_F(KeyboardShortcutsTest, ARefusedCombinationIsReportedInOneLine) {
+    center_.refuse(standard);
+    int calls = 0;
+    const auto name = toggle();
+    shortcuts_.onKeyDown(name, [&] { ++calls; });
+    EXPECT_EQ(output_.str(), "Error registering hotkey ⇧⌘P: -9878\n");
+    EXPECT_FALSE(center_.press(standard));
+    EXPECT_EQ(shortcuts_.getShortcut(name), standard);
+    shortcuts_.setShortcut(other, name);
+    EXPECT_TRUE(center_.press(other));
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(KeyboardShortcutsTest, WhileAMenuIsOpenTheKeysAreMatchedRaw) {
+    const auto name = toggle();
+    int downs = 0;
+    int ups = 0;
+    shortcuts_.onKeyDown(name, [&] { ++downs; });
+    shortcuts_.onKeyUp(name, [&] { ++ups; });
+    userInterface_.setMenuOpen(true);
+    EXPECT_EQ(center_.registrations(standard), 0U);
+    EXPECT_TRUE(center_.press(standard));
+    EXPECT_TRUE(center_.release(standard));
+    EXPECT_FALSE(center_.press(other));
+    EXPECT_EQ(std::pair(downs, ups), std::pair(1, 1));
+
+    center_.refuse(standard); // taken by another program meanwhile
+    userInterface_.setMenuOpen(false);
+    EXPECT_FALSE(center_.listensToRawKeys());
+    EXPECT_FALSE(center_.press(standard));
+    EXPECT_EQ(downs, 1);
+}
+
+TEST_F(KeyboardShortcutsTest, ObserversAreToldOfEachChange) {
+    const auto name = toggle();
+    int changes = 0;
+    const auto subscription = shortcuts_.onShortcutByNameDidChange([&](const auto& changed) {
+        EXPECT_EQ(changed.rawValue, "togglePalette");
+        ++changes;
+    });
+    shortcuts_.setShortcut(standard, name);
+    shortcuts_.setShortcut(std::nullopt, name);
+    shortcuts_.setShortcut(std::nullopt, name); // nothing left to remove
+    EXPECT_EQ(changes, 2);
+}
+
+TEST(SymbolicTextTest, ModifiersThenKey) {
+    const TextServices textServices("en");
+    const auto layout = [](std::uint32_t keyCode) {
+        return keyCode == 41 ? std::optional<Text>("ö") : std::nullopt;
+    };
+    const auto text = [&](std::int64_t keyCode, std::int64_t modifiers) {
+        return symbolicText({keyCode, modifiers}, layout, textServices);
+    };
+    EXPECT_EQ(text(41, 0x100 | 0x200 | 0x800 | 0x1000 | 0x20000), "⌃⌥⇧⌘\U0001F310\uFE0EÖ");
+    EXPECT_EQ(text(7, 0x100), "⌘\uFFFD");
+    EXPECT_EQ(text(49, 0x800), "⌥Space");
+    EXPECT_EQ(text(91, 0), "8\u20E3");
+    EXPECT_EQ(text(90, 0), "F20");
+}
+
+} // namespace
+} // namespace tovrel

@@ -1,0 +1,320 @@
+#include "app/AppCoordinator.h"
+
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "platform/memory/ManualQueue.h"
+#include "platform/memory/MemoryAccessibility.h"
+#include "platform/memory/MemoryApplication.h"
+#include "platform/memory/MemoryElement.h"
+#include "platform/memory/MemoryHotKeyCenter.h"
+#include "platform/memory/MemoryKeyEventPoster.h"
+#include "platform/memory/MemoryPalettePanel.h"
+#include "platform/memory/MemoryPreferencesDomain.h"
+#include "platform/memory/MemoryProcessRunner.h"
+#include "platform/memory/MemoryUserInterface.h"
+#include "platform/memory/MemoryWorkspace.h"
+
+namespace tovrel {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Shortcut standard{35, 768};
+constexpr PointInTime start{800'000'000};
+
+/// An application with one menu of the given items, each with a shortcut, so that an empty query lists it.
+struct Application {
+    Application(std::int32_t process, std::optional<Text> identifier, const std::vector<Text>& titles)
+        : running(std::make_shared<MemoryApplication>(process, std::move(identifier), std::nullopt)) {
+        std::vector<MemoryElement::Element> children;
+        for (const Text& title : titles) {
+            items.push_back(std::make_shared<MemoryElement>(MemoryElement::Attributes{
+                {"AXTitle", title}, {"AXMenuItemCmdChar", Text(title.view().substr(0, 1))}}));
+            children.push_back(items.back());
+        }
+        const auto menu = std::make_shared<MemoryElement>(
+            MemoryElement::Attributes{{"AXTitle", Text("File")}, {"AXChildren", children}});
+        const auto bar = std::make_shared<MemoryElement>(
+            MemoryElement::Attributes{{"AXChildren", std::vector<MemoryElement::Element>{menu}}});
+        root = std::make_shared<MemoryElement>(
+            MemoryElement::Attributes{{"AXMenuBar", MemoryElement::Element(bar)}});
+    }
+
+    std::shared_ptr<MemoryApplication> running;
+    std::vector<std::shared_ptr<MemoryElement>> items;
+    std::shared_ptr<MemoryElement> root;
+};
+
+class AppCoordinatorTest : public testing::Test {
+  protected:
+    AppCoordinatorTest() {
+        add(editor_);
+        add(browser_);
+        add(nameless_);
+        workspace_.bringToFront(editor_.running);
+        coordinator_->start();
+        queue_.runDue();
+    }
+
+    void add(const Application& application) {
+        accessibility_.setApplicationElement(application.running->processIdentifier(), application.root);
+    }
+
+    std::shared_ptr<AppCoordinator> makeCoordinator() {
+        return std::make_shared<AppCoordinator>(
+            Platform{.accessibility = accessibility_,
+                     .workspace = workspace_,
+                     .hotKeyCenter = center_,
+                     .keyEventPoster = poster_,
+                     .mainQueue = queue_,
+                     .processRunner = runner_,
+                     .userInterface = userInterface_,
+                     .preferences = preferences_,
+                     .shortcuts = shortcuts_,
+                     .textServices = textServices_,
+                     .ownBundleIdentifier = Text("org.tovrel.Tovrel"),
+                     .makePalettePanel =
+                         [this](const PaletteViewContext& context) {
+                             model_ = &context.viewModel;
+                             auto panel = std::make_unique<MemoryPalettePanel>();
+                             panel_ = panel.get();
+                             return panel;
+                         },
+                     .now = [this] { return now_; },
+                     .openURL = [this](const Url& url) { workspace_.open(url.text()); },
+                     .fileExists = [](const Text&) { return false; },
+                     .showAccessibilityOnboarding = [this] { ++onboardings_; }});
+    }
+
+    void pressHotKey() {
+        center_.press(standard);
+        center_.release(standard);
+    }
+
+    std::vector<std::string> titles() const {
+        std::vector<std::string> titles;
+        for (std::size_t row = 0; row < model_->results().get().size(); ++row) {
+            titles.push_back(model_->results().get()[row].command.title.utf8());
+        }
+        return titles;
+    }
+
+    bool returnKey() { return panel_->type({KeyEventType::keyDown, 36, "\r", 0}); }
+    CommandHistoryStore history() { return {preferences_, "Tovrel.commandHistory", textServices_}; }
+
+    static CustomCommand customCommand(const Text& title, CustomCommandKind kind) {
+        CustomCommand command;
+        command.id = title;
+        command.title = title;
+        command.kind = kind;
+        command.payload = "payload";
+        return command;
+    }
+
+    TextServices textServices_{"en"};
+    MemoryAccessibility accessibility_;
+    MemoryWorkspace workspace_;
+    MemoryHotKeyCenter center_;
+    MemoryKeyEventPoster poster_;
+    ManualQueue queue_;
+    MemoryProcessRunner runner_;
+    MemoryUserInterface userInterface_;
+    MemoryPreferencesDomain preferences_;
+    std::ostringstream output_;
+    KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};
+    PointInTime now_ = start;
+    int onboardings_ = 0;
+    MemoryPalettePanel* panel_ = nullptr; // owned by the coordinator, as the model is
+    PaletteViewModel* model_ = nullptr;
+    Application editor_{10, "org.editor", {"Open", "Save"}};
+    Application browser_{20, "org.browser", {"Reload"}};
+    Application nameless_{30, std::nullopt, {"Turn"}};
+    std::shared_ptr<AppCoordinator> coordinator_ = makeCoordinator();
+};
+
+using Titles = std::vector<std::string>;
+using Actions = std::vector<std::string>;
+
+TEST_F(AppCoordinatorTest, TheHotKeyOpensAndClosesThePalette) {
+    pressHotKey();
+    ASSERT_TRUE(panel_->isVisible());
+    EXPECT_EQ(titles(), (Titles{"Open", "Save"}));
+    EXPECT_EQ(model_->appName().get(), Text("org.editor")) << "the identifier, as it has no name";
+    model_->setQuery("sav");
+    pressHotKey();
+    EXPECT_FALSE(panel_->isVisible());
+    pressHotKey();
+    EXPECT_EQ(model_->query().get(), "");
+    EXPECT_EQ(panel_->showings(), 2);
+    EXPECT_EQ(userInterface_.activations(), 3);
+    for (int repeat = 0; repeat < 10; ++repeat) {
+        center_.press(standard);
+    }
+    EXPECT_FALSE(panel_->isVisible()) << "holding the key is one press";
+}
+
+TEST_F(AppCoordinatorTest, AnotherApplicationTakesTheOpenPaletteOver) {
+    pressHotKey();
+    workspace_.bringToFront(std::make_shared<MemoryApplication>(1, "org.tovrel.Tovrel", std::nullopt));
+    pressHotKey();
+    EXPECT_FALSE(panel_->isVisible()) << "while this program is in front the target stays the editor";
+    workspace_.bringToFront(browser_.running);
+    pressHotKey();
+    panel_->showAndMakeKey();
+    EXPECT_EQ(titles(), Titles{"Reload"});
+    // In front without an activation having been reported.
+    MemoryWorkspace& desktop = workspace_;
+    desktop.bringToFront(nameless_.running);
+    panel_->showAndMakeKey();
+    pressHotKey();
+    EXPECT_TRUE(panel_->isVisible());
+    EXPECT_EQ(titles(), Titles{"Turn"});
+    EXPECT_EQ(coordinator_->currentApplication(), nameless_.running);
+}
+
+TEST_F(AppCoordinatorTest, AMenuCommandIsPressedOnceItsApplicationIsInFrontAgain) {
+    pressHotKey();
+    model_->setQuery("save");
+    EXPECT_TRUE(returnKey());
+    EXPECT_FALSE(panel_->isVisible());
+    EXPECT_EQ(workspace_.activated(), std::vector<std::int32_t>{10});
+    EXPECT_EQ(history().rankSignals("menu:org.editor:File/Save").usageCount, 1);
+    queue_.advance(199ms);
+    EXPECT_EQ(editor_.items[1]->performedActions(), Actions{});
+    // What is prepared meanwhile for another application does not change what is pressed.
+    workspace_.bringToFront(browser_.running);
+    pressHotKey();
+    queue_.advance(1ms);
+    EXPECT_EQ(editor_.items[1]->performedActions(), Actions{"AXPress"});
+    EXPECT_EQ(editor_.items[0]->performedActions(), Actions{});
+}
+
+TEST_F(AppCoordinatorTest, ACommandThatIsGoneClosesThePaletteAndCountsForNothing) {
+    pressHotKey();
+    Command gone;
+    gone.id = "menu:org.editor:File/Gone";
+    gone.action = MenuAction{{"File", "Gone"}};
+    coordinator_->execute(gone);
+    EXPECT_FALSE(panel_->isVisible());
+    queue_.advance(1s);
+    EXPECT_EQ(history().entries().size(), 0U);
+    EXPECT_TRUE(workspace_.activated().empty());
+}
+
+TEST_F(AppCoordinatorTest, MenusAreReadAgainAfterHalfAMinute) {
+    pressHotKey();
+    editor_.root->set("AXMenuBar", MemoryElement::Element(std::make_shared<MemoryElement>()));
+    now_.secondsSinceReferenceDate += 30;
+    EXPECT_EQ(coordinator_->refreshCommands().size(), 2U);
+    now_.secondsSinceReferenceDate += 1;
+    EXPECT_EQ(coordinator_->refreshCommands().size(), 0U);
+    EXPECT_EQ(coordinator_->currentApplication(), editor_.running);
+}
+
+TEST_F(AppCoordinatorTest, ADisabledApplicationReceivesTheShortcutItself) {
+    pressHotKey();
+    RulesStore(preferences_, textServices_).setBehavior(AppBehaviorRule::disabled, "org.editor");
+    center_.press(standard);
+    EXPECT_FALSE(panel_->isVisible());
+    queue_.advance(200ms);
+    EXPECT_EQ(poster_.presses().size(), 1U);
+    EXPECT_TRUE(coordinator_->refreshCommands().empty());
+    EXPECT_EQ(coordinator_->currentApplication(), nullptr);
+
+    workspace_.bringToFront(browser_.running);
+    pressHotKey();
+    EXPECT_TRUE(panel_->isVisible());
+    RulesStore(preferences_, textServices_).setDefaultBehavior(AppBehaviorRule::disabled);
+    workspace_.bringToFront(nameless_.running);
+    pressHotKey();
+    EXPECT_EQ(poster_.presses().size(), 1U) << "an application without an identifier has no rule";
+}
+
+TEST_F(AppCoordinatorTest, WithoutATargetThePaletteIsEmptyAndTogglesAllTheSame) {
+    workspace_.bringToFront(nullptr);
+    CustomCommandStore(preferences_, "customCommands")
+        .saveCustomCommand(customCommand("Mine", CustomCommandKind::open));
+    pressHotKey();
+    EXPECT_TRUE(panel_->isVisible());
+    EXPECT_EQ(titles(), Titles{});
+    pressHotKey();
+    EXPECT_FALSE(panel_->isVisible());
+}
+
+TEST_F(AppCoordinatorTest, WithoutAccessibilityOnlyTheWayToAllowItIsOffered) {
+    accessibility_.setTrusted(false);
+    RulesStore(preferences_, textServices_).setBehavior(AppBehaviorRule::disabled, "org.editor");
+    pressHotKey();
+    EXPECT_EQ(titles(), Titles{"Open Accessibility Settings"});
+    returnKey();
+    EXPECT_EQ(userInterface_.alerts().size(), 0U);
+    EXPECT_EQ(workspace_.opened(), (std::vector<Text>{"x-apple.systempreferences:com.apple.preference."
+                                                      "security?Privacy_Accessibility"}));
+    EXPECT_EQ(history().rankSignals("custom.accessibility").usageCount, 1);
+    EXPECT_FALSE(panel_->isVisible());
+}
+
+TEST_F(AppCoordinatorTest, CustomCommandsAreConfirmedRunAndCounted) {
+    CustomCommandStore store(preferences_, "customCommands");
+    store.saveCustomCommand(customCommand("Backup", CustomCommandKind::shellScript));
+    pressHotKey();
+    model_->setQuery("backup");
+    userInterface_.setAnswer(false);
+    returnKey();
+    EXPECT_FALSE(panel_->isVisible());
+    EXPECT_TRUE(runner_.requests().empty());
+    EXPECT_TRUE(history().entries().empty());
+    ASSERT_EQ(userInterface_.alerts().size(), 1U);
+    const Alert& alert = userInterface_.alerts().front();
+    EXPECT_EQ(alert.messageText, "Run “Backup”?");
+    EXPECT_EQ(alert.informativeText, "This shell command can run actions on your Mac.");
+    EXPECT_EQ(std::pair(alert.firstButton, alert.secondButton), (std::pair<Text, Text>("Run", "Cancel")));
+
+    userInterface_.setAnswer(true);
+    runner_.setOutcome(LaunchFailure{2});
+    pressHotKey();
+    model_->setQuery("backup");
+    returnKey();
+    EXPECT_EQ(runner_.requests().size(), 1U);
+    EXPECT_EQ(history().rankSignals("custom:Backup").usageCount, 1) << "counted although it failed";
+    EXPECT_FALSE(panel_->isVisible());
+}
+
+TEST_F(AppCoordinatorTest, CallbacksDoNothingOnceTheCoordinatorIsGone) {
+    pressHotKey();
+    model_->setQuery("save");
+    returnKey();
+    coordinator_.reset();
+    EXPECT_TRUE(center_.press(standard)) << "still ours, to no effect";
+    userInterface_.statusItem().menu.front().action();
+    workspace_.bringToFront(browser_.running);
+    queue_.advance(1s);
+    EXPECT_EQ(editor_.items[1]->performedActions(), Actions{"AXPress"}) << "what was chosen is still done";
+}
+
+TEST_F(AppCoordinatorTest, TheOnboardingIsShownOnceAndOnlyWithoutAccessibility) {
+    EXPECT_EQ(onboardings_, 0);
+    accessibility_.setTrusted(false);
+    for (int launch = 0; launch < 2; ++launch) {
+        coordinator_ = makeCoordinator();
+        coordinator_->start();
+        queue_.runDue();
+    }
+    EXPECT_EQ(onboardings_, 1);
+    EXPECT_EQ(preferences_.value("firstLaunchOnboarding.accessibilityOnboardingShown"),
+              PreferenceValue(true));
+}
+
+TEST_F(AppCoordinatorTest, TheStatusMenuOpensAndQuits) {
+    const std::vector<StatusMenuItem>& menu = userInterface_.statusItem().menu;
+    ASSERT_EQ(menu.size(), 3U);
+    menu.front().action();
+    EXPECT_TRUE(panel_->isVisible());
+    menu.back().action();
+    EXPECT_TRUE(userInterface_.isTerminated());
+}
+
+} // namespace
+} // namespace tovrel
