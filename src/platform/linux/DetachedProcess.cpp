@@ -18,7 +18,7 @@ std::string findInPath(const std::string& program) {
     const char* path = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe)
     std::istringstream folders(path == nullptr ? "/usr/bin:/bin" : path);
     for (std::string folder; std::getline(folders, folder, ':');) {
-        const std::string file = (folder.empty() ? "." : folder) + "/" + program;
+        std::string file = (folder.empty() ? "." : folder) + "/" + program;
         if (access(file.c_str(), X_OK) == 0) {
             return file;
         }
@@ -30,7 +30,7 @@ std::string findInPath(const std::string& program) {
 /// of a child that ends at once, so that nobody has to wait for it.
 [[noreturn]] void becomeDetached(const char* file, char* const* words) {
     setsid();
-    signal(SIGPIPE, SIG_DFL);
+    static_cast<void>(signal(SIGPIPE, SIG_DFL));
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);

@@ -1,9 +1,16 @@
 #include "platform/linux/XkbExtension.h"
 
 // The header has a member of this name, as C allows.
+#ifdef __clang__
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wkeyword-macro"
+#endif
 #define explicit explicit_ // NOLINT(cppcoreguidelines-macro-usage)
 #include <xcb/xkb.h>
 #undef explicit
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
 
 #include "platform/linux/XcbOwned.h"
 
@@ -44,8 +51,13 @@ void XkbExtension::selectKeyboardEvents() {
 }
 
 bool XkbExtension::isKeyboardChange(const xcb_generic_event_t& event) const {
-    const auto kind = kindOf(event);
-    return kind == XCB_XKB_NEW_KEYBOARD_NOTIFY || kind == XCB_XKB_MAP_NOTIFY;
+    switch (kindOf(event).value_or(XCB_XKB_EXTENSION_DEVICE_NOTIFY)) {
+    case XCB_XKB_NEW_KEYBOARD_NOTIFY:
+    case XCB_XKB_MAP_NOTIFY:
+        return true;
+    default:
+        return false;
+    }
 }
 
 void XkbExtension::selectStateEvents(bool isWanted) {

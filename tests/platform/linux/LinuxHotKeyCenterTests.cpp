@@ -273,13 +273,9 @@ TEST_F(LinuxHotKeyCenterTest, ReportsTheReleaseOnceInWhateverOrderTheKeysComeUp)
 
 TEST_F(LinuxHotKeyCenterTest, ReportsPressesOfAHeldKeyAndOneRelease) {
     focusByThemselves();
-    toggleOnPress();
     registered();
     for (const auto kind : {X11TestKeyboard::Kind::real, X11TestKeyboard::Kind::synthetic}) {
         events_.clear();
-        isPanelShown_ = false;
-        int toggles = 0;
-        onPress = [&] { toggles += presses() == 1 ? 1 : 0; };
         X11TestKeyboard keyboard(display_, kind);
         for (const std::uint32_t key : {keyControl, keyShift, keyP}) {
             keyboard.press(key);
@@ -381,7 +377,7 @@ TEST_F(LinuxHotKeyCenterTest, ShowsRawKeysWhileAnotherClientHoldsTheKeyboard) {
 }
 
 TEST_F(LinuxHotKeyCenterTest, FollowsTheKeyboardAndItsLayout) {
-    const auto afterCommand = [this](const std::string& command) {
+    const auto afterCommand = [](const std::string& command) {
         const ServerProcess process({"/bin/sh", "-c", command + "; echo $? >/dev/fd/{fd}"});
         EXPECT_EQ(process.announced(), "0") << command;
     };

@@ -37,7 +37,7 @@ TEST(PosixProcessRunner, GivesTheProgramAnUnspoiltStartAndStandsSignals) {
     const auto pipeBefore = std::signal(SIGPIPE, SIG_IGN);
     EXPECT_EQ(shell("kill -PIPE $$; exit 0"), Result(SIGPIPE));
     EXPECT_EQ(shell("kill -USR1 $$; exit 0"), Result(SIGUSR1));
-    std::signal(SIGPIPE, pipeBefore);
+    static_cast<void>(std::signal(SIGPIPE, pipeBefore));
     sigprocmask(SIG_SETMASK, &before, nullptr);
 
     struct sigaction interrupt {};
