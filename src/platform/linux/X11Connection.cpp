@@ -75,9 +75,9 @@ std::vector<std::uint32_t> X11Connection::numbers(xcb_window_t window, const cha
     return {values, values + xcb_get_property_value_length(reply.get()) / 4};
 }
 
-void X11Connection::watchRootProperties() {
+void X11Connection::watchRootProperties(bool isWanted) {
     if (isOpen()) {
-        const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+        const std::uint32_t mask = isWanted ? std::uint32_t{XCB_EVENT_MASK_PROPERTY_CHANGE} : 0;
         xcb_change_window_attributes(connection_.get(), root_, XCB_CW_EVENT_MASK, &mask);
         xcb_flush(connection_.get());
     }
