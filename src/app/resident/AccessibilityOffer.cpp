@@ -21,8 +21,7 @@ std::string list(const std::vector<Text>& names) {
 }
 
 std::string toBeRestarted(const std::vector<Text>& names) {
-    return names.empty() ? std::string()
-                         : " These must be restarted to take notice: " + list(names) + ".";
+    return names.empty() ? std::string() : " These must be restarted to take notice: " + list(names) + ".";
 }
 
 } // namespace
@@ -38,11 +37,11 @@ void AccessibilityOffer::show() {
 void AccessibilityOffer::offerToTurnOn() {
     const bool isWanted = userInterface_->runAlert(
         {.messageText = "Turn on accessibility?",
-         .informativeText =
-             Text("Tovrel reads other applications' menus over the accessibility bus. Once it is on, applications "
-                  "publish what they show to every program of yours, as they do for a screen reader. You can turn "
-                  "it off again in the same place." +
-                  toBeRestarted(accessibility_->applicationsToRestart())),
+         .informativeText = Text(
+             "Tovrel reads other applications' menus over the accessibility bus. Once it is on, applications "
+             "publish what they show to every program of yours, as they do for a screen reader. You can turn "
+             "it off again in the same place." +
+             toBeRestarted(accessibility_->applicationsToRestart())),
          .firstButton = "Turn On",
          .secondButton = "Cancel"});
     if (isWanted && !accessibility_->setEnabled(true)) {
@@ -58,9 +57,10 @@ void AccessibilityOffer::offerToTurnOn() {
 void AccessibilityOffer::offerToTurnOff() {
     const bool isUnwanted = userInterface_->runAlert(
         {.messageText = "Turn off accessibility?",
-         .informativeText = Text("It is on: Tovrel can read the menus of applications that were started since." +
-                                 toBeRestarted(accessibility_->applicationsToRestart()) +
-                                 " Without it, Tovrel cannot read any menus."),
+         .informativeText =
+             Text("It is on: Tovrel can read the menus of applications that were started since." +
+                  toBeRestarted(accessibility_->applicationsToRestart()) +
+                  " Without it, Tovrel cannot read any menus."),
          .firstButton = "Turn Off",
          .secondButton = "Keep On"});
     if (isUnwanted) {

@@ -1,8 +1,9 @@
 #include "app/resident/EndSignals.h"
 
-#include <sys/signalfd.h>
 #include <unistd.h>
 #include <utility>
+
+#include <sys/signalfd.h>
 
 namespace tovrel {
 

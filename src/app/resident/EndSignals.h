@@ -1,17 +1,16 @@
 #pragma once
 
+#include <QSocketNotifier>
 #include <csignal>
 #include <functional>
 #include <memory>
-
-#include <QSocketNotifier>
 
 #include "platform/linux/FileDescriptor.h"
 
 namespace tovrel {
 
-/// Turns SIGINT, SIGTERM and SIGHUP into a call on the main thread. Made before any other thread starts, which
-/// would get the signals otherwise; when it ends, the signals do again what they did before.
+/// Turns SIGINT, SIGTERM and SIGHUP into a call on the main thread. Made before any other thread starts,
+/// which would get the signals otherwise; when it ends, the signals do again what they did before.
 class EndSignals {
   public:
     EndSignals();

@@ -1,16 +1,15 @@
 #pragma once
 
-#include <memory>
-
 #include <QObject>
 #include <QSocketNotifier>
+#include <memory>
 
 #include "platform/linux/EventSource.h"
 
 namespace tovrel {
 
-/// Has the main loop dispatch a source's events: when its descriptor becomes readable, and before the loop goes
-/// to sleep, since a question asked over the same connection may have brought events into memory.
+/// Has the main loop dispatch a source's events: when its descriptor becomes readable, and before the loop
+/// goes to sleep, since a question asked over the same connection may have brought events into memory.
 class EventSourceWatch {
   public:
     /// The source must outlive the watch.
