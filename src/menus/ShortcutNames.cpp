@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -20,13 +21,27 @@ constexpr std::array modifierNames{
     GlyphName{"⌃", "Super"},
 };
 
-constexpr std::array keyNames{
-    GlyphName{"↑", "Up"},        GlyphName{"↓", "Down"},      GlyphName{"←", "Left"},
-    GlyphName{"→", "Right"},     GlyphName{"Ins", "Insert"},  GlyphName{"⌦", "Delete"},
-    GlyphName{"↖", "Home"},      GlyphName{"↘", "End"},       GlyphName{"⇞", "Page Up"},
-    GlyphName{"⇟", "Page Down"}, GlyphName{"⌫", "Backspace"}, GlyphName{"⎋", "Escape"},
-    GlyphName{"↩", "Return"},    GlyphName{"⇥", "Tab"},
+constexpr std::array arrowNames{
+    GlyphName{"↑", "Up"},
+    GlyphName{"↓", "Down"},
+    GlyphName{"←", "Left"},
+    GlyphName{"→", "Right"},
 };
+
+constexpr std::array keyNames{
+    GlyphName{"Ins", "Insert"},  GlyphName{"⌦", "Delete"},  GlyphName{"↖", "Home"},
+    GlyphName{"↘", "End"},       GlyphName{"⇞", "Page Up"}, GlyphName{"⇟", "Page Down"},
+    GlyphName{"⌫", "Backspace"}, GlyphName{"⎋", "Escape"},  GlyphName{"↩", "Return"},
+    GlyphName{"⇥", "Tab"},
+};
+
+/// The name of what is a glyph of the list; anything else is its own name.
+template <std::size_t Size>
+std::string_view nameOf(std::string_view text, const std::array<GlyphName, Size>& names) {
+    const auto* named = std::find_if(names.begin(), names.end(),
+                                     [text](const GlyphName& entry) { return entry.glyph == text; });
+    return named == names.end() ? text : named->name;
+}
 
 } // namespace
 
@@ -40,9 +55,11 @@ Text shortcutWithKeyNames(const Text& shortcut) {
             key.remove_prefix(modifier.glyph.size());
         }
     }
-    const auto* named = std::find_if(keyNames.begin(), keyNames.end(),
-                                     [key](const GlyphName& entry) { return entry.glyph == key; });
-    return spelled.append(named == keyNames.end() ? key : named->name);
+    return spelled.append(nameOf(nameOf(key, arrowNames), keyNames));
+}
+
+Text keycapWithKeyName(const Text& keycap) {
+    return nameOf(nameOf(keycap.view(), modifierNames), keyNames);
 }
 
 } // namespace tovrel

@@ -8,4 +8,8 @@ namespace tovrel {
 /// those glyphs, for people to read: "⌘⇧S" as "Ctrl+Shift+S". Command is the Ctrl key, ⌃ the Super key.
 Text shortcutWithKeyNames(const Text& shortcut);
 
+/// The same for a single key cap (see keycaps()): "⌘" as "Ctrl", "⌦" as "Delete". Arrows stay arrows, which
+/// is what keyboards show.
+Text keycapWithKeyName(const Text& keycap);
+
 } // namespace tovrel

@@ -166,6 +166,13 @@ std::string TextServices::lowercased(std::string_view text) const {
     return utf8From(utf16From(text).toLower(icu::Locale::getRoot()));
 }
 
+std::string TextServices::localizedLowercased(std::string_view text) const {
+    if (isAscii(text) && !implementation_->turkic) {
+        return mapped(text, asciiLower);
+    }
+    return utf8From(utf16From(text).toLower(implementation_->locale));
+}
+
 std::string TextServices::uppercased(std::string_view text) const {
     if (isAscii(text)) {
         return mapped(text, asciiUpper);

@@ -30,6 +30,9 @@ class TextServices {
     /// Unicode default lower-casing, the same in every locale.
     [[nodiscard]] std::string lowercased(std::string_view text) const;
 
+    /// Lower-casing by the rules of the locale: the Turkish I becomes a dotless one.
+    [[nodiscard]] std::string localizedLowercased(std::string_view text) const;
+
     /// Unicode default upper-casing of the whole string, the same in every locale.
     [[nodiscard]] std::string uppercased(std::string_view text) const;
 

@@ -17,5 +17,13 @@ TEST(ShortcutNames, SpellsModifiersAndKeys) {
     EXPECT_EQ(shortcutWithKeyNames(""), "");
 }
 
+TEST(ShortcutNames, SpellsSingleKeycaps) {
+    EXPECT_EQ(keycapWithKeyName("⌘"), "Ctrl");
+    EXPECT_EQ(keycapWithKeyName("⌃"), "Super");
+    EXPECT_EQ(keycapWithKeyName("⇟"), "Page Down");
+    EXPECT_EQ(keycapWithKeyName("↑"), "↑");
+    EXPECT_EQ(keycapWithKeyName("F10"), "F10");
+}
+
 } // namespace
 } // namespace tovrel

@@ -1,0 +1,122 @@
+import QtQuick
+import Tovrel.Views
+
+// The content of the palette's panel: the header with the search field, and the results below it.
+FocusScope {
+    id: view
+
+    required property PaletteViewAdapter palette
+
+    implicitWidth: 680
+    implicitHeight: 460
+    focus: true
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: qsTr("Command palette")
+
+    Connections {
+        target: view.palette
+
+        function onSearchFocusRequested() {
+            field.takeFocus();
+        }
+        function onSelectedIndexChanged() {
+            list.highlightRow(view.palette.selectedIndex);
+        }
+        function onQueryChanged() {
+            list.positionViewAtBeginning();
+        }
+    }
+
+    PaletteBackground {
+        anchors.fill: parent
+    }
+
+    Item {
+        id: header
+
+        anchors.left: parent.left
+        anchors.leftMargin: 22
+        anchors.right: parent.right
+        anchors.rightMargin: 22
+        anchors.top: parent.top
+        anchors.topMargin: 18
+        height: 48
+
+        Item {
+            id: icon
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: 36
+            height: 36
+
+            Image {
+                id: appIcon
+
+                anchors.fill: parent
+                visible: appIcon.status === Image.Ready
+                source: view.palette.appIconSource
+                sourceSize.width: 36
+                sourceSize.height: 36
+                fillMode: Image.PreserveAspectFit
+                Accessible.ignored: true
+            }
+            Symbol {
+                anchors.centerIn: parent
+                visible: !appIcon.visible
+                name: "magnifyingglass"
+                colour: "#19c8b9"
+                size: 28
+            }
+        }
+        SearchField {
+            id: field
+
+            anchors.left: icon.right
+            anchors.leftMargin: 14
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            query: view.palette.query
+            appName: view.palette.appName
+            focus: true
+            onEdited: text => view.palette.query = text
+            onSubmitted: view.palette.executeSelection()
+            onDismissed: view.palette.dismiss()
+            onMoved: delta => view.palette.moveSelection(delta)
+        }
+    }
+
+    ResultList {
+        id: list
+
+        anchors.left: parent.left
+        anchors.leftMargin: 14
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        anchors.top: header.bottom
+        anchors.topMargin: 20
+        anchors.bottom: parent.bottom
+        bottomMargin: 14
+        visible: list.count > 0
+        model: view.palette.results
+        showCheckedStatus: view.palette.showCheckedStatus
+        onChosen: row => view.palette.executeRow(row)
+
+        delegate: PaletteRow {
+            readonly property ResultList list: ListView.view as ResultList
+
+            width: list ? list.width : 0
+            isSelected: ListView.isCurrentItem
+            showCheckedStatus: list ? list.showCheckedStatus : false
+            count: list ? list.count : 0
+            onClicked: list.chosen(index)
+        }
+    }
+
+    EmptyState {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: header.y + header.height + (parent.height - header.y - header.height - height) / 2 - 12
+        visible: list.count === 0
+        isQueryBlank: view.palette.isQueryBlank
+    }
+}

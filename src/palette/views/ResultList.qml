@@ -1,0 +1,30 @@
+import QtQuick
+
+// The results, scrolled only when it is told to.
+ListView {
+    id: list
+
+    required property bool showCheckedStatus
+
+    signal chosen(int row)
+
+    function highlightRow(row: int) {
+        list.currentIndex = row;
+        if (row < list.count)
+            list.positionViewAtIndex(row, ListView.Contain);
+    }
+
+    spacing: 4
+    clip: true
+    reuseItems: true
+    cacheBuffer: 120
+    boundsBehavior: Flickable.StopAtBounds
+    keyNavigationEnabled: false
+    // An invisible highlight would otherwise be animated, and the view repainted for seconds.
+    highlightFollowsCurrentItem: false
+    highlightMoveDuration: 0
+    highlightResizeDuration: 0
+
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Results")
+}

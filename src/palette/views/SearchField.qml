@@ -1,0 +1,103 @@
+import QtQuick
+
+// The field the query is typed into, with the name of the application it searches.
+Rectangle {
+    id: field
+
+    required property string query
+    required property string appName
+
+    signal edited(string text)
+    signal submitted()
+    signal dismissed()
+    signal moved(int delta)
+
+    function takeFocus() {
+        input.forceActiveFocus();
+    }
+
+    implicitHeight: 48
+    radius: 18
+    color: input.activeFocus ? "white" : Qt.rgba(1, 1, 1, 0.6)
+    border.width: input.activeFocus ? 2 : 1
+    border.color: input.activeFocus ? "#19c8b9" : Qt.rgba(138 / 255, 123 / 255, 102 / 255, 0.25)
+
+    MouseArea {
+        anchors.fill: parent
+        cursorShape: Qt.IBeamCursor
+        onPressed: mouse => {
+            field.takeFocus();
+            mouse.accepted = false;
+        }
+    }
+
+    TextInput {
+        id: input
+
+        anchors.left: parent.left
+        anchors.leftMargin: 16
+        anchors.right: capsule.visible ? capsule.left : parent.right
+        anchors.rightMargin: capsule.visible ? 12 : 16
+        anchors.verticalCenter: parent.verticalCenter
+        text: field.query
+        color: "#40382c"
+        font.pixelSize: 26
+        font.weight: Font.ExtraBold
+        selectionColor: "#19c8b9"
+        selectedTextColor: "white"
+        selectByMouse: true
+        clip: true
+        focus: true
+
+        onTextChanged: {
+            if (input.text !== field.query)
+                field.edited(input.text);
+        }
+        onAccepted: field.submitted()
+        Keys.onEscapePressed: field.dismissed()
+        Keys.onUpPressed: field.moved(-1)
+        Keys.onDownPressed: field.moved(1)
+
+        Accessible.role: Accessible.EditableText
+        Accessible.name: qsTr("Commands")
+        Accessible.description: field.appName
+
+        Text {
+            anchors.fill: parent
+            visible: input.text === "" && input.preeditText === ""
+            text: qsTr("Commands")
+            color: "#b3a793"
+            font: input.font
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+
+    Rectangle {
+        id: capsule
+
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        visible: field.appName !== ""
+        width: Math.min(name.implicitWidth + 24, 200)
+        height: 26
+        radius: height / 2
+        color: "#e6f9f6"
+
+        Text {
+            id: name
+
+            anchors.verticalCenter: parent.verticalCenter
+            x: 12
+            width: capsule.width - 24
+            text: field.appName
+            color: "#0f8a80"
+            font.pixelSize: 13
+            font.weight: Font.Bold
+            elide: Text.ElideMiddle
+            textFormat: Text.PlainText
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,17 @@
+import QtQuick
+
+// One of the program's own symbols, in a colour.
+Image {
+    id: symbol
+
+    required property string name
+    property color colour: "black"
+    property int size: 20
+
+    width: symbol.size
+    height: symbol.size
+    source: symbol.name === "" ? "" : "image://symbol/" + symbol.name + "/" + symbol.colour
+    sourceSize.width: symbol.size
+    sourceSize.height: symbol.size
+    Accessible.ignored: true
+}

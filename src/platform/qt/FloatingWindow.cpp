@@ -1,0 +1,83 @@
+#include "platform/qt/FloatingWindow.h"
+
+#include <QPainterPath>
+#include <QQuickItem>
+#include <QRegion>
+#include <chrono>
+#include <utility>
+
+#include "support/Fatal.h"
+
+namespace tovrel {
+namespace {
+
+using std::chrono_literals::operator""ms;
+
+/// Of the corners, as the views draw them.
+constexpr qreal cornerRadius = 24;
+
+/// Window managers that grant the focus at all do it within a few milliseconds.
+constexpr auto activationPatience = 50ms;
+
+QRegion roundedRegion(QSize size) {
+    QPainterPath path;
+    path.addRoundedRect(QRectF(QPointF(0, 0), QSizeF(size)), cornerRadius, cornerRadius);
+    return QRegion(path.toFillPolygon().toPolygon());
+}
+
+} // namespace
+
+FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, const Description& description)
+    : windowSystem_(std::move(windowSystem)), view_(&engine.qml(), nullptr) {
+    view_.setFlags(description.type | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    view_.setTitle(description.title);
+    view_.setColor(Qt::transparent);
+    view_.setResizeMode(QQuickView::SizeRootObjectToView);
+    view_.setInitialProperties(description.properties);
+    view_.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Tovrel/Views/%1.qml").arg(description.view)));
+    const QQuickItem* root = view_.rootObject();
+    if (root == nullptr) {
+        fatal("a view of the user interface cannot be loaded");
+    }
+    const QSize size(static_cast<int>(root->implicitWidth()), static_cast<int>(root->implicitHeight()));
+    view_.resize(size);
+    view_.setMinimumSize(size);
+    view_.setMaximumSize(size);
+    view_.create();
+    activation_.setSingleShot(true);
+    activation_.setInterval(activationPatience);
+    QObject::connect(&activation_, &QTimer::timeout, &view_, [this] {
+        if (view_.isVisible() && !view_.isActive()) {
+            windowSystem_.activate(view_);
+        }
+    });
+}
+
+void FloatingWindow::show() {
+    if (!view_.isVisible()) {
+        restoreFocus_ = windowSystem_.rememberFocus();
+        shape();
+    }
+    view_.show();
+    view_.raise();
+    view_.requestActivate();
+    activation_.start();
+}
+
+void FloatingWindow::hide() {
+    if (view_.isVisible()) {
+        activation_.stop();
+        view_.hide();
+        restoreFocus_();
+    }
+}
+
+void FloatingWindow::shape() {
+    const bool isComposited = windowSystem_.isComposited();
+    // Without a compositor what is transparent is black, so the corners are cut off, along an edge that has
+    // the colour of the border.
+    view_.setColor(isComposited ? QColor(Qt::transparent) : QColor(0xd9, 0xdd, 0xd2));
+    view_.setMask(isComposited ? QRegion() : roundedRegion(view_.size()));
+}
+
+} // namespace tovrel

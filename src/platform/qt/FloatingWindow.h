@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QQuickView>
+#include <QTimer>
+#include <QVariantMap>
+#include <functional>
+
+#include "platform/qt/ViewEngine.h"
+#include "platform/qt/WindowSystem.h"
+
+namespace tovrel {
+
+/// A window without a frame, with round corners, above all others, that takes the keyboard focus when it is
+/// shown. Made hidden; hiding keeps it.
+class FloatingWindow {
+  public:
+    struct Description {
+        QString view; ///< Name of a view of the module Tovrel.Views.
+        QVariantMap properties;
+        QString title;
+        Qt::WindowType type = Qt::Tool;
+    };
+
+    FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, const Description& description);
+
+    [[nodiscard]] QQuickView& view() { return view_; }
+    [[nodiscard]] const QQuickView& view() const { return view_; }
+    [[nodiscard]] bool hasInputFocus() const { return windowSystem_.hasInputFocus(view_); }
+
+    void show();
+    /// The focus goes back to where it was.
+    void hide();
+
+  private:
+    void shape();
+
+    WindowSystem windowSystem_;
+    QQuickView view_;
+    QTimer activation_;
+    std::function<void()> restoreFocus_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QObject>
+#include <QQuickView>
+#include <functional>
+#include <memory>
+
+#include "palette/PaletteWindowController.h"
+#include "platform/PalettePanel.h"
+#include "platform/qt/FloatingWindow.h"
+#include "platform/qt/FocusLossWatch.h"
+#include "platform/qt/QtKeyEvents.h"
+#include "platform/qt/ViewEngine.h"
+#include "platform/qt/WindowSystem.h"
+
+namespace tovrel {
+
+class PaletteViewAdapter;
+
+/// The palette's window. Its view is loaded at once, so that the first showing is as fast as any other.
+class QtPalettePanel final : public QObject, public PalettePanel {
+  public:
+    /// `engine`, `textServices` and all that `context` refers to outlive the panel.
+    QtPalettePanel(PaletteViewContext context, const TextServices& textServices, ViewEngine& engine,
+                   WindowSystem windowSystem, KeyCodeFromEvdev keyCodeFromEvdev);
+    ~QtPalettePanel() override;
+
+    [[nodiscard]] bool isVisible() const override;
+    [[nodiscard]] Size frameSize() const override;
+    /// In the coordinates of ScreenCoordinates.h.
+    void setFrameOrigin(Point origin) override;
+    void showAndMakeKey() override;
+    void close() override;
+    void setKeyHandler(KeyHandler handler) override { keyHandler_ = std::move(handler); }
+    void setResignKeyHandler(std::function<void()> handler) override {
+        resignKeyHandler_ = std::move(handler);
+    }
+
+    [[nodiscard]] QQuickView& window() { return window_.view(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    std::unique_ptr<PaletteViewAdapter> adapter_;
+    KeyCodeFromEvdev keyCodeFromEvdev_;
+    KeyHandler keyHandler_;
+    std::function<void()> resignKeyHandler_;
+    FloatingWindow window_;
+    FocusLossWatch focusLoss_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,138 @@
+// Draws every state of what there is to see, at three scales, over a light and over a dark desktop, into a
+// folder: for people to look at.
+//
+// usage: tovrel_view_pictures FOLDER
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QProcess>
+#include <QStyleHints>
+#include <QTest>
+#include <iostream>
+
+#include "PaletteStage.h"
+#include "RecordedCommands.h"
+#include "commands/CommandSamples.h"
+#include "menus/AccessibilityPermissionService.h"
+
+namespace tovrel {
+namespace {
+
+constexpr const char* scaleVariable = "QT_SCALE_FACTOR";
+
+class Pictures {
+  public:
+    explicit Pictures(QDir folder) : folder_(std::move(folder)) {}
+
+    void drawAll() {
+        drawEmptyStates();
+        drawResults();
+        drawRows();
+    }
+
+  private:
+    void drawEmptyStates() {
+        stage_.show({});
+        save("empty");
+        stage_.show(recordedCommands("mousepad", stage_.textServices), Text("Mousepad"));
+        stage_.viewModel.setQuery("zzyzx");
+        save("no-results");
+        stage_.show({AccessibilityPermissionService::makeAccessibilityPermissionCommand()});
+        save("permission");
+    }
+
+    void drawResults() {
+        const std::vector<Command> commands = recordedCommands("mousepad", stage_.textServices);
+        stage_.show(commands, Text("Mousepad"), ApplicationIcon{"org.xfce.mousepad"});
+        save("results");
+        stage_.viewModel.setQuery("sav");
+        save("typed");
+        stage_.viewModel.setQuery("e");
+        stage_.viewModel.moveSelection(3);
+        save("selected");
+        stage_.viewModel.moveSelection(9);
+        save("scrolled");
+        stage_.show(recordedCommands("firefox", stage_.textServices), Text("Firefox"),
+                    ApplicationIcon{"firefox"});
+        save("firefox");
+    }
+
+    void drawRows() {
+        using samples::menuCommand;
+        std::vector<Command> commands{
+            menuCommand({"File", "Export",
+                         "A title that is so long that it does not fit beside the keys of its "
+                         "shortcut, and goes on and on"},
+                        "⌘⇧⌥⌃F10"),
+            menuCommand({"View", "Some menu with a very long name", "Another menu with a very long name",
+                         "Yet another menu with a name that is long", "Toolbar"},
+                        "⌘⇟"),
+            menuCommand({"View", "Status Bar"}, "F11"),
+            menuCommand({"Édition", "Größe ändern…"}, "⌘⌥↑"),
+            menuCommand({"ファイル", "名前を付けて保存"}, "⌘S"),
+            menuCommand({"Файл", "Сохранить как…"}, "⌘⇧Ы"),
+            samples::shellCommand("Back up my documents", "true"),
+        };
+        commands[1].isChecked = true;
+        commands[2].isChecked = true;
+        stage_.show(commands, Text("An application with quite a long name"));
+        save("long");
+        stage_.viewModel.moveSelection(1);
+        save("checked-selected");
+        stage_.viewModel.setQuery("a query that is so long that it does not fit the field");
+        save("long-query");
+    }
+
+    void save(const QString& name) {
+        QCoreApplication::processEvents();
+        const QImage window = stage_.panel.window().grabWindow();
+        const qreal scale = stage_.panel.window().effectiveDevicePixelRatio();
+        const struct {
+            QString name;
+            QColor colour;
+        } desktops[] = {{"light", Qt::white}, {"dark", QColor(0x24, 0x27, 0x2b)}};
+        for (const auto& desktop : desktops) {
+            const int margin = qRound(32 * scale);
+            QImage picture(window.width() + 2 * margin, window.height() + 2 * margin, QImage::Format_RGB32);
+            picture.fill(desktop.colour);
+            QPainter painter(&picture);
+            painter.drawImage(QRect(QPoint(margin, margin), window.size()), window);
+            painter.end();
+            picture.save(folder_.filePath(QStringLiteral("%1-%2@%3.png").arg(name, desktop.name).arg(scale)));
+        }
+    }
+
+    QDir folder_;
+    PaletteStage stage_;
+};
+
+} // namespace
+} // namespace tovrel
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::cerr << "usage: tovrel_view_pictures FOLDER\n";
+        return 2;
+    }
+    if (!qEnvironmentVariableIsSet(tovrel::scaleVariable)) {
+        for (const char* scale : {"1", "1.25", "2"}) {
+            qputenv(tovrel::scaleVariable, scale);
+            if (QProcess::execute(QString::fromLocal8Bit(argv[0]), {QString::fromLocal8Bit(argv[1])}) != 0) {
+                return 1;
+            }
+        }
+        return 0;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    tovrel::configureQtEnvironment();
+    const QApplication application(argc, argv);
+    QGuiApplication::styleHints()->setCursorFlashTime(0);
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    if (!folder.mkpath(QStringLiteral("."))) {
+        std::cerr << "tovrel_view_pictures: cannot make the folder " << argv[1] << '\n';
+        return 1;
+    }
+    tovrel::Pictures(folder).drawAll();
+    return 0;
+}
