@@ -192,6 +192,7 @@ void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event) {
     }
     pressed->state = KeyState::down;
     selectRawKeys();
+    holdAtFocusedWindow(event.time);
     letGoAfter(longestHold);
     report(identifier, HotKeyEventKind::pressed);
     if (currentHold_ != hold) {
@@ -246,6 +247,19 @@ void LinuxHotKeyCenter::report(HotKeyIdentifier identifier, HotKeyEventKind kind
     if (handler) {
         handler({identifier, kind});
     }
+}
+
+void LinuxHotKeyCenter::holdAtFocusedWindow(xcb_timestamp_t time) {
+    xcb_connection_t* connection = connection_.handle();
+    const XcbOwned<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    if (!focus || focus->focus <= XCB_INPUT_FOCUS_POINTER_ROOT || focus->focus == connection_.root()) {
+        return;
+    }
+    const XcbOwned<xcb_grab_keyboard_reply_t> held(xcb_grab_keyboard_reply(
+        connection,
+        xcb_grab_keyboard(connection, 0, focus->focus, time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC),
+        nullptr)); // Refused, as by a window that is gone meanwhile: then it stays as it is.
 }
 
 void LinuxHotKeyCenter::letGoAfter(std::chrono::milliseconds limit) {

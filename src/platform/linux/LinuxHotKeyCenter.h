@@ -104,6 +104,10 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
     void released(HotKeyHandle handle);
     void report(HotKeyIdentifier identifier, HotKeyEventKind kind);
 
+    /// The grab of a hot key lies on the root window, so the front window is told that it has lost the focus,
+    /// and applications disable what needs it: Mousepad its Cut, Copy, Paste and Select All, before anyone
+    /// could read its menus. Moved to the window that has the focus anyway, the grab gives it back.
+    void holdAtFocusedWindow(xcb_timestamp_t time);
     void letGoAfter(std::chrono::milliseconds limit);
     void letGo();
     void ungrabKeyboard();

@@ -1,5 +1,6 @@
 #pragma once
 #include <QMessageBox>
+#include <QPushButton>
 #include <QApplication>
 #include <QSystemTrayIcon>
 #include <QScreen>
@@ -25,7 +26,7 @@ class QtUserInterface : public UserInterface {
         auto* first = box.addButton(QString::fromStdString(alert.firstButton.utf8()), QMessageBox::AcceptRole);
         box.addButton(QString::fromStdString(alert.secondButton.utf8()), QMessageBox::RejectRole);
         box.exec();
-        return static_cast<QObject*>(box.clickedButton()) == first;
+        return box.clickedButton()->text() == first->text();
     }
     std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription) override { return nullptr; }
     Subscription onMenuTracking(std::function<void(bool)> observer) override { return menu_.subscribe(std::move(observer)); }

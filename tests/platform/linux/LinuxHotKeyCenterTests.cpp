@@ -157,6 +157,26 @@ TEST_F(LinuxHotKeyCenterTest, LosesAndLeaksNoKeyUnderAWindowManager) {
     toggleAndType(100);
 }
 
+TEST_F(LinuxHotKeyCenterTest, TheFrontWindowSeemsFocusedWhileTheHandlerRuns) {
+    focusByThemselves();
+    registered();
+    bool seemedFocused = false;
+    onPress = [&] {
+        // Any answer will do: what the server had to say to the window before it has come by then.
+        xcb_connection_t* connection = front_.connection().handle();
+        const XcbOwned<xcb_get_input_focus_reply_t> answer(
+            xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+        front_.dispatch();
+        seemedFocused = front_.seemsFocused();
+    };
+    pressHotKey();
+    releaseHotKey();
+    keyboard_.flush();
+    ASSERT_TRUE(loop_.runUntil([&] { return releases() == 1; }));
+    EXPECT_TRUE(seemedFocused);
+    EXPECT_TRUE(loop_.runUntil([&] { return front_.seemsFocused(); }));
+}
+
 TEST_F(LinuxHotKeyCenterTest, FiresUnderEveryCombinationOfLocksAndNoOtherModifier) {
     focusByThemselves();
     registered();

@@ -59,6 +59,10 @@ void X11TestClient::dispatch() {
             if (isMove && change.detail <= XCB_NOTIFY_DETAIL_NONLINEAR_VIRTUAL) {
                 hasFocus_ = type == XCB_FOCUS_IN;
             }
+            if (change.mode != XCB_NOTIFY_MODE_WHILE_GRABBED &&
+                change.detail <= XCB_NOTIFY_DETAIL_NONLINEAR_VIRTUAL) {
+                seemsFocused_ = type == XCB_FOCUS_IN;
+            }
         } else if (type == XCB_MAP_NOTIFY || type == XCB_UNMAP_NOTIFY) {
             isMapped_ = type == XCB_MAP_NOTIFY;
             if (onVisibility) {

@@ -29,6 +29,9 @@ class X11TestClient : public EventSource {
     void focus();
     /// Whether it has the focus, grabs of others aside.
     [[nodiscard]] bool hasFocus() const { return hasFocus_; }
+    /// Whether a toolkit that takes a grab for a move of the focus, as GTK does, holds the window for
+    /// focused.
+    [[nodiscard]] bool seemsFocused() const { return seemsFocused_; }
     [[nodiscard]] bool isMapped() const { return isMapped_; }
 
     /// Called when the window has become visible, or invisible.
@@ -47,6 +50,7 @@ class X11TestClient : public EventSource {
     xcb_window_t window_ = 0;
     std::vector<Key> keys_;
     bool hasFocus_ = false;
+    bool seemsFocused_ = false;
     bool isMapped_ = false;
 };
 
