@@ -253,7 +253,10 @@ void LinuxHotKeyCenter::holdAtFocusedWindow(xcb_timestamp_t time) {
     xcb_connection_t* connection = connection_.handle();
     const XcbOwned<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
-    if (!focus || focus->focus <= XCB_INPUT_FOCUS_POINTER_ROOT || focus->focus == connection_.root()) {
+    const bool isWindow =
+        focus && focus->focus > XCB_INPUT_FOCUS_POINTER_ROOT && focus->focus != connection_.root();
+    // The server ends a grab whose window disappears, as the panel's is about to.
+    if (!isWindow || (destination_ && destination_().window == focus->focus)) {
         return;
     }
     const XcbOwned<xcb_grab_keyboard_reply_t> held(xcb_grab_keyboard_reply(

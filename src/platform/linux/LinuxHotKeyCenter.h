@@ -43,7 +43,7 @@ inline constexpr HotKeyError alreadyRegistered = -4; ///< This object has the co
 /// keyboards keep it to themselves; Caps Lock, Num Lock and Scroll Lock may be on or off.
 class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
   public:
-    /// Asked after the handler of a press has returned.
+    /// Asked before a press is reported and after its handler has returned.
     using DestinationOfKeys = std::function<KeyDestination()>;
 
     /// The longest the keyboard stays held after a handler has returned, for a window that never gets the
