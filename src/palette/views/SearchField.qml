@@ -48,6 +48,16 @@ Rectangle {
         selectByMouse: true
         clip: true
         focus: true
+        cursorDelegate: Rectangle {
+            id: cursor
+
+            readonly property TextInput field: cursor.parent as TextInput
+
+            width: 3
+            radius: 1.5
+            color: "#19c8b9"
+            visible: cursor.field !== null && cursor.field.cursorVisible
+        }
 
         onTextChanged: {
             if (input.text !== field.query)
@@ -80,7 +90,7 @@ Rectangle {
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         visible: field.appName !== ""
-        width: Math.min(name.implicitWidth + 24, 200)
+        width: name.width + 24
         height: 26
         radius: height / 2
         color: "#e6f9f6"
@@ -88,14 +98,13 @@ Rectangle {
         Text {
             id: name
 
-            anchors.verticalCenter: parent.verticalCenter
-            x: 12
-            width: capsule.width - 24
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, 176)
             text: field.appName
             color: "#0f8a80"
             font.pixelSize: 13
             font.weight: Font.Bold
-            elide: Text.ElideMiddle
+            elide: Text.ElideRight
             textFormat: Text.PlainText
             Accessible.ignored: true
         }

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
+#include <QPainterPath>
 #include <QProcess>
 #include <QStyleHints>
 #include <QTest>
@@ -97,6 +98,12 @@ class Pictures {
             QImage picture(window.width() + 2 * margin, window.height() + 2 * margin, QImage::Format_RGB32);
             picture.fill(desktop.colour);
             QPainter painter(&picture);
+            // What lies outside of the round corners is transparent on a desktop, but not in a grabbed
+            // picture.
+            QPainterPath outline;
+            outline.addRoundedRect(QRectF(QPointF(margin, margin), window.size()), 24 * scale, 24 * scale);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setClipPath(outline);
             painter.drawImage(QRect(QPoint(margin, margin), window.size()), window);
             painter.end();
             picture.save(folder_.filePath(QStringLiteral("%1-%2@%3.png").arg(name, desktop.name).arg(scale)));
