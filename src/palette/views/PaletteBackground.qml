@@ -4,6 +4,8 @@ import QtQuick
 Rectangle {
     id: background
 
+    property bool hasLeaf: true
+
     radius: 24
     border.width: 1
     border.color: "#c9d6c9"
@@ -17,6 +19,7 @@ Rectangle {
     Item {
         anchors.fill: parent
         anchors.margins: 1
+        visible: background.hasLeaf
         clip: true
 
         Symbol {

@@ -31,6 +31,9 @@ FocusScope {
     PaletteBackground {
         anchors.fill: parent
     }
+    WindowDragArea {
+        anchors.fill: parent
+    }
 
     Item {
         id: header

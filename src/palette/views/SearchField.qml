@@ -46,6 +46,8 @@ Rectangle {
         selectionColor: "#19c8b9"
         selectedTextColor: "white"
         selectByMouse: true
+        // Room for the cursor before the first character.
+        leftPadding: 2
         clip: true
         focus: true
         cursorDelegate: Rectangle {
@@ -53,8 +55,8 @@ Rectangle {
 
             readonly property TextInput field: cursor.parent as TextInput
 
-            width: 3
-            radius: 1.5
+            width: 2
+            radius: 1
             color: "#19c8b9"
             visible: cursor.field !== null && cursor.field.cursorVisible
         }
@@ -74,6 +76,7 @@ Rectangle {
 
         Text {
             anchors.fill: parent
+            anchors.leftMargin: 5
             visible: input.text === "" && input.preeditText === ""
             text: qsTr("Commands")
             color: "#b3a793"
