@@ -1,4 +1,5 @@
 import QtQuick
+import Tovrel.Views
 
 // One result: its icon, title and subtitle, a check mark, and its shortcut.
 Item {
@@ -36,19 +37,6 @@ Item {
         radius: 16
         color: hover.hovered ? Qt.rgba(1, 1, 1, 0.96) : Qt.rgba(1, 253 / 255, 242 / 255, 0.82)
     }
-    // From corner to corner: on a row so wide that is, to less than one step of a colour, from left to right.
-    Rectangle {
-        anchors.fill: parent
-        visible: row.isSelected
-        radius: 16
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
-
-            GradientStop { position: 0; color: "#19c8b9" }
-            GradientStop { position: 1; color: "#3dd4c6" }
-        }
-    }
-
     Rectangle {
         id: badge
 
@@ -72,7 +60,7 @@ Item {
 
         anchors.verticalCenter: parent.verticalCenter
         anchors.left: badge.right
-        anchors.leftMargin: 12
+        anchors.leftMargin: 16
         anchors.right: caps.left
         anchors.rightMargin: caps.visible ? 12 : 0
         height: subtitleLabel.visible ? titleLabel.height + subtitleLabel.height : titleLabel.height

@@ -31,6 +31,9 @@ FocusScope {
     PaletteBackground {
         anchors.fill: parent
     }
+    WindowDragArea {
+        anchors.fill: parent
+    }
 
     Item {
         id: header
@@ -90,13 +93,14 @@ FocusScope {
         id: list
 
         anchors.left: parent.left
-        anchors.leftMargin: 14
+        anchors.leftMargin: 12
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: 12
         anchors.top: header.bottom
         anchors.topMargin: 20
         anchors.bottom: parent.bottom
-        bottomMargin: 14
+        anchors.bottomMargin: 4
+        bottomMargin: 8
         visible: list.count > 0
         model: view.palette.results
         showCheckedStatus: view.palette.showCheckedStatus
@@ -110,6 +114,19 @@ FocusScope {
             showCheckedStatus: list ? list.showCheckedStatus : false
             count: list ? list.count : 0
             onClicked: list.chosen(index)
+        }
+    }
+
+    // The list fades out where it goes on.
+    Rectangle {
+        anchors.left: list.left
+        anchors.right: list.right
+        anchors.bottom: list.bottom
+        height: 20
+        visible: list.visible && !list.atYEnd
+        gradient: Gradient {
+            GradientStop { position: 0; color: "#00fff1d3" }
+            GradientStop { position: 1; color: "#fffff1d3" }
         }
     }
 

@@ -1,4 +1,5 @@
 import QtQuick
+import Tovrel.Views
 
 // The results, scrolled only when it is told to.
 ListView {
@@ -27,4 +28,18 @@ ListView {
 
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Results")
+
+    // Below the rows, scrolled with them.
+    GradientBar {
+        readonly property Item row: list.currentItem
+
+        z: -1
+        visible: row !== null
+        y: row ? row.y : 0
+        width: list.width
+        height: row ? row.height : 0
+        from: "#19c8b9"
+        to: "#3dd4c6"
+        radius: 16
+    }
 }

@@ -46,8 +46,20 @@ Rectangle {
         selectionColor: "#19c8b9"
         selectedTextColor: "white"
         selectByMouse: true
+        // Room for the cursor before the first character.
+        leftPadding: 2
         clip: true
         focus: true
+        cursorDelegate: Rectangle {
+            id: cursor
+
+            readonly property TextInput field: cursor.parent as TextInput
+
+            width: 2
+            radius: 1
+            color: "#19c8b9"
+            visible: cursor.field !== null && cursor.field.cursorVisible
+        }
 
         onTextChanged: {
             if (input.text !== field.query)
@@ -64,6 +76,7 @@ Rectangle {
 
         Text {
             anchors.fill: parent
+            anchors.leftMargin: 5
             visible: input.text === "" && input.preeditText === ""
             text: qsTr("Commands")
             color: "#b3a793"
@@ -80,7 +93,7 @@ Rectangle {
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         visible: field.appName !== ""
-        width: Math.min(name.implicitWidth + 24, 200)
+        width: name.width + 24
         height: 26
         radius: height / 2
         color: "#e6f9f6"
@@ -88,14 +101,13 @@ Rectangle {
         Text {
             id: name
 
-            anchors.verticalCenter: parent.verticalCenter
-            x: 12
-            width: capsule.width - 24
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, 176)
             text: field.appName
             color: "#0f8a80"
             font.pixelSize: 13
             font.weight: Font.Bold
-            elide: Text.ElideMiddle
+            elide: Text.ElideRight
             textFormat: Text.PlainText
             Accessible.ignored: true
         }

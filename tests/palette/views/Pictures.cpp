@@ -6,15 +6,18 @@
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
+#include <QPainterPath>
 #include <QProcess>
 #include <QStyleHints>
 #include <QTest>
+#include <QTimer>
 #include <iostream>
 
 #include "PaletteStage.h"
 #include "RecordedCommands.h"
 #include "commands/CommandSamples.h"
 #include "menus/AccessibilityPermissionService.h"
+#include "platform/qt/QtUserInterface.h"
 
 namespace tovrel {
 namespace {
@@ -29,6 +32,7 @@ class Pictures {
         drawEmptyStates();
         drawResults();
         drawRows();
+        drawAlert();
     }
 
   private:
@@ -44,7 +48,7 @@ class Pictures {
 
     void drawResults() {
         const std::vector<Command> commands = recordedCommands("mousepad", stage_.textServices);
-        stage_.show(commands, Text("Mousepad"), ApplicationIcon{"org.xfce.mousepad"});
+        stage_.show(commands, Text("Mousepad"), ApplicationIcon{iconFile()});
         save("results");
         stage_.viewModel.setQuery("sav");
         save("typed");
@@ -84,10 +88,31 @@ class Pictures {
         save("long-query");
     }
 
-    void save(const QString& name) {
+    void drawAlert() {
+        QtUserInterface userInterface(stage_.engine, {});
+        QTimer::singleShot(0, [this] {
+            for (QWindow* window : QGuiApplication::topLevelWindows()) {
+                auto* view = qobject_cast<QQuickView*>(window);
+                if (view != nullptr && view != &stage_.panel.window()) {
+                    static_cast<void>(QTest::qWaitForWindowActive(view));
+                    save("alert", *view);
+                    view->close();
+                }
+            }
+        });
+        static_cast<void>(
+            userInterface.runAlert({.messageText = "Run “Back up my documents”?",
+                                    .informativeText = "This shell command can run actions on your Mac.",
+                                    .firstButton = "Run",
+                                    .secondButton = "Cancel"}));
+    }
+
+    void save(const QString& name) { save(name, stage_.panel.window()); }
+
+    void save(const QString& name, QQuickView& view) {
         QCoreApplication::processEvents();
-        const QImage window = stage_.panel.window().grabWindow();
-        const qreal scale = stage_.panel.window().effectiveDevicePixelRatio();
+        const QImage window = view.grabWindow();
+        const qreal scale = view.effectiveDevicePixelRatio();
         const struct {
             QString name;
             QColor colour;
@@ -97,10 +122,35 @@ class Pictures {
             QImage picture(window.width() + 2 * margin, window.height() + 2 * margin, QImage::Format_RGB32);
             picture.fill(desktop.colour);
             QPainter painter(&picture);
+            // What lies outside of the round corners is transparent on a desktop, but not in a grabbed
+            // picture.
+            QPainterPath outline;
+            outline.addRoundedRect(QRectF(QPointF(margin, margin), window.size()), 24 * scale, 24 * scale);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setClipPath(outline);
             painter.drawImage(QRect(QPoint(margin, margin), window.size()), window);
             painter.end();
             picture.save(folder_.filePath(QStringLiteral("%1-%2@%3.png").arg(name, desktop.name).arg(scale)));
         }
+    }
+
+    /// An icon as an application has one.
+    Text iconFile() {
+        const QString file = folder_.absoluteFilePath(QStringLiteral("icon.png"));
+        QImage icon(128, 128, QImage::Format_ARGB32_Premultiplied);
+        icon.fill(Qt::transparent);
+        QPainter painter(&icon);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0x3a, 0x86, 0xff));
+        painter.drawRoundedRect(QRectF(8, 8, 112, 112), 28, 28);
+        painter.setBrush(Qt::white);
+        for (const int y : {40, 60, 80}) {
+            painter.drawRoundedRect(QRectF(34, y, 60, 8), 4, 4);
+        }
+        painter.end();
+        icon.save(file);
+        return Text(file.toStdString());
     }
 
     QDir folder_;

@@ -1,0 +1,69 @@
+import QtQuick
+import Tovrel.Views
+
+// A button of an alert. The default one is filled.
+FocusScope {
+    id: button
+
+    required property string text
+    required property bool isDefault
+
+    signal pressed()
+
+    implicitWidth: Math.max(112, Math.ceil(label.implicitWidth) + 40)
+    implicitHeight: 40
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: button.text
+    Accessible.defaultButton: button.isDefault
+    Accessible.focusable: true
+    Accessible.onPressAction: button.pressed()
+
+    Keys.onReturnPressed: button.pressed()
+    Keys.onEnterPressed: button.pressed()
+    Keys.onSpacePressed: button.pressed()
+
+    // The ring of the keyboard focus.
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -4
+        visible: button.activeFocus
+        radius: 20
+        color: "transparent"
+        border.width: 2
+        border.color: Qt.rgba(25 / 255, 200 / 255, 185 / 255, 0.55)
+    }
+    GradientBar {
+        anchors.fill: parent
+        visible: button.isDefault
+        from: hover.hovered ? "#17bdaf" : "#19c8b9"
+        to: hover.hovered ? "#35cabc" : "#3dd4c6"
+        radius: 16
+    }
+    Rectangle {
+        anchors.fill: parent
+        visible: !button.isDefault
+        radius: 16
+        color: hover.hovered ? "white" : Qt.rgba(1, 253 / 255, 242 / 255, 0.82)
+        border.width: 1
+        border.color: Qt.rgba(138 / 255, 123 / 255, 102 / 255, 0.25)
+    }
+    Text {
+        id: label
+
+        anchors.centerIn: parent
+        text: button.text
+        color: button.isDefault ? "white" : "#40382c"
+        font.pixelSize: 15
+        font.weight: Font.ExtraBold
+        textFormat: Text.PlainText
+        Accessible.ignored: true
+    }
+    HoverHandler {
+        id: hover
+    }
+    TapHandler {
+        onTapped: button.pressed()
+    }
+}
