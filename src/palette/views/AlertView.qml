@@ -7,7 +7,7 @@ FocusScope {
 
     required property AlertQuestion question
 
-    implicitWidth: 432
+    implicitWidth: 464
     implicitHeight: texts.y + texts.height + 24 + first.implicitHeight + 24
     focus: true
 

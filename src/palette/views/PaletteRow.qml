@@ -81,6 +81,7 @@ Item {
         Symbol {
             id: check
 
+            objectName: "check"
             visible: row.showCheckedStatus && row.isChecked
             anchors.left: titleLabel.right
             anchors.leftMargin: 6

@@ -75,6 +75,7 @@ FocusScope {
         SearchField {
             id: field
 
+            objectName: "field"
             anchors.left: icon.right
             anchors.leftMargin: 14
             anchors.right: parent.right
@@ -92,6 +93,7 @@ FocusScope {
     ResultList {
         id: list
 
+        objectName: "results"
         anchors.left: parent.left
         anchors.leftMargin: 12
         anchors.right: parent.right
@@ -131,6 +133,7 @@ FocusScope {
     }
 
     EmptyState {
+        objectName: "empty"
         anchors.horizontalCenter: parent.horizontalCenter
         y: header.y + header.height + (parent.height - header.y - header.height - height) / 2 - 12
         visible: list.count === 0

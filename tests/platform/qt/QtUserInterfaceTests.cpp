@@ -1,0 +1,159 @@
+#include "platform/qt/QtUserInterface.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QQuickView>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtStatusItem.h"
+#include "platform/qt/ScreenCoordinates.h"
+
+namespace tovrel {
+namespace {
+
+using std::chrono_literals::operator""ms;
+using testing::ElementsAre;
+
+class QtUserInterfaceTest : public testing::Test {
+  protected:
+    /// Shows an alert, does something to its window once it can be used, and returns the answer.
+    bool answerAfter(const std::function<void(QQuickView&)>& act) {
+        QTimer::singleShot(0, [&] {
+            const auto windows = QGuiApplication::topLevelWindows();
+            for (QWindow* window : windows) {
+                if (auto* view = qobject_cast<QQuickView*>(window); view != nullptr && view->isVisible()) {
+                    EXPECT_TRUE(QTest::qWaitForWindowActive(view));
+                    act(*view);
+                }
+            }
+        });
+        return userInterface_.runAlert({.messageText = "Run “Backup”?",
+                                        .informativeText = "This shell command can run actions.",
+                                        .firstButton = "Run",
+                                        .secondButton = "Cancel"});
+    }
+
+    ViewEngine engine_;
+    QtUserInterface userInterface_{engine_, {}};
+};
+
+TEST_F(QtUserInterfaceTest, AlertsAreAnsweredByKeysAndClicks) {
+    const auto keys = [](std::vector<Qt::Key> pressed) {
+        return [pressed = std::move(pressed)](QQuickView& view) {
+            for (const Qt::Key key : pressed) {
+                QTest::keyClick(&view, key);
+            }
+        };
+    };
+    EXPECT_TRUE(answerAfter(keys({Qt::Key_Return})));
+    EXPECT_TRUE(answerAfter(keys({Qt::Key_Enter})));
+    EXPECT_TRUE(answerAfter(keys({Qt::Key_Space})));
+    EXPECT_FALSE(answerAfter(keys({Qt::Key_Escape})));
+    EXPECT_FALSE(answerAfter(keys({Qt::Key_Tab, Qt::Key_Return})));
+    EXPECT_FALSE(answerAfter(keys({Qt::Key_Left, Qt::Key_Space})));
+    EXPECT_TRUE(answerAfter(keys({Qt::Key_Left, Qt::Key_Right, Qt::Key_Return})));
+    EXPECT_FALSE(answerAfter(keys({Qt::Key_Tab, Qt::Key_Escape})));
+    EXPECT_FALSE(answerAfter([](QQuickView& view) { view.close(); }));
+    // The first button is in the lower right corner.
+    EXPECT_TRUE(answerAfter([](QQuickView& view) {
+        QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(view.width() - 60, view.height() - 44));
+    }));
+    EXPECT_FALSE(answerAfter([](QQuickView& view) {
+        QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(view.width() - 200, view.height() - 44));
+    }));
+}
+
+TEST_F(QtUserInterfaceTest, EventsGoOnDuringAnAlert) {
+    QtMainQueue queue;
+    bool ran = false;
+    queue.postAfter(1ms, [&] { ran = true; });
+    EXPECT_FALSE(answerAfter([&](QQuickView& view) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ran; }));
+        view.close();
+    }));
+}
+
+TEST_F(QtUserInterfaceTest, ScreensAreMeasuredUpwardsFromThePrimaryOne) {
+    const QScreen& primary = *QGuiApplication::primaryScreen();
+    const QRect geometry = primary.geometry();
+    const Rect frame = userInterface_.mainScreenVisibleFrame().value();
+    EXPECT_EQ(frame.size.width, geometry.width());
+    EXPECT_EQ(frame.origin, (Point{0, 0}));
+    EXPECT_EQ(upwards(QRect(10, 20, 100, 50), primary), (Rect{{10, geometry.height() - 70.0}, {100, 50}}));
+    // A window put where a rectangle was measured has that rectangle.
+    for (const QRect& rect :
+         {QRect(10, 20, 100, 50), QRect(-1900, -300, 680, 460), QRect(3000, 2000, 7, 9)}) {
+        EXPECT_EQ(downwards(upwards(rect, primary).origin, rect.size(), primary), rect.topLeft());
+    }
+    EXPECT_EQ(screenOf(QRect(5, 5, 10, 10)), &primary);
+    EXPECT_EQ(screenOf(QRect(-500, -500, 10, 10)), nullptr);
+}
+
+TEST_F(QtUserInterfaceTest, TheStatusMenuHasWhatItWasMadeWith) {
+    std::vector<std::string> chosen;
+    std::vector<bool> tracked;
+    const Subscription tracking =
+        userInterface_.onMenuTracking([&](bool isOpen) { tracked.push_back(isOpen); });
+    const auto choosing = [&](const char* name) { return [&chosen, name] { chosen.emplace_back(name); }; };
+    const auto item = userInterface_.makeStatusItem(
+        {.imageName = "MenuBarIcon",
+         .toolTip = "Tovrel",
+         .menu = {{"Open Palette", std::nullopt, "magnifyingglass", choosing("open")},
+                  {"Settings…", Text(","), "gearshape", choosing("settings")},
+                  {},
+                  {"Quit Tovrel", Text("q"), "power", choosing("quit")}}});
+    ASSERT_NE(item, nullptr);
+    QMenu& menu = static_cast<QtStatusItem&>(*item).menu();
+    const QList<QAction*> actions = menu.actions();
+    ASSERT_EQ(actions.size(), 4);
+    EXPECT_EQ(actions[0]->text(), "Open Palette");
+    EXPECT_TRUE(actions[0]->shortcut().isEmpty());
+    EXPECT_FALSE(actions[0]->icon().isNull());
+    EXPECT_EQ(actions[1]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Comma));
+    EXPECT_TRUE(actions[2]->isSeparator());
+    EXPECT_EQ(actions[3]->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    for (QAction* action : actions) {
+        action->trigger();
+    }
+    EXPECT_THAT(chosen, ElementsAre("open", "settings", "quit"));
+    menu.popup({});
+    menu.close();
+    EXPECT_THAT(tracked, ElementsAre(true, false));
+}
+
+TEST(QtMainQueueTest, TasksRunLaterInTheirOrderAndNotAfterTheQueueIsGone) {
+    std::vector<int> ran;
+    auto queue = std::make_unique<QtMainQueue>();
+    const auto running = [&](int number) { return [&ran, number] { ran.push_back(number); }; };
+    QElapsedTimer clock;
+    clock.start();
+    qint64 delay = 0;
+    queue->postAfter(30ms, [&] {
+        delay = clock.elapsed();
+        ran.push_back(4);
+    });
+    queue->postAfter(30ms, running(5));
+    queue->post(running(1));
+    queue->postAfter(0ms, running(2));
+    queue->post(running(3));
+    EXPECT_TRUE(ran.empty());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ran.size() == 5; }));
+    EXPECT_THAT(ran, ElementsAre(1, 2, 3, 4, 5));
+    EXPECT_GE(delay, 30);
+    queue->post(running(6));
+    queue->postAfter(1ms, running(7));
+    queue.reset();
+    bool isLater = false;
+    QTimer::singleShot(20, [&] { isLater = true; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isLater; }));
+    EXPECT_EQ(ran.size(), 5U);
+}
+
+} // namespace
+} // namespace tovrel
