@@ -11,8 +11,27 @@ FocusScope {
     implicitHeight: 460
     focus: true
 
-    Accessible.role: Accessible.Pane
-    Accessible.name: qsTr("Command palette")
+    // A screen reader is led to the highlighted row when it moves, although the keyboard focus never goes there,
+    // and back to the field when something is typed.
+    property bool hasTyped: false
+    property bool isRowSpoken: false
+
+    // Once everything that one key changes has changed.
+    Timer {
+        id: speak
+
+        interval: 0
+        onTriggered: {
+            if (!view.hasTyped && list.currentItem) {
+                view.isRowSpoken = true;
+                view.palette.moveScreenReaderTo(list.currentItem);
+            } else if (view.isRowSpoken) {
+                view.isRowSpoken = false;
+                view.palette.moveScreenReaderTo(field.textInput);
+            }
+            view.hasTyped = false;
+        }
+    }
 
     Connections {
         target: view.palette
@@ -21,10 +40,14 @@ FocusScope {
             field.takeFocus();
         }
         function onSelectedIndexChanged() {
+            if (view.palette.selectedIndex !== list.currentIndex)
+                speak.start();
             list.highlightRow(view.palette.selectedIndex);
         }
         function onQueryChanged() {
             list.positionViewAtBeginning();
+            view.hasTyped = true;
+            speak.start();
         }
     }
 

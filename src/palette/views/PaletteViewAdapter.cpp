@@ -1,6 +1,6 @@
 #include "PaletteViewAdapter.h"
 
-#include <QIcon>
+#include <QAccessible>
 #include <QMetaObject>
 #include <utility>
 
@@ -82,6 +82,13 @@ void PaletteViewAdapter::executeRow(int row) {
 
 void PaletteViewAdapter::dismiss() {
     context_.onDismiss();
+}
+
+void PaletteViewAdapter::moveScreenReaderTo(QQuickItem* item) {
+    if (QAccessible::isActive()) {
+        QAccessibleEvent event(item, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 } // namespace tovrel

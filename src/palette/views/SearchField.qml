@@ -7,6 +7,8 @@ Rectangle {
     required property string query
     required property string appName
 
+    readonly property alias textInput: input
+
     signal edited(string text)
     signal submitted()
     signal dismissed()

@@ -21,7 +21,9 @@ constexpr auto activationPatience = 50ms;
 
 QRegion roundedRegion(QSize size) {
     QPainterPath path;
-    path.addRoundedRect(QRectF(QPointF(0, 0), QSizeF(size)), cornerRadius, cornerRadius);
+    // A little rounder than the view would lose parts of its border, which is smoothed over two pixels.
+    constexpr qreal radius = cornerRadius - 1.5;
+    path.addRoundedRect(QRectF(QPointF(0, 0), QSizeF(size)), radius, radius);
     return QRegion(path.toFillPolygon().toPolygon());
 }
 
