@@ -4,7 +4,8 @@
 
 namespace tovrel {
 
-EventSourceWatch::EventSourceWatch(EventSource& source) : source_(&source) {
+EventSourceWatch::EventSourceWatch(EventSource& source, EventSource* before)
+    : source_(&source), before_(before) {
     if (source.fileDescriptor() < 0) {
         return;
     }
@@ -19,6 +20,9 @@ EventSourceWatch::~EventSourceWatch() {
 }
 
 void EventSourceWatch::dispatch() {
+    if (before_ != nullptr) {
+        before_->dispatch();
+    }
     source_->dispatch();
     if (source_->fileDescriptor() < 0) {
         notifier_->setEnabled(false);

@@ -12,8 +12,9 @@ namespace tovrel {
 /// goes to sleep, since a question asked over the same connection may have brought events into memory.
 class EventSourceWatch {
   public:
-    /// The source must outlive the watch.
-    explicit EventSourceWatch(EventSource& source);
+    /// The sources must outlive the watch. `before`, if given, is always dispatched first: what came from
+    /// there earlier must not be taken for something later.
+    explicit EventSourceWatch(EventSource& source, EventSource* before = nullptr);
     ~EventSourceWatch();
     EventSourceWatch(const EventSourceWatch&) = delete;
     EventSourceWatch& operator=(const EventSourceWatch&) = delete;
@@ -22,6 +23,7 @@ class EventSourceWatch {
     void dispatch();
 
     EventSource* source_;
+    EventSource* before_;
     std::unique_ptr<QSocketNotifier> notifier_;
     QMetaObject::Connection beforeSleep_;
 };

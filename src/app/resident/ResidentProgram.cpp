@@ -50,7 +50,9 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
       coordinator_(std::make_shared<AppCoordinator>(platform())),
       service_(
           coordinator_, [this] { return shortcutForPeople(); }, [] { QApplication::quit(); }),
-      hotKeyEvents_(hotKeys_), activationEvents_(workspace_->activationEvents()) {}
+      activationEvents_(workspace_->activationEvents()),
+      // That the user has come back to an application is older than the hot key pressed there.
+      hotKeyEvents_(hotKeys_, &workspace_->activationEvents()) {}
 
 ResidentProgram::~ResidentProgram() {
     // Calls that the bus still delivers must not find what is half gone.

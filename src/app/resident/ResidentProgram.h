@@ -67,8 +67,8 @@ class ResidentProgram {
     QtPalettePanel* panel_ = nullptr; ///< Owned by the coordinator.
     std::shared_ptr<AppCoordinator> coordinator_;
     DBusService service_;
-    EventSourceWatch hotKeyEvents_;
     EventSourceWatch activationEvents_;
+    EventSourceWatch hotKeyEvents_;
 };
 
 } // namespace tovrel
