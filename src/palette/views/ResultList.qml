@@ -30,9 +30,12 @@ ListView {
     Accessible.name: qsTr("Results")
 
     // Below the rows, scrolled with them.
-    GradientBar {
+    RoundedBox {
+        objectName: "highlight"
+
         readonly property Item row: list.currentItem
 
+        parent: list.contentItem
         z: -1
         visible: row !== null
         y: row ? row.y : 0
@@ -40,6 +43,7 @@ ListView {
         height: row ? row.height : 0
         from: "#19c8b9"
         to: "#3dd4c6"
+        isDiagonal: true
         radius: 16
     }
 }
