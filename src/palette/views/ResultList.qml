@@ -9,10 +9,27 @@ ListView {
 
     signal chosen(int row)
 
+    // How much of its upper and lower end the list shows faded while it goes on there.
+    readonly property int fadeAbove: 12
+    readonly property int fadeBelow: 20
+
+    // Scrolls no further than it must for the row to be seen clearly.
     function highlightRow(row: int) {
         list.currentIndex = row;
-        if (row < list.count)
+        if (row < list.count) {
             list.positionViewAtIndex(row, ListView.Contain);
+            if (list.currentItem)
+                list.uncover(list.currentItem.y, list.currentItem.y + list.currentItem.height);
+        }
+    }
+
+    function uncover(top: real, bottom: real) {
+        const first = list.originY;
+        const last = Math.max(first, first + list.contentHeight + list.bottomMargin - list.height);
+        if (top - list.fadeAbove < list.contentY)
+            list.contentY = Math.max(first, top - list.fadeAbove);
+        else if (bottom + list.fadeBelow > list.contentY + list.height)
+            list.contentY = Math.min(last, bottom + list.fadeBelow - list.height);
     }
 
     spacing: 4
