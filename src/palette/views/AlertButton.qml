@@ -25,29 +25,29 @@ FocusScope {
     Keys.onSpacePressed: button.pressed()
 
     // The ring of the keyboard focus.
-    Rectangle {
+    RoundedBox {
         anchors.fill: parent
         anchors.margins: -4
         visible: button.activeFocus
         radius: 20
-        color: "transparent"
-        border.width: 2
-        border.color: Qt.rgba(25 / 255, 200 / 255, 185 / 255, 0.55)
+        borderWidth: 2
+        borderColour: "#8c19c8b9"
     }
-    GradientBar {
+    RoundedBox {
         anchors.fill: parent
         visible: button.isDefault
+        radius: 16
+        isDiagonal: true
         from: hover.hovered ? "#17bdaf" : "#19c8b9"
         to: hover.hovered ? "#35cabc" : "#3dd4c6"
-        radius: 16
     }
-    Rectangle {
+    RoundedBox {
         anchors.fill: parent
         visible: !button.isDefault
         radius: 16
-        color: hover.hovered ? "white" : Qt.rgba(1, 253 / 255, 242 / 255, 0.82)
-        border.width: 1
-        border.color: Qt.rgba(138 / 255, 123 / 255, 102 / 255, 0.25)
+        from: hover.hovered ? "white" : "#fffdf6"
+        borderWidth: 1
+        borderColour: "#408a7b66"
     }
     Text {
         id: label

@@ -1,18 +1,20 @@
 import QtQuick
+import Tovrel.Views
 
 // The backdrop of the panel: a light gradient with a faded leaf, and an edge that is to be seen on any desktop.
-Rectangle {
+Item {
     id: background
 
     property bool hasLeaf: true
 
-    radius: 24
-    border.width: 1
-    border.color: "#c9d6c9"
-    gradient: Gradient {
-        GradientStop { position: 0; color: "#dff6ef" }
-        GradientStop { position: 0.5; color: "#f1f6e3" }
-        GradientStop { position: 1; color: "#fff1d3" }
+    RoundedBox {
+        anchors.fill: parent
+        radius: 24
+        from: "#dff6ef"
+        via: "#f1f6e3"
+        to: "#fff1d3"
+        borderColour: "#c3d2c4"
+        borderWidth: 1
     }
 
     // Cut off by the upper edge, clear of the round corner.
@@ -30,14 +32,5 @@ Rectangle {
             size: 176
             opacity: 0.12
         }
-    }
-
-    Rectangle {
-        anchors.fill: parent
-        anchors.margins: 1
-        radius: 23
-        color: "transparent"
-        border.width: 1
-        border.color: Qt.rgba(1, 1, 1, 0.6)
     }
 }

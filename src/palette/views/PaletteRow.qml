@@ -21,7 +21,7 @@ Item {
 
     signal clicked()
 
-    height: 54
+    height: 52
 
     Accessible.role: Accessible.ListItem
     Accessible.name: row.spokenName
@@ -35,7 +35,7 @@ Item {
         anchors.fill: parent
         visible: !row.isSelected
         radius: 16
-        color: hover.hovered ? Qt.rgba(1, 1, 1, 0.96) : Qt.rgba(1, 253 / 255, 242 / 255, 0.82)
+        color: hover.hovered ? Qt.rgba(1, 1, 250 / 255, 0.98) : Qt.rgba(1, 253 / 255, 242 / 255, 0.82)
     }
     Rectangle {
         id: badge

@@ -145,8 +145,19 @@ FocusScope {
     Rectangle {
         anchors.left: list.left
         anchors.right: list.right
+        anchors.top: list.top
+        height: list.fadeAbove
+        visible: list.visible && !list.atYBeginning
+        gradient: Gradient {
+            GradientStop { position: 0; color: "#ffe2f6ed" }
+            GradientStop { position: 1; color: "#00e2f6ed" }
+        }
+    }
+    Rectangle {
+        anchors.left: list.left
+        anchors.right: list.right
         anchors.bottom: list.bottom
-        height: 20
+        height: list.fadeBelow
         visible: list.visible && !list.atYEnd
         gradient: Gradient {
             GradientStop { position: 0; color: "#00fff1d3" }

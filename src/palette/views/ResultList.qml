@@ -9,10 +9,27 @@ ListView {
 
     signal chosen(int row)
 
+    // How much of its upper and lower end the list shows faded while it goes on there.
+    readonly property int fadeAbove: 12
+    readonly property int fadeBelow: 20
+
+    // Scrolls no further than it must for the row to be seen clearly.
     function highlightRow(row: int) {
         list.currentIndex = row;
-        if (row < list.count)
+        if (row < list.count) {
             list.positionViewAtIndex(row, ListView.Contain);
+            if (list.currentItem)
+                list.uncover(list.currentItem.y, list.currentItem.y + list.currentItem.height);
+        }
+    }
+
+    function uncover(top: real, bottom: real) {
+        const first = list.originY;
+        const last = Math.max(first, first + list.contentHeight + list.bottomMargin - list.height);
+        if (top - list.fadeAbove < list.contentY)
+            list.contentY = Math.max(first, top - list.fadeAbove);
+        else if (bottom + list.fadeBelow > list.contentY + list.height)
+            list.contentY = Math.min(last, bottom + list.fadeBelow - list.height);
     }
 
     spacing: 4
@@ -30,9 +47,12 @@ ListView {
     Accessible.name: qsTr("Results")
 
     // Below the rows, scrolled with them.
-    GradientBar {
+    RoundedBox {
+        objectName: "highlight"
+
         readonly property Item row: list.currentItem
 
+        parent: list.contentItem
         z: -1
         visible: row !== null
         y: row ? row.y : 0
@@ -40,6 +60,7 @@ ListView {
         height: row ? row.height : 0
         from: "#19c8b9"
         to: "#3dd4c6"
+        isDiagonal: true
         radius: 16
     }
 }

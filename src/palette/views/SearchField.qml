@@ -1,7 +1,8 @@
 import QtQuick
+import Tovrel.Views
 
 // The field the query is typed into, with the name of the application it searches.
-Rectangle {
+RoundedBox {
     id: field
 
     required property string query
@@ -20,9 +21,9 @@ Rectangle {
 
     implicitHeight: 48
     radius: 18
-    color: input.activeFocus ? "white" : Qt.rgba(1, 1, 1, 0.6)
-    border.width: input.activeFocus ? 2 : 1
-    border.color: input.activeFocus ? "#19c8b9" : Qt.rgba(138 / 255, 123 / 255, 102 / 255, 0.25)
+    from: input.activeFocus ? "white" : "#99ffffff"
+    borderWidth: input.activeFocus ? 2 : 1
+    borderColour: input.activeFocus ? "#19c8b9" : "#408a7b66"
 
     MouseArea {
         anchors.fill: parent
@@ -88,7 +89,7 @@ Rectangle {
         }
     }
 
-    Rectangle {
+    RoundedBox {
         id: capsule
 
         anchors.right: parent.right
@@ -96,9 +97,9 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         visible: field.appName !== ""
         width: name.width + 24
-        height: 26
-        radius: height / 2
-        color: "#e6f9f6"
+        height: 28
+        radius: 14
+        from: "#e6f9f6"
 
         Text {
             id: name

@@ -12,6 +12,9 @@ namespace tovrel {
 namespace {
 
 constexpr int capHeight = 23;
+/// The item is as large as whole pixels are at every quarter scale; the caps stand at its right edge.
+constexpr int grid = 4;
+constexpr int itemHeight = 24;
 constexpr int minimumWidth = 23;
 constexpr int longTextInset = 6;
 constexpr int gap = 4;
@@ -36,7 +39,7 @@ bool hasSeveralCharacters(const QString& text) {
 
 ShortcutKeycaps::ShortcutKeycaps(QQuickItem* parent) : QQuickPaintedItem(parent) {
     setAntialiasing(true);
-    setImplicitHeight(capHeight);
+    setImplicitHeight(itemHeight);
 }
 
 void ShortcutKeycaps::setTexts(const QStringList& texts) {
@@ -65,7 +68,7 @@ void ShortcutKeycaps::paint(QPainter* painter) {
     // Capital letters in the middle, whatever room the font keeps above and below them.
     const qreal scale = painter->device()->devicePixelRatio();
     const qreal baseline = std::round((capHeight + metrics.capHeight()) / 2 * scale) / scale;
-    qreal left = 0;
+    qreal left = width() - contentWidth_;
     for (qsizetype i = 0; i < texts_.size(); ++i) {
         const qreal width = widths_[static_cast<std::size_t>(i)];
         const QRectF outline(left + strokeWidth / 2, strokeWidth / 2, width - strokeWidth,
@@ -89,7 +92,8 @@ void ShortcutKeycaps::measure() {
         widths_.push_back(std::max(minimumWidth, textWidth + 2 * inset));
         total += widths_.back() + gap;
     }
-    setImplicitWidth(std::max(total - gap, 0));
+    contentWidth_ = std::max(total - gap, 0);
+    setImplicitWidth((contentWidth_ + grid - 1) / grid * grid);
 }
 
 } // namespace tovrel

@@ -36,6 +36,7 @@ class ShortcutKeycaps : public QQuickPaintedItem {
     QStringList texts_;
     bool isSelected_ = false;
     std::vector<int> widths_;
+    int contentWidth_ = 0;
 };
 
 } // namespace tovrel

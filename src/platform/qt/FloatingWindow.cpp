@@ -84,7 +84,7 @@ void FloatingWindow::shape() {
     const bool isComposited = windowSystem_.isComposited();
     // Without a compositor what is transparent is black, so the corners are cut off, along an edge that has
     // the colour of the border.
-    view_.setColor(isComposited ? QColor(Qt::transparent) : QColor(0xc9, 0xd6, 0xc9));
+    view_.setColor(isComposited ? QColor(Qt::transparent) : QColor(0xc3, 0xd2, 0xc4));
     view_.setMask(isComposited ? QRegion() : roundedRegion(view_.size()));
 }
 

@@ -58,8 +58,11 @@ class Resident:
         return shown[0] if shown else None
 
     def has_focus(self):
+        """Whether the palette, or a question, is in front, and knows it: before that it still asks for it."""
         window = self.window
-        return window is not None and self._desktop.windows.active() == window
+        if window is None or self._desktop.windows.active() != window:
+            return False
+        return any("active" in frame.states for frame in self._frames())
 
     def query(self):
         """What the search field holds."""
@@ -72,6 +75,10 @@ class Resident:
         if results is None:
             return []
         return [row.name for row in results.children if "showing" in row.states]
+
+    def _frames(self):
+        tree = self._desktop.witness.application(self.pid)
+        return tree.children if tree else []
 
     def _find(self, role):
         tree = self._desktop.witness.application(self.pid)

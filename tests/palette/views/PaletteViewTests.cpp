@@ -55,6 +55,16 @@ class PaletteViewTest : public testing::Test {
         return list();
     }
 
+    /// Whether the highlighted row can be seen whole, with the highlight behind it.
+    bool isHighlightInSight() {
+        const QQuickItem* row = selectedRow();
+        const QQuickItem* highlight = item("highlight");
+        return row != nullptr &&
+               row->property("index").toLongLong() == stage_.viewModel.selectedIndex().get() &&
+               row->property("isSelected").toBool() && highlight->isVisible() && highlight->y() == row->y() &&
+               highlight->height() == row->height() && isWithinList(row);
+    }
+
     bool isWithinList(const QQuickItem* item) {
         const QRectF place = item->mapRectToItem(list(), item->boundingRect());
         return list()->boundingRect().contains(place);
@@ -133,19 +143,31 @@ TEST_F(PaletteViewTest, TheSelectedRowIsAlwaysInSight) {
         QTest::keyClick(&window(), Qt::Key_Down);
         ASSERT_EQ(stage_.viewModel.selectedIndex().get(), i + 1);
         ASSERT_EQ(selectedRow()->property("index").toInt(), i + 1);
-        EXPECT_TRUE(isWithinList(selectedRow())) << i;
+        EXPECT_TRUE(isHighlightInSight()) << i;
     }
     EXPECT_GT(list()->property("contentY").toDouble(), 0);
     for (int i = 0; i < 30; ++i) {
         QTest::keyClick(&window(), Qt::Key_Up);
-        EXPECT_TRUE(isWithinList(selectedRow())) << i;
+        EXPECT_TRUE(isHighlightInSight()) << i;
     }
     EXPECT_EQ(stage_.viewModel.selectedIndex().get(), 0);
+    for (const int row : {3, 12, 19, 2, 14}) {
+        stage_.viewModel.moveSelection(row - stage_.viewModel.selectedIndex().get());
+        EXPECT_TRUE(isHighlightInSight()) << row;
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(isHighlightInSight()) << row;
+        // Nor is it faded at the ends of the list.
+        const QImage picture = window().grabWindow();
+        for (const int y : {10, 40}) {
+            const QPoint besideTheBadge = selectedRow()->mapToScene(QPointF(6, y)).toPoint();
+            EXPECT_NEAR(picture.pixelColor(besideTheBadge).red(), 25, 4) << row;
+        }
+    }
     // A new query starts at the top.
     stage_.viewModel.moveSelection(15);
     type("e");
     EXPECT_EQ(list()->property("contentY").toDouble(), 0);
-    EXPECT_TRUE(isWithinList(selectedRow()));
+    EXPECT_TRUE(isHighlightInSight());
     // So does a new list, and results that had been away.
     stage_.viewModel.moveSelection(15);
     showMousepad();
@@ -153,7 +175,7 @@ TEST_F(PaletteViewTest, TheSelectedRowIsAlwaysInSight) {
     stage_.viewModel.setQuery("zzyzx");
     stage_.viewModel.setQuery("");
     EXPECT_EQ(list()->property("currentIndex").toInt(), 0);
-    EXPECT_TRUE(isWithinList(selectedRow()));
+    EXPECT_TRUE(isHighlightInSight());
 }
 
 TEST_F(PaletteViewTest, AClickRunsTheRowItIsOn) {
@@ -272,9 +294,9 @@ TEST_F(PaletteViewTest, LongListsMakeOnlyTheRowsInSight) {
     type("entry");
     ASSERT_EQ(model()->rowCount(), 3000);
     stage_.viewModel.moveSelection(2999);
-    EXPECT_TRUE(isWithinList(selectedRow()));
+    EXPECT_TRUE(isHighlightInSight());
     stage_.viewModel.moveSelection(-1500);
-    EXPECT_TRUE(isWithinList(selectedRow()));
+    EXPECT_TRUE(isHighlightInSight());
     EXPECT_LT(rowItems().size(), 40);
 }
 
