@@ -3,10 +3,11 @@
 
 # Debian packages to build the program, to run it on a private desktop, and to test it.
 build_packages=(ca-certificates g++ cmake ninja-build pkg-config libicu-dev nlohmann-json3-dev libsqlite3-dev
-    libsystemd-dev libxcb1-dev libxkbcommon-dev libcli11-dev qt6-base-dev qt6-declarative-dev qt6-svg-dev
-    qml6-module-qtquick qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript fonts-inter)
+    libsystemd-dev libxcb1-dev libxcb-xkb-dev libxcb-xinput-dev libxcb-xtest0-dev libxkbcommon-dev
+    libxkbcommon-x11-dev libcli11-dev qt6-base-dev qt6-declarative-dev qt6-svg-dev qml6-module-qtquick
+    qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript fonts-inter)
 desktop_packages=(at-spi2-core dbus xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core mousepad
-    util-linux python3 python3-gi gir1.2-glib-2.0)
+    util-linux python3 python3-gi gir1.2-glib-2.0 zsh)
 test_packages=(clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev libgtest-dev libgmock-dev libbenchmark-dev
     libatspi2.0-dev featherpad xterm shellcheck)
 

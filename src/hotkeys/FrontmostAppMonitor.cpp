@@ -14,7 +14,7 @@ void FrontmostAppMonitor::start() {
 }
 
 std::shared_ptr<RunningApplication> FrontmostAppMonitor::resolveTargetApplication() {
-    const std::shared_ptr<RunningApplication> front = workspace_->frontApplication();
+    std::shared_ptr<RunningApplication> front = workspace_->frontApplication();
     if (!front) {
         return nullptr;
     }

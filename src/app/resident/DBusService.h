@@ -40,7 +40,7 @@ class DBusService : public QObject {
     [[nodiscard]] QString target() const;
 
     // Named as methods are on the bus. NOLINTBEGIN(readability-identifier-naming)
-  public slots:
+  public Q_SLOTS:
     void Toggle();
     void Show();
     void Quit();

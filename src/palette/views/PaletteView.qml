@@ -105,7 +105,6 @@ FocusScope {
             anchors.verticalCenter: parent.verticalCenter
             query: view.palette.query
             appName: view.palette.appName
-            focus: true
             onEdited: text => view.palette.query = text
             onSubmitted: view.palette.executeSelection()
             onDismissed: view.palette.dismiss()

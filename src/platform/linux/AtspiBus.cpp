@@ -106,6 +106,14 @@ bool AtspiBus::isEnabled() {
     return answer && answer->readVariantBoolean().value_or(false);
 }
 
+bool AtspiBus::setEnabled(bool isEnabled) {
+    const auto answer = askLauncher("org.freedesktop.DBus.Properties", "Set", [&](sd_bus_message* call) {
+        return sd_bus_message_append(call, "ssv", "org.a11y.Status", "IsEnabled", "b", isEnabled ? 1 : 0) >=
+               0;
+    });
+    return answer && answer->errorName().empty();
+}
+
 std::optional<std::vector<AtspiApplication>> AtspiBus::applications() {
     DBusConnection* bus = connection();
     if (bus == nullptr) {

@@ -38,6 +38,8 @@ class AtspiBus {
     /// Whether accessibility is enabled for toolkits: IsEnabled of org.a11y.Status on the session bus. GTK
     /// registers on the accessibility bus regardless, Qt and Firefox only when it is. False when unknown.
     [[nodiscard]] bool isEnabled();
+    /// Sets it. False when nobody takes it.
+    bool setEnabled(bool isEnabled);
 
     /// The applications on the bus that have a process identifier; absent when the registry does not answer
     /// within half a second.

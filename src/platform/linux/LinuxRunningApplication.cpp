@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxRunningApplication.h"
 
+#include <unistd.h>
+
 #include "platform/linux/Process.h"
 
 namespace tovrel {
@@ -54,6 +56,14 @@ LinuxRunningApplication::LinuxRunningApplication(std::int32_t processIdentifier,
     } else if (std::string executable = processExecutable(processIdentifier); !executable.empty()) {
         name_ = Text(std::move(executable));
     }
+}
+
+LinuxRunningApplication::LinuxRunningApplication()
+    : processIdentifier_(getpid()), startTime_(processStartTime(processIdentifier_)),
+      identifier_("org.tovrel.Tovrel"), name_("Tovrel"), icon_(ApplicationIcon{"org.tovrel.Tovrel"}) {}
+
+LinuxRunningApplication LinuxRunningApplication::ofThisProcess() {
+    return {};
 }
 
 bool LinuxRunningApplication::isTerminated() const {

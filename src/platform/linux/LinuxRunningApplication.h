@@ -17,6 +17,9 @@ class LinuxRunningApplication : public RunningApplication {
     LinuxRunningApplication(std::int32_t processIdentifier, const std::optional<X11Window>& window,
                             DesktopEntries& entries);
 
+    /// This process itself, which is known without an entry.
+    [[nodiscard]] static LinuxRunningApplication ofThisProcess();
+
     /// The id of the desktop entry; absent when none fits.
     [[nodiscard]] std::optional<Text> bundleIdentifier() const override { return identifier_; }
     /// The entry's name, else the window's class, else the program's name.
@@ -28,6 +31,8 @@ class LinuxRunningApplication : public RunningApplication {
     [[nodiscard]] std::optional<ApplicationIcon> icon() const override { return icon_; }
 
   private:
+    LinuxRunningApplication();
+
     std::int32_t processIdentifier_;
     std::optional<std::uint64_t> startTime_;
     std::optional<Text> identifier_;

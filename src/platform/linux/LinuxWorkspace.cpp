@@ -1,8 +1,10 @@
 #include "platform/linux/LinuxWorkspace.h"
 
 #include <set>
+#include <unistd.h>
 #include <utility>
 
+#include "platform/linux/DetachedProcess.h"
 #include "platform/linux/Process.h"
 
 namespace tovrel {
@@ -21,7 +23,7 @@ std::shared_ptr<RunningApplication> LinuxWorkspace::frontApplication() {
     if (!window || !window->processIdentifier) {
         return nullptr;
     }
-    return std::make_shared<LinuxRunningApplication>(*window->processIdentifier, window, *entries_);
+    return application(*window->processIdentifier, window);
 }
 
 bool LinuxWorkspace::activate(const RunningApplication& application) {
@@ -34,7 +36,22 @@ LinuxWorkspace::onActivation(std::function<void(const std::shared_ptr<RunningApp
     return activations_.subscribe(std::move(observer));
 }
 
-void LinuxWorkspace::open(const Text& /*url*/) {}
+void LinuxWorkspace::open(const Text& url) {
+    startDetached({"xdg-open", std::string(url.utf8())});
+}
+
+EventSource& LinuxWorkspace::activationEvents() {
+    if (!activationWatch_) {
+        activationWatch_ = std::make_unique<X11ActivationWatch>(
+            [this](xcb_window_t active) {
+                const X11Window window = windows_->describe(active);
+                activations_.notify(window.processIdentifier ? application(*window.processIdentifier, window)
+                                                             : nullptr);
+            },
+            windows_->display());
+    }
+    return *activationWatch_;
+}
 
 bool LinuxWorkspace::waitUntilFront(const RunningApplication& application,
                                     std::chrono::milliseconds patience) {
@@ -47,8 +64,7 @@ LinuxWorkspace::applicationWithProcessIdentifier(std::int32_t processIdentifier)
     if (!processStartTime(processIdentifier)) {
         return nullptr;
     }
-    return std::make_shared<LinuxRunningApplication>(processIdentifier,
-                                                     windows_->frontWindow(processIdentifier), *entries_);
+    return application(processIdentifier, windows_->frontWindow(processIdentifier));
 }
 
 std::vector<std::shared_ptr<LinuxRunningApplication>>
@@ -59,23 +75,36 @@ LinuxWorkspace::applicationsWithIdentifier(const Text& identifier) {
     return applications;
 }
 
-std::vector<std::shared_ptr<LinuxRunningApplication>> LinuxWorkspace::runningApplications() {
+std::vector<std::shared_ptr<LinuxRunningApplication>> LinuxWorkspace::applicationsWithWindows() {
     std::vector<std::shared_ptr<LinuxRunningApplication>> applications;
     std::set<std::int32_t> met;
     for (const X11Window& window : windows_->windows()) {
         if (window.processIdentifier && met.insert(*window.processIdentifier).second) {
-            applications.push_back(
-                std::make_shared<LinuxRunningApplication>(*window.processIdentifier, window, *entries_));
-        }
-    }
-    for (const AtspiApplication& application :
-         bus_->applications().value_or(std::vector<AtspiApplication>())) {
-        if (met.insert(application.processIdentifier).second) {
-            applications.push_back(std::make_shared<LinuxRunningApplication>(application.processIdentifier,
-                                                                             std::nullopt, *entries_));
+            applications.push_back(application(*window.processIdentifier, window));
         }
     }
     return applications;
+}
+
+std::vector<std::shared_ptr<LinuxRunningApplication>> LinuxWorkspace::runningApplications() {
+    auto applications = applicationsWithWindows();
+    std::set<std::int32_t> met;
+    for (const auto& withWindow : applications) {
+        met.insert(withWindow->processIdentifier());
+    }
+    for (const AtspiApplication& onBus : bus_->applications().value_or(std::vector<AtspiApplication>())) {
+        if (met.insert(onBus.processIdentifier).second) {
+            applications.push_back(application(onBus.processIdentifier, std::nullopt));
+        }
+    }
+    return applications;
+}
+
+std::shared_ptr<LinuxRunningApplication> LinuxWorkspace::application(std::int32_t processIdentifier,
+                                                                     const std::optional<X11Window>& window) {
+    return processIdentifier == getpid()
+               ? std::make_shared<LinuxRunningApplication>(LinuxRunningApplication::ofThisProcess())
+               : std::make_shared<LinuxRunningApplication>(processIdentifier, window, *entries_);
 }
 
 } // namespace tovrel

@@ -3,12 +3,14 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/Workspace.h"
 #include "platform/linux/AtspiBus.h"
 #include "platform/linux/DesktopEntries.h"
 #include "platform/linux/LinuxRunningApplication.h"
+#include "platform/linux/X11ActivationWatch.h"
 #include "platform/linux/X11Windows.h"
 
 namespace tovrel {
@@ -26,10 +28,24 @@ class LinuxWorkspace : public Workspace {
 
     bool activate(const RunningApplication& application) override;
 
+    /// Observers are called from `activationEvents`, so the main loop must watch that. Each change of the
+    /// active window counts, also within an application; that none is active for a moment does not.
     [[nodiscard]] Subscription
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override;
 
+    /// By xdg-open, which is not waited for.
     void open(const Text& url) override;
+
+    /// Where activations come from; made when first asked for.
+    [[nodiscard]] EventSource& activationEvents();
+
+    /// Brings one window to the front; see X11Windows::activate.
+    bool activate(xcb_window_t window, xcb_timestamp_t userTime) {
+        return windows_->activate(window, userTime);
+    }
+
+    /// See X11Windows::activeWindowFrame.
+    [[nodiscard]] std::optional<X11Rectangle> activeWindowFrame() { return windows_->activeWindowFrame(); }
 
     /// Waits until a window of the application is active, as it soon is after `activate`.
     bool waitUntilFront(const RunningApplication& application, std::chrono::milliseconds patience);
@@ -42,15 +58,22 @@ class LinuxWorkspace : public Workspace {
     [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>>
     applicationsWithIdentifier(const Text& identifier);
 
+    /// Each process that has a window, the one with the topmost window first.
+    [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>> applicationsWithWindows();
+
     /// Each process that has a window or is on the accessibility bus, those with windows first and the one
     /// with the topmost window before the others.
     [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>> runningApplications();
 
   private:
+    [[nodiscard]] std::shared_ptr<LinuxRunningApplication>
+    application(std::int32_t processIdentifier, const std::optional<X11Window>& window);
+
     std::shared_ptr<X11Windows> windows_;
     std::shared_ptr<AtspiBus> bus_;
     std::shared_ptr<DesktopEntries> entries_;
     ObserverList<const std::shared_ptr<RunningApplication>&> activations_;
+    std::unique_ptr<X11ActivationWatch> activationWatch_;
 };
 
 } // namespace tovrel

@@ -1,29 +1,24 @@
 #include "platform/linux/X11Connection.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <poll.h>
+
+#include "platform/linux/XcbOwned.h"
 
 namespace tovrel {
 namespace {
 
-struct Free {
-    void operator()(void* memory) const { std::free(memory); } // NOLINT: xcb allocates its replies so
-};
-template <typename Reply>
-using Owned = std::unique_ptr<Reply, Free>;
-
 /// In units of four bytes, as the protocol counts.
 constexpr std::uint32_t longestProperty = 16 * 1024;
 
-Owned<xcb_get_property_reply_t> property(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t name,
-                                         std::uint8_t format) {
+XcbOwned<xcb_get_property_reply_t> property(xcb_connection_t* connection, xcb_window_t window,
+                                            xcb_atom_t name, std::uint8_t format) {
     xcb_generic_error_t* error = nullptr;
     const auto cookie =
         xcb_get_property(connection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, longestProperty);
-    Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, cookie, &error));
-    const Owned<xcb_generic_error_t> owned(error); // The window may be gone by now.
+    XcbOwned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, cookie, &error));
+    const XcbOwned<xcb_generic_error_t> owned(error); // The window may be gone by now.
     return reply && reply->format == format ? std::move(reply) : nullptr;
 }
 
@@ -55,7 +50,7 @@ xcb_atom_t X11Connection::atom(const char* name) {
     }
     const auto cookie =
         xcb_intern_atom(connection_.get(), 0, static_cast<std::uint16_t>(std::strlen(name)), name);
-    const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_.get(), cookie, nullptr));
+    const XcbOwned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection_.get(), cookie, nullptr));
     if (!reply) {
         return XCB_ATOM_NONE;
     }
@@ -80,9 +75,9 @@ std::vector<std::uint32_t> X11Connection::numbers(xcb_window_t window, const cha
     return {values, values + xcb_get_property_value_length(reply.get()) / 4};
 }
 
-void X11Connection::watchRootProperties() {
+void X11Connection::watchRootProperties(bool isWanted) {
     if (isOpen()) {
-        const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+        const std::uint32_t mask = isWanted ? std::uint32_t{XCB_EVENT_MASK_PROPERTY_CHANGE} : 0;
         xcb_change_window_attributes(connection_.get(), root_, XCB_CW_EVENT_MASK, &mask);
         xcb_flush(connection_.get());
     }
@@ -91,7 +86,7 @@ void X11Connection::watchRootProperties() {
 bool X11Connection::waitForPropertyChange(std::chrono::steady_clock::time_point deadline) {
     bool hasChanged = false;
     while (isOpen() && !hasChanged) {
-        while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
+        while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
             hasChanged = hasChanged || (event->response_type & 0x7FU) == XCB_PROPERTY_NOTIFY;
         }
         const auto left =
@@ -120,7 +115,7 @@ bool X11Connection::sendToWindowManager(xcb_window_t window, const char* message
         XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     const auto cookie = xcb_send_event_checked(connection_.get(), 0, root_, toWindowManager,
                                                reinterpret_cast<const char*>(&event));
-    const Owned<xcb_generic_error_t> error(xcb_request_check(connection_.get(), cookie));
+    const XcbOwned<xcb_generic_error_t> error(xcb_request_check(connection_.get(), cookie));
     return !error && isOpen();
 }
 

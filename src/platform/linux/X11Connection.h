@@ -21,8 +21,18 @@ class X11Connection {
 
     [[nodiscard]] bool isOpen() const;
 
+    /// For what the questions below do not cover; never null, but of no use unless open.
+    [[nodiscard]] xcb_connection_t* handle() const { return connection_.get(); }
+    /// -1 without a server.
+    [[nodiscard]] int fileDescriptor() const {
+        return isOpen() ? xcb_get_file_descriptor(connection_.get()) : -1;
+    }
+
     /// The root window of the connection's screen; 0 without a server.
     [[nodiscard]] xcb_window_t root() const { return root_; }
+
+    /// XCB_ATOM_NONE without a server.
+    xcb_atom_t atom(const char* name);
 
     /// The bytes of a property of 8-bit items, whatever its type says; absent when the window lacks it or is
     /// gone. At most 64 KiB are read.
@@ -30,8 +40,9 @@ class X11Connection {
     /// The values of a property of 32-bit items, such as window identifiers and numbers. At most 16,384.
     [[nodiscard]] std::vector<std::uint32_t> numbers(xcb_window_t window, const char* property);
 
-    /// From now on `waitForPropertyChange` notices changes of the root window's properties.
-    void watchRootProperties();
+    /// Whether changes of the root window's properties come as events from now on. They pile up unless
+    /// someone takes them.
+    void watchRootProperties(bool isWanted);
     /// Waits until a watched property may have changed. False at the deadline, or when the server is gone.
     bool waitForPropertyChange(std::chrono::steady_clock::time_point deadline);
 
@@ -44,11 +55,23 @@ class X11Connection {
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
     };
 
-    xcb_atom_t atom(const char* name);
-
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     xcb_window_t root_ = 0;
     std::unordered_map<std::string, xcb_atom_t> atoms_;
+};
+
+/// Watches the root window's properties as long as it lives.
+class X11RootPropertyWatch {
+  public:
+    explicit X11RootPropertyWatch(X11Connection& connection) : connection_(connection) {
+        connection_.watchRootProperties(true);
+    }
+    ~X11RootPropertyWatch() { connection_.watchRootProperties(false); }
+    X11RootPropertyWatch(const X11RootPropertyWatch&) = delete;
+    X11RootPropertyWatch& operator=(const X11RootPropertyWatch&) = delete;
+
+  private:
+    X11Connection& connection_;
 };
 
 } // namespace tovrel

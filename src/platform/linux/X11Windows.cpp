@@ -8,6 +8,8 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/linux/XcbOwned.h"
+
 namespace tovrel {
 namespace {
 
@@ -34,9 +36,9 @@ std::pair<std::string, std::string> classParts(const std::string& property) {
 
 } // namespace
 
-X11Windows::X11Windows(const char* display) : connection_(display) {
-    connection_.watchRootProperties();
-}
+X11Windows::X11Windows(const char* display)
+    : display_(display == nullptr ? std::nullopt : std::optional<std::string>(display)),
+      connection_(display) {}
 
 xcb_window_t X11Windows::activeWindowIdentifier() {
     const auto active = connection_.numbers(connection_.root(), "_NET_ACTIVE_WINDOW");
@@ -44,12 +46,14 @@ xcb_window_t X11Windows::activeWindowIdentifier() {
 }
 
 std::optional<X11Window> X11Windows::activeWindow(std::chrono::steady_clock::time_point deadline) {
-    do {
-        if (const xcb_window_t active = activeWindowIdentifier(); active != 0) {
-            return describe(active);
-        }
-    } while (connection_.waitForPropertyChange(deadline));
-    return std::nullopt;
+    xcb_window_t active = activeWindowIdentifier();
+    if (active == 0) {
+        const X11RootPropertyWatch watch(connection_);
+        do {
+            active = activeWindowIdentifier();
+        } while (active == 0 && connection_.waitForPropertyChange(deadline));
+    }
+    return active == 0 ? std::nullopt : std::optional(describe(active));
 }
 
 std::vector<xcb_window_t> X11Windows::topmostFirst() {
@@ -81,14 +85,44 @@ std::optional<X11Window> X11Windows::frontWindow(std::int32_t processIdentifier)
     return std::nullopt;
 }
 
-bool X11Windows::activate(xcb_window_t window) {
-    // From a pager, which is obeyed whichever window has the user's attention; no time, no own window.
+std::optional<X11Rectangle> X11Windows::activeWindowFrame() {
+    const xcb_window_t window = activeWindowIdentifier();
+    xcb_connection_t* connection = connection_.handle();
+    if (window == 0) {
+        return std::nullopt;
+    }
+    const auto sizeCookie = xcb_get_geometry(connection, window);
+    const auto placeCookie = xcb_translate_coordinates(connection, window, connection_.root(), 0, 0);
+    xcb_generic_error_t* sizeError = nullptr;
+    xcb_generic_error_t* placeError = nullptr;
+    const XcbOwned<xcb_get_geometry_reply_t> size(xcb_get_geometry_reply(connection, sizeCookie, &sizeError));
+    const XcbOwned<xcb_translate_coordinates_reply_t> place(
+        xcb_translate_coordinates_reply(connection, placeCookie, &placeError));
+    const XcbOwned<xcb_generic_error_t> ownedSizeError(sizeError); // The window may be gone by now.
+    const XcbOwned<xcb_generic_error_t> ownedPlaceError(placeError);
+    if (!size || !place) {
+        return std::nullopt;
+    }
+    X11Rectangle frame{place->dst_x, place->dst_y, size->width, size->height};
+    // Left, right, top, bottom.
+    if (const auto extents = connection_.numbers(window, "_NET_FRAME_EXTENTS"); extents.size() == 4) {
+        frame.x -= static_cast<std::int32_t>(extents[0]);
+        frame.y -= static_cast<std::int32_t>(extents[2]);
+        frame.width += static_cast<std::int32_t>(extents[0] + extents[1]);
+        frame.height += static_cast<std::int32_t>(extents[2] + extents[3]);
+    }
+    return frame;
+}
+
+bool X11Windows::activate(xcb_window_t window, xcb_timestamp_t userTime) {
+    // From a pager, which is obeyed whichever window has the user's attention; no own window.
     constexpr std::uint32_t fromPager = 2;
-    return connection_.sendToWindowManager(window, "_NET_ACTIVE_WINDOW", {fromPager, XCB_CURRENT_TIME, 0});
+    return connection_.sendToWindowManager(window, "_NET_ACTIVE_WINDOW", {fromPager, userTime, 0});
 }
 
 bool X11Windows::waitUntilActive(std::int32_t processIdentifier,
                                  std::chrono::steady_clock::time_point deadline) {
+    const X11RootPropertyWatch watch(connection_);
     do {
         const xcb_window_t active = activeWindowIdentifier();
         if (active != 0 && processOf(active) == processIdentifier) {

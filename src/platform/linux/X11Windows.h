@@ -21,12 +21,24 @@ struct X11Window {
     std::string applicationIdentifier;             ///< _GTK_APPLICATION_ID, else _KDE_NET_WM_DESKTOP_FILE.
 };
 
+/// A rectangle of an X screen, in physical pixels from the top left corner of the root window.
+struct X11Rectangle {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    friend bool operator==(const X11Rectangle&, const X11Rectangle&) = default;
+};
+
 /// The application windows of an X display, read anew at each question. Without a display there are none.
 class X11Windows {
   public:
     explicit X11Windows(const char* display = nullptr);
 
     [[nodiscard]] bool isAvailable() const { return connection_.isOpen(); }
+    /// As given at construction, for further connections to the same server.
+    [[nodiscard]] const char* display() const { return display_ ? display_->c_str() : nullptr; }
 
     /// The active window. While the focus changes the desktop names none for a moment, which is waited out
     /// until the deadline.
@@ -37,8 +49,16 @@ class X11Windows {
     /// The active window of this process if it has it, else its topmost.
     [[nodiscard]] std::optional<X11Window> frontWindow(std::int32_t processIdentifier);
 
-    /// Asks the window manager to activate the window.
-    bool activate(xcb_window_t window);
+    [[nodiscard]] X11Window describe(xcb_window_t window);
+
+    /// Where the active window is, with what the window manager draws around it (_NET_FRAME_EXTENTS); absent
+    /// when no window is active.
+    [[nodiscard]] std::optional<X11Rectangle> activeWindowFrame();
+
+    /// Asks the window manager to activate the window. `userTime` is the server's time of the user's action
+    /// that this follows from; some managers refuse requests that tell none. False when it could not be
+    /// asked.
+    bool activate(xcb_window_t window, xcb_timestamp_t userTime = XCB_CURRENT_TIME);
     /// Waits until a window of this process is active; whether one is.
     bool waitUntilActive(std::int32_t processIdentifier, std::chrono::steady_clock::time_point deadline);
 
@@ -49,8 +69,8 @@ class X11Windows {
     [[nodiscard]] xcb_window_t activeWindowIdentifier();
     [[nodiscard]] std::vector<xcb_window_t> topmostFirst();
     [[nodiscard]] std::optional<std::int32_t> processOf(xcb_window_t window);
-    [[nodiscard]] X11Window describe(xcb_window_t window);
 
+    std::optional<std::string> display_;
     X11Connection connection_;
 };
 

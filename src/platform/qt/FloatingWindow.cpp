@@ -48,6 +48,12 @@ FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, co
     view_.create();
     activation_.setSingleShot(true);
     activation_.setInterval(activationPatience);
+    // Once granted, the focus may have gone on to where the user wants it.
+    QObject::connect(&view_, &QWindow::activeChanged, &activation_, [this] {
+        if (view_.isActive()) {
+            activation_.stop();
+        }
+    });
     QObject::connect(&activation_, &QTimer::timeout, &view_, [this] {
         if (view_.isVisible() && !view_.isActive()) {
             windowSystem_.activate(view_);

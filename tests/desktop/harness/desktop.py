@@ -6,7 +6,7 @@ import shutil
 import tempfile
 from pathlib import Path
 
-from .accessibility_bus import start_accessibility_bus
+from .accessibility_bus import start_accessibility_bus, switch_accessibility
 from .application import Application
 from .display import start_display
 from .interruption import raise_on_ending_signals, undisturbed
@@ -87,6 +87,9 @@ class Desktop:
         self._processes.end(application.process)
         wait_until(lambda: application.window not in self.windows.of_process(application.pid),
                    "the application's window to go")
+
+    def switch_accessibility(self, is_on):
+        switch_accessibility(self.environment["DBUS_SESSION_BUS_ADDRESS"], is_on)
 
     def take_picture(self, path):
         take_picture(self.environment, path)

@@ -31,6 +31,18 @@ class Windows:
         self._xdotool("windowsize", "--sync", str(window), str(width), str(height))
         self._xdotool("windowmove", str(window), str(x), str(y))
 
+    def geometry(self, window):
+        """Left, top, width and height in pixels."""
+        lines = self._run("xwininfo", "-id", str(window)).stdout.splitlines()
+        values = dict(line.strip().split(":", 1) for line in lines if ":" in line)
+        return tuple(int(values[name]) for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width",
+                                                    "Height"))
+
+    def stacking(self):
+        """The windows that the window manager knows, the lowest first."""
+        answer = self._run("xprop", "-root", "_NET_CLIENT_LIST_STACKING").stdout
+        return [int(number, 16) for number in answer.rpartition("#")[2].split(",") if number.strip()]
+
     def minimize(self, window):
         self._xdotool("windowminimize", str(window))
 

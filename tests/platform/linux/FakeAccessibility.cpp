@@ -99,6 +99,11 @@ void FakeAccessibility::answer(sd_bus_message* call) {
         sd_bus_reply_method_return(call, "s", address().c_str());
     } else if (member == "Get") {
         sd_bus_reply_method_return(call, "v", "b", isEnabled ? 1 : 0);
+    } else if (member == "Set") {
+        int value = 0;
+        sd_bus_message_read(call, "ssv", nullptr, nullptr, "b", &value);
+        isEnabled = value != 0;
+        sd_bus_reply_method_return(call, "");
     } else {
         const std::lock_guard lock(mutex_);
         std::vector<std::pair<std::string, std::string>> objects;

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "KeyboardShortcuts/SymbolicText.h"
+#include "model/Shortcut.h"
+#include "support/Text.h"
+#include "support/TextServices.h"
+
+namespace tovrel {
+
+/// A global shortcut spelled with the names that keys have on this desktop's keyboards: "Ctrl+Shift+P".
+[[nodiscard]] Text shortcutForPeople(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode,
+                                     const TextServices& textServices);
+
+} // namespace tovrel

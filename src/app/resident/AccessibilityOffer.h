@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "platform/UserInterface.h"
+#include "platform/linux/ToolkitAccessibility.h"
+
+namespace tovrel {
+
+/// What stands on this desktop for the system's privacy settings: asks whether toolkits shall publish their
+/// menus, says what that changes and which applications must be restarted to take notice, and can undo it.
+class AccessibilityOffer {
+  public:
+    /// The address that opens it, as a custom command or the settings have it.
+    static constexpr std::string_view address =
+        "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
+
+    AccessibilityOffer(ToolkitAccessibility& accessibility, UserInterface& userInterface)
+        : accessibility_(&accessibility), userInterface_(&userInterface) {}
+
+    /// Returns once the user has answered.
+    void show();
+
+  private:
+    void offerToTurnOn();
+    void offerToTurnOff();
+
+    ToolkitAccessibility* accessibility_;
+    UserInterface* userInterface_;
+};
+
+} // namespace tovrel

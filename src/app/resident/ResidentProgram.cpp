@@ -1,0 +1,132 @@
+#include "app/resident/ResidentProgram.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <filesystem>
+#include <utility>
+
+#include "app/DBusNames.h"
+#include "app/ErrorLine.h"
+#include "app/ShortcutForPeople.h"
+#include "platform/linux/PreferencesFile.h"
+#include "platform/linux/VirtualKeyCodes.h"
+
+namespace tovrel {
+namespace {
+
+std::function<std::optional<Text>(std::int32_t)> windowTitles(std::shared_ptr<X11Windows> windows) {
+    return [windows = std::move(windows)](std::int32_t processIdentifier) -> std::optional<Text> {
+        const auto window = windows->frontWindow(processIdentifier);
+        return window ? std::optional(window->title) : std::nullopt;
+    };
+}
+
+/// X servers number the keys of the Linux input layer from 8 on.
+std::optional<std::uint32_t> keyCodeFromEvdev(std::uint32_t evdev) {
+    constexpr std::uint32_t firstKey = 8;
+    return virtualKeyCodeOfX11(evdev + firstKey);
+}
+
+bool fileExists(const Text& path) {
+    std::error_code error;
+    return std::filesystem::exists(path.utf8(), error);
+}
+
+} // namespace
+
+ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, const Console& console)
+    : console_(&console), preferences_(preferencesFile(invocation.preferencesFile), {},
+                                       SqlitePreferencesDomain::interactivePatience),
+      textServices_(invocation.localeIdentifier), windows_(std::make_shared<X11Windows>()),
+      accessibilityBus_(
+          std::make_shared<AtspiBus>([windows = windows_] { return windows->accessibilityBusAddress(); })),
+      workspace_(std::make_shared<LinuxWorkspace>(
+          windows_, accessibilityBus_, std::make_shared<DesktopEntries>(DesktopEntries::ofEnvironment()))),
+      accessibility_(accessibilityBus_, windowTitles(windows_), AtspiLimits()),
+      toolkitAccessibility_(accessibilityBus_, workspace_),
+      hotKeys_(queue_, [this] { return keyDestination(); }), userInterface_(views_, windowSystem()),
+      accessibilityOffer_(toolkitAccessibility_, userInterface_),
+      shortcuts_(preferences_, hotKeys_, userInterface_, textServices_, console.output),
+      coordinator_(std::make_shared<AppCoordinator>(platform())),
+      service_(
+          coordinator_, [this] { return shortcutForPeople(); }, [] { QApplication::quit(); }),
+      activationEvents_(workspace_->activationEvents()),
+      // That the user has come back to an application is older than the hot key pressed there.
+      hotKeyEvents_(hotKeys_, &workspace_->activationEvents()) {}
+
+ResidentProgram::~ResidentProgram() {
+    // Calls that the bus still delivers must not find what is half gone.
+    QDBusConnection::sessionBus().unregisterObject(dbus_names::objectPath);
+}
+
+bool ResidentProgram::start() {
+    if (!service_.registerOnSessionBus()) {
+        if (QDBusConnection::sessionBus().isConnected()) {
+            return false;
+        }
+        printErrorLine(console_->error,
+                       "there is no session bus: only the shortcut and the status bar reach this program");
+    }
+    coordinator_->start();
+    queue_.post([weak = std::weak_ptr(coordinator_)] {
+        if (const auto coordinator = weak.lock()) {
+            coordinator->warmUp();
+        }
+    });
+    return true;
+}
+
+Platform ResidentProgram::platform() {
+    return {.accessibility = accessibility_,
+            .workspace = *workspace_,
+            .hotKeyCenter = hotKeys_,
+            .keyEventPoster = keyPoster_,
+            .mainQueue = queue_,
+            .processRunner = processRunner_,
+            .userInterface = userInterface_,
+            .preferences = preferences_,
+            .shortcuts = shortcuts_,
+            .textServices = textServices_,
+            .ownBundleIdentifier = Text(dbus_names::service),
+            .makePalettePanel =
+                [this](PaletteViewContext context) {
+                    auto panel = std::make_unique<QtPalettePanel>(std::move(context), textServices_, views_,
+                                                                  windowSystem(), keyCodeFromEvdev);
+                    panel_ = panel.get();
+                    return panel;
+                },
+            .now = currentTime,
+            .openURL = [this](const Url& url) { openURL(url); },
+            .fileExists = fileExists,
+            .showAccessibilityOnboarding = [this] { accessibilityOffer_.show(); }};
+}
+
+WindowSystem ResidentProgram::windowSystem() {
+    return makeWindowSystem([this] { return hotKeys_.lastPressTime(); });
+}
+
+KeyDestination ResidentProgram::keyDestination() const {
+    if (panel_ == nullptr) {
+        return {};
+    }
+    return {static_cast<xcb_window_t>(panel_->window().winId()), panel_->isVisible()};
+}
+
+void ResidentProgram::openURL(const Url& url) {
+    if (url.text() == Text(AccessibilityOffer::address)) {
+        accessibilityOffer_.show();
+    } else {
+        workspace_->open(url.text());
+    }
+}
+
+Text ResidentProgram::shortcutForPeople() {
+    const auto shortcut = coordinator_->toggleShortcut();
+    return shortcut ? tovrel::shortcutForPeople(
+                          *shortcut,
+                          [this](std::uint32_t keyCode) { return hotKeys_.characterForKeyCode(keyCode); },
+                          textServices_)
+                    : Text();
+}
+
+} // namespace tovrel

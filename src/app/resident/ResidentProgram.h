@@ -1,0 +1,74 @@
+#pragma once
+
+#include <memory>
+
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "app/AppCoordinator.h"
+#include "app/CommandLine.h"
+#include "app/Console.h"
+#include "app/resident/AccessibilityOffer.h"
+#include "app/resident/DBusService.h"
+#include "app/resident/EventSourceWatch.h"
+#include "platform/linux/AtspiBus.h"
+#include "platform/linux/DesktopEntries.h"
+#include "platform/linux/LinuxAccessibility.h"
+#include "platform/linux/LinuxHotKeyCenter.h"
+#include "platform/linux/LinuxKeyEventPoster.h"
+#include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/PosixProcessRunner.h"
+#include "platform/linux/SqlitePreferencesDomain.h"
+#include "platform/linux/ToolkitAccessibility.h"
+#include "platform/linux/X11Windows.h"
+#include "platform/qt/QtMainQueue.h"
+#include "platform/qt/QtPalettePanel.h"
+#include "platform/qt/QtUserInterface.h"
+#include "platform/qt/ViewEngine.h"
+#include "support/TextServices.h"
+
+namespace tovrel {
+
+/// The resident program put together: the platform of an X11 desktop, the coordinator on it, and the service
+/// on the session bus. Needs the application object, and is gone before that is.
+class ResidentProgram {
+  public:
+    ResidentProgram(const command_line::Invocation& invocation, const Console& console);
+    ~ResidentProgram();
+    ResidentProgram(const ResidentProgram&) = delete;
+    ResidentProgram& operator=(const ResidentProgram&) = delete;
+
+    /// False when another process has become the resident program meanwhile. Without a session bus it runs
+    /// all the same and says so.
+    [[nodiscard]] bool start();
+
+  private:
+    [[nodiscard]] Platform platform();
+    [[nodiscard]] WindowSystem windowSystem();
+    [[nodiscard]] KeyDestination keyDestination() const;
+    void openURL(const Url& url);
+    [[nodiscard]] Text shortcutForPeople();
+
+    // In the order in which they need each other; they end in the opposite one.
+    const Console* console_;
+    SqlitePreferencesDomain preferences_;
+    TextServices textServices_;
+    std::shared_ptr<X11Windows> windows_;
+    std::shared_ptr<AtspiBus> accessibilityBus_;
+    std::shared_ptr<LinuxWorkspace> workspace_;
+    LinuxAccessibility accessibility_;
+    ToolkitAccessibility toolkitAccessibility_;
+    QtMainQueue queue_;
+    LinuxHotKeyCenter hotKeys_;
+    LinuxKeyEventPoster keyPoster_;
+    PosixProcessRunner processRunner_;
+    ViewEngine views_;
+    QtUserInterface userInterface_;
+    AccessibilityOffer accessibilityOffer_;
+    KeyboardShortcuts shortcuts_;
+    QtPalettePanel* panel_ = nullptr; ///< Owned by the coordinator.
+    std::shared_ptr<AppCoordinator> coordinator_;
+    DBusService service_;
+    EventSourceWatch activationEvents_;
+    EventSourceWatch hotKeyEvents_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,360 @@
+#include "platform/linux/LinuxHotKeyCenter.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/linux/VirtualKeyCodes.h"
+
+namespace tovrel {
+namespace {
+
+/// The bits of an event's state that are modifiers; the rest are pointer buttons and the layout's group.
+constexpr std::uint16_t modifierBits = 0xFF;
+
+} // namespace
+
+LinuxHotKeyCenter::LinuxHotKeyCenter(MainQueue& queue, DestinationOfKeys destination, const char* display)
+    : queue_(queue), destination_(std::move(destination)), connection_(display), xkb_(connection_.handle()),
+      rawKeys_(connection_.handle(), connection_.root()), focusWait_(connection_) {
+    xkb_.useDetectableAutoRepeat();
+    xkb_.selectKeyboardEvents();
+    keyMap_ = X11KeyMap::read(connection_.handle());
+}
+
+std::variant<HotKeyHandle, HotKeyError> LinuxHotKeyCenter::registerHotKey(std::uint32_t keyCode,
+                                                                          std::uint32_t carbonModifiers,
+                                                                          HotKeyIdentifier identifier) {
+    Registration registration;
+    registration.identifier = identifier;
+    registration.keyCode = keyCode;
+    registration.modifiers = modifierFlags(carbonModifiers);
+    auto grab = grabFor(keyCode, registration.modifiers);
+    if (const HotKeyError* error = std::get_if<HotKeyError>(&grab)) {
+        return *error;
+    }
+    registration.grab = std::get<X11HotKeyGrab>(std::move(grab));
+    if (std::any_of(registrations_.begin(), registrations_.end(),
+                    [&](const Registration& other) { return other.grab == registration.grab; })) {
+        return hot_key_errors::alreadyRegistered;
+    }
+    if (const auto refusal = registration.grab.take(connection_.handle(), connection_.root())) {
+        waitForServer();
+        return HotKeyError{*refusal};
+    }
+    registration.isTaken = true;
+    registration.handle = ++lastHandle_;
+    const HotKeyHandle handle = registration.handle;
+    // Releases are selected before the question, so that none is missed between the two.
+    registration.state = KeyState::heldBefore;
+    registrations_.push_back(std::move(registration));
+    selectRawKeys();
+    reportKeysFoundUp();
+    dispatchSoonWhatCameAlong();
+    return connection_.isOpen() ? std::variant<HotKeyHandle, HotKeyError>(handle) : hot_key_errors::noServer;
+}
+
+void LinuxHotKeyCenter::unregisterHotKey(HotKeyHandle handle) {
+    const Registration* found = find(handle);
+    if (found == nullptr) {
+        return;
+    }
+    found->grab.giveBack(connection_.handle(), connection_.root());
+    std::erase_if(registrations_,
+                  [&](const Registration& registration) { return registration.handle == handle; });
+    selectRawKeys();
+    if (heldFor_ == handle) {
+        letGo();
+    }
+    waitForServer();
+}
+
+void LinuxHotKeyCenter::setHotKeyHandler(HotKeyHandler handler) {
+    handler_ = std::move(handler);
+}
+
+void LinuxHotKeyCenter::setRawKeyHandler(RawKeyHandler handler) {
+    rawHandler_ = std::move(handler);
+    xkb_.selectStateEvents(rawHandler_ != nullptr);
+    selectRawKeys();
+    if (rawHandler_) {
+        keyboardState_ = xkb_.state().value_or(XkbExtension::State());
+        dispatchSoonWhatCameAlong();
+    }
+    xcb_flush(connection_.handle());
+}
+
+std::vector<Shortcut> LinuxHotKeyCenter::systemShortcuts() {
+    return {};
+}
+
+std::optional<Text> LinuxHotKeyCenter::characterForKeyCode(std::uint32_t keyCode) {
+    const auto key = x11KeyCode(keyCode);
+    if (!key || !connection_.isOpen()) {
+        return std::nullopt;
+    }
+    auto character = text(*key, xkb_.state().value_or(XkbExtension::State()).group, false);
+    dispatchSoonWhatCameAlong();
+    return character;
+}
+
+void LinuxHotKeyCenter::dispatch() {
+    for (;;) {
+        if (const Event event = nextEvent()) {
+            handle(*event);
+        } else if (std::exchange(hasKeyboardChanged_, false)) {
+            adoptKeyboard();
+        } else {
+            break;
+        }
+    }
+    xcb_flush(connection_.handle());
+}
+
+std::variant<X11HotKeyGrab, HotKeyError> LinuxHotKeyCenter::grabFor(std::uint32_t keyCode,
+                                                                    ModifierFlags modifiers) const {
+    if (!keyMap_ || !connection_.isOpen() || !rawKeys_.isAvailable()) {
+        return hot_key_errors::noServer;
+    }
+    const auto key = x11KeyCode(keyCode);
+    if (!key || !keyMap_->hasKey(*key)) {
+        return hot_key_errors::noSuchKey;
+    }
+    const auto x11Modifiers = keyMap_->modifiersFor(modifiers);
+    if (!x11Modifiers) {
+        return hot_key_errors::noSuchModifier;
+    }
+    return X11HotKeyGrab{*key, *x11Modifiers, keyMap_->lockCombinations()};
+}
+
+LinuxHotKeyCenter::Registration* LinuxHotKeyCenter::find(HotKeyHandle handle) {
+    const auto found =
+        std::find_if(registrations_.begin(), registrations_.end(),
+                     [&](const Registration& registration) { return registration.handle == handle; });
+    return found == registrations_.end() ? nullptr : &*found;
+}
+
+LinuxHotKeyCenter::Event LinuxHotKeyCenter::nextEvent() {
+    if (cameAlong_.empty()) {
+        return Event(xcb_poll_for_event(connection_.handle()));
+    }
+    Event event = std::move(cameAlong_.front());
+    cameAlong_.pop_front();
+    return event;
+}
+
+void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event) {
+    if (const auto key = rawKeys_.keyOf(event)) {
+        handleRawKey(*key);
+    } else if (const auto state = xkb_.stateOf(event)) {
+        keyboardState_ = *state;
+    } else if (xkb_.isKeyboardChange(event)) {
+        hasKeyboardChanged_ = true;
+    } else {
+        switch (event.response_type & 0x7FU) {
+        case XCB_KEY_PRESS:
+            handlePress(reinterpret_cast<const xcb_key_press_event_t&>(event));
+            break;
+        case XCB_FOCUS_IN:
+        case XCB_FOCUS_OUT:
+        case XCB_PROPERTY_NOTIFY:
+            if (focusWait_.isWaiting() && focusWait_.isReached()) {
+                letGo();
+            }
+            break;
+        case XCB_MAPPING_NOTIFY:
+            hasKeyboardChanged_ = true;
+            break;
+        default: // Errors among them: a window that is gone never gets the focus.
+            break;
+        }
+    }
+}
+
+void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event) {
+    const std::uint64_t hold = ++lastHold_;
+    currentHold_ = hold;
+    lastPressTime_ = event.time;
+    const auto pressed =
+        std::find_if(registrations_.begin(), registrations_.end(), [&](const Registration& registration) {
+            return registration.grab.matches(event.detail, event.state & modifierBits);
+        });
+    if (pressed == registrations_.end() || pressed->state == KeyState::heldBefore) {
+        letGo();
+        return;
+    }
+    heldFor_ = pressed->handle;
+    const HotKeyIdentifier identifier = pressed->identifier;
+    if (pressed->state == KeyState::down) { // The key repeats itself: nothing will change the focus.
+        ungrabKeyboard();
+        report(identifier, HotKeyEventKind::pressed);
+        reportKeysFoundUp();
+        return;
+    }
+    pressed->state = KeyState::down;
+    selectRawKeys();
+    holdAtFocusedWindow(event.time);
+    letGoAfter(longestHold);
+    report(identifier, HotKeyEventKind::pressed);
+    if (currentHold_ != hold) {
+        return; // The handler has unregistered the key, or taken too long.
+    }
+    focusWait_.begin(destination_ ? destination_() : KeyDestination());
+    if (focusWait_.isReached()) {
+        letGo();
+    } else {
+        letGoAfter(longestFocusWait);
+    }
+}
+
+void LinuxHotKeyCenter::handleRawKey(const X11RawKeys::Key& key) {
+    const auto keyCode = virtualKeyCodeOfX11(key.keyCode);
+    if (rawHandler_ && keyCode && keyMap_) {
+        const RawKeyHandler handler = rawHandler_; // it may replace itself
+        KeyEvent event;
+        event.type = key.isPress ? KeyEventType::keyDown : KeyEventType::keyUp;
+        event.keyCode = *keyCode;
+        event.modifierFlags = keyMap_->flagsFor(keyboardState_.modifiers);
+        event.charactersIgnoringModifiers =
+            text(static_cast<xcb_keycode_t>(key.keyCode), keyboardState_.group,
+                 (event.modifierFlags & modifier_flags::shift) != 0);
+        handler(event);
+    }
+    if (!key.isPress) {
+        std::vector<HotKeyHandle> handles;
+        for (const Registration& registration : registrations_) {
+            if (registration.grab.key == key.keyCode) {
+                handles.push_back(registration.handle);
+            }
+        }
+        std::for_each(handles.begin(), handles.end(), [this](HotKeyHandle handle) { released(handle); });
+    }
+}
+
+void LinuxHotKeyCenter::released(HotKeyHandle handle) {
+    Registration* registration = find(handle);
+    if (registration == nullptr || registration->state == KeyState::up) {
+        return;
+    }
+    const KeyState before = std::exchange(registration->state, KeyState::up);
+    selectRawKeys();
+    if (before == KeyState::down) {
+        report(registration->identifier, HotKeyEventKind::released);
+    }
+}
+
+void LinuxHotKeyCenter::report(HotKeyIdentifier identifier, HotKeyEventKind kind) {
+    const HotKeyHandler handler = handler_; // it may replace itself
+    if (handler) {
+        handler({identifier, kind});
+    }
+}
+
+void LinuxHotKeyCenter::holdAtFocusedWindow(xcb_timestamp_t time) {
+    xcb_connection_t* connection = connection_.handle();
+    const XcbOwned<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    const bool isWindow =
+        focus && focus->focus > XCB_INPUT_FOCUS_POINTER_ROOT && focus->focus != connection_.root();
+    // The server ends a grab whose window disappears, as the panel's is about to.
+    if (!isWindow || (destination_ && destination_().window == focus->focus)) {
+        return;
+    }
+    const XcbOwned<xcb_grab_keyboard_reply_t> held(xcb_grab_keyboard_reply(
+        connection,
+        xcb_grab_keyboard(connection, 0, focus->focus, time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC),
+        nullptr)); // Refused, as by a window that is gone meanwhile: then it stays as it is.
+}
+
+void LinuxHotKeyCenter::letGoAfter(std::chrono::milliseconds limit) {
+    queue_.postAfter(limit, [this, life = std::weak_ptr(life_), hold = currentHold_] {
+        if (!life.expired() && currentHold_ == hold) {
+            letGo();
+            dispatch();
+        }
+    });
+}
+
+void LinuxHotKeyCenter::letGo() {
+    ungrabKeyboard();
+    reportKeysFoundUp();
+}
+
+void LinuxHotKeyCenter::ungrabKeyboard() {
+    currentHold_ = 0;
+    heldFor_ = 0;
+    focusWait_.end();
+    // This alone, exactly once a press: what the server has kept is delivered at once, up to the next press
+    // of a hot key, which must find the keyboard held again.
+    xcb_ungrab_keyboard(connection_.handle(), XCB_CURRENT_TIME);
+    xcb_flush(connection_.handle());
+}
+
+void LinuxHotKeyCenter::reportKeysFoundUp() {
+    const auto down = keysDown(connection_.handle());
+    if (!down) {
+        return;
+    }
+    std::vector<HotKeyHandle> handles;
+    for (const Registration& registration : registrations_) {
+        if (registration.state != KeyState::up && !down->test(registration.grab.key)) {
+            handles.push_back(registration.handle);
+        }
+    }
+    std::for_each(handles.begin(), handles.end(), [this](HotKeyHandle handle) { released(handle); });
+}
+
+void LinuxHotKeyCenter::adoptKeyboard() {
+    layout_.reset();
+    if (auto keyMap = X11KeyMap::read(connection_.handle())) {
+        keyMap_ = std::move(keyMap);
+    }
+    for (Registration& registration : registrations_) {
+        auto grab = grabFor(registration.keyCode, registration.modifiers);
+        const auto* wanted = std::get_if<X11HotKeyGrab>(&grab);
+        if (registration.isTaken && wanted != nullptr && *wanted == registration.grab) {
+            continue;
+        }
+        registration.grab.giveBack(connection_.handle(), connection_.root());
+        registration.isTaken = false;
+        if (wanted != nullptr) {
+            registration.grab = *wanted;
+            registration.isTaken = !wanted->take(connection_.handle(), connection_.root());
+        }
+    }
+}
+
+void LinuxHotKeyCenter::selectRawKeys() {
+    const bool isAnyDown =
+        std::any_of(registrations_.begin(), registrations_.end(),
+                    [](const Registration& registration) { return registration.state != KeyState::up; });
+    rawKeys_.select(rawHandler_ != nullptr, rawHandler_ != nullptr || isAnyDown);
+}
+
+void LinuxHotKeyCenter::waitForServer() {
+    // Any question will do: it is answered after what was asked before.
+    static_cast<void>(keysDown(connection_.handle()));
+    dispatchSoonWhatCameAlong();
+}
+
+void LinuxHotKeyCenter::dispatchSoonWhatCameAlong() {
+    while (Event event{xcb_poll_for_queued_event(connection_.handle())}) {
+        cameAlong_.push_back(std::move(event));
+    }
+    if (!cameAlong_.empty()) {
+        queue_.post([this, life = std::weak_ptr(life_)] {
+            if (!life.expired()) {
+                dispatch();
+            }
+        });
+    }
+    xcb_flush(connection_.handle());
+}
+
+std::optional<Text> LinuxHotKeyCenter::text(xcb_keycode_t key, std::uint32_t group, bool withShift) {
+    if (!layout_) {
+        layout_.emplace(connection_.handle());
+    }
+    return layout_->text(key, group, withShift);
+}
+
+} // namespace tovrel

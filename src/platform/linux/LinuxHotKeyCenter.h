@@ -1,0 +1,150 @@
+#pragma once
+
+#include <chrono>
+#include <deque>
+#include <memory>
+#include <vector>
+
+#include "platform/HotKeyCenter.h"
+#include "platform/MainQueue.h"
+#include "platform/linux/EventSource.h"
+#include "platform/linux/X11Connection.h"
+#include "platform/linux/X11FocusWait.h"
+#include "platform/linux/X11HotKeyGrab.h"
+#include "platform/linux/X11KeyMap.h"
+#include "platform/linux/X11Layout.h"
+#include "platform/linux/X11RawKeys.h"
+#include "platform/linux/XcbOwned.h"
+#include "platform/linux/XkbExtension.h"
+
+namespace tovrel {
+
+/// Why a hot key was refused, beside the error codes of the X protocol (10 BadAccess: another client has it).
+namespace hot_key_errors {
+inline constexpr HotKeyError noServer = -1;          ///< No X server, or one without XI 2.1.
+inline constexpr HotKeyError noSuchKey = -2;         ///< The keyboard has no key of that code.
+inline constexpr HotKeyError noSuchModifier = -3;    ///< The keyboard has no key for one of the modifiers.
+inline constexpr HotKeyError alreadyRegistered = -4; ///< This object has the combination already.
+} // namespace hot_key_errors
+
+/// Hot keys of an X11 desktop, on a connection of their own.
+///
+/// No keystroke is lost between a hot key and the window it opens: from the instant the hot key fires the
+/// server keeps every later key event, while the handler runs and until the keyboard focus is where the
+/// handler has left it to go. Then the keyboard is let go and the server delivers what it has kept, in order
+/// and as if it were typed now. The handler must be brief: while it runs, no program
+/// gets a key.
+///
+/// While a hot key is down its release is watched for outside of any grab, so it is seen whichever window the
+/// key goes to and in whatever order the keys come up. A held key goes on being reported pressed. A key that
+/// is down already when its combination is registered counts from its next press on.
+///
+/// Command is Control, Control is Super, Option is Alt. The Function modifier is left out of account, because
+/// keyboards keep it to themselves; Caps Lock, Num Lock and Scroll Lock may be on or off.
+class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
+  public:
+    /// Asked before a press is reported and after its handler has returned.
+    using DestinationOfKeys = std::function<KeyDestination()>;
+
+    /// The longest the keyboard stays held after a handler has returned, for a window that never gets the
+    /// focus. Where it was measured the focus arrived after 3 to 36 ms.
+    static constexpr std::chrono::milliseconds longestFocusWait{300};
+    /// The longest it stays held in all, should the handler run an event loop of its own.
+    static constexpr std::chrono::milliseconds longestHold{1000};
+
+    /// Connects to `display`, or to $DISPLAY when null; without a server every registration is refused.
+    LinuxHotKeyCenter(MainQueue& queue, DestinationOfKeys destination, const char* display = nullptr);
+
+    [[nodiscard]] std::variant<HotKeyHandle, HotKeyError>
+    registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
+                   HotKeyIdentifier identifier) override;
+    /// The release of a key that is down is not reported any more. When this returns, the server knows.
+    void unregisterHotKey(HotKeyHandle handle) override;
+    void setHotKeyHandler(HotKeyHandler handler) override;
+    /// The keys are those typed anywhere while the handler is set; they reach their window as well.
+    void setRawKeyHandler(RawKeyHandler handler) override;
+    /// None: an X server keeps no list of them, and the grabs of others show only when one's own are refused.
+    [[nodiscard]] std::vector<Shortcut> systemShortcuts() override;
+    [[nodiscard]] std::optional<Text> characterForKeyCode(std::uint32_t keyCode) override;
+
+    [[nodiscard]] int fileDescriptor() const override { return connection_.fileDescriptor(); }
+    void dispatch() override;
+
+    /// The server's time of the last press of a hot key, for requests that must tell by which action of the
+    /// user they were caused; 0 before the first.
+    [[nodiscard]] xcb_timestamp_t lastPressTime() const { return lastPressTime_; }
+
+  private:
+    using Event = XcbOwned<xcb_generic_event_t>;
+
+    enum class KeyState {
+        up,
+        down,
+        heldBefore, ///< Since before it was registered.
+    };
+    struct Registration {
+        HotKeyHandle handle = 0;
+        HotKeyIdentifier identifier;
+        std::uint32_t keyCode = 0;
+        ModifierFlags modifiers = 0;
+        X11HotKeyGrab grab;
+        bool isTaken = false; ///< False only if the keyboard has changed and the grab was refused since.
+        KeyState state = KeyState::up;
+    };
+
+    /// What the keyboard makes of a combination at present.
+    [[nodiscard]] std::variant<X11HotKeyGrab, HotKeyError> grabFor(std::uint32_t keyCode,
+                                                                   ModifierFlags modifiers) const;
+    [[nodiscard]] Registration* find(HotKeyHandle handle);
+
+    [[nodiscard]] Event nextEvent();
+    void handle(const xcb_generic_event_t& event);
+    void handlePress(const xcb_key_press_event_t& event);
+    void handleRawKey(const X11RawKeys::Key& key);
+    void released(HotKeyHandle handle);
+    void report(HotKeyIdentifier identifier, HotKeyEventKind kind);
+
+    /// The grab of a hot key lies on the root window, so the front window is told that it has lost the focus,
+    /// and applications disable what needs it: Mousepad its Cut, Copy, Paste and Select All, before anyone
+    /// could read its menus. Moved to the window that has the focus anyway, the grab gives it back.
+    void holdAtFocusedWindow(xcb_timestamp_t time);
+    void letGoAfter(std::chrono::milliseconds limit);
+    void letGo();
+    void ungrabKeyboard();
+    /// Reports hot keys that came up while the server kept the events.
+    void reportKeysFoundUp();
+
+    void adoptKeyboard();
+    void selectRawKeys();
+    /// Returns when the server has done everything that it was asked.
+    void waitForServer();
+    /// To be called after questions to the server outside of `dispatch`: events that arrived with the answers
+    /// make the descriptor readable no more.
+    void dispatchSoonWhatCameAlong();
+    [[nodiscard]] std::optional<Text> text(xcb_keycode_t key, std::uint32_t group, bool withShift);
+
+    MainQueue& queue_;
+    DestinationOfKeys destination_;
+    X11Connection connection_;
+    XkbExtension xkb_;
+    X11RawKeys rawKeys_;
+    X11FocusWait focusWait_;
+    std::optional<X11KeyMap> keyMap_;
+    std::optional<X11Layout> layout_; ///< Read when first needed.
+    bool hasKeyboardChanged_ = false;
+    std::deque<Event> cameAlong_;
+
+    std::vector<Registration> registrations_;
+    HotKeyHandle lastHandle_ = 0;
+    HotKeyHandler handler_;
+    RawKeyHandler rawHandler_;
+    XkbExtension::State keyboardState_; ///< Kept up to date while there is a raw handler.
+
+    std::uint64_t lastHold_ = 0;
+    std::uint64_t currentHold_ = 0; ///< 0 while the keyboard is free.
+    HotKeyHandle heldFor_ = 0;
+    xcb_timestamp_t lastPressTime_ = 0;
+    std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true); ///< For tasks that outlive this.
+};
+
+} // namespace tovrel

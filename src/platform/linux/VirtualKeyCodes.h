@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+namespace tovrel {
+
+/// A key by its position, in the numbering of the kernel's input events (linux/input-event-codes.h).
+using EvdevKey = std::uint16_t;
+
+/// Virtual key codes (0 to 127) name positions of a keyboard with the US layout, whatever the layout makes of
+/// them: 35 is the key of P. So do the kernel's codes, and this is the one table between the two; it is
+/// one-to-one. Its choices where the keyboards differ:
+/// - the modifier keys follow the modifiers: the key of Command is Control, of Control Super, of Option Alt;
+/// - Help is Insert, which has its place on today's keyboards; keypad Clear is Num Lock for the same reason;
+/// - the Function key has no counterpart: keyboards keep it to themselves.
+/// Absent for a code without counterpart.
+[[nodiscard]] std::optional<EvdevKey> evdevKey(std::uint32_t virtualKeyCode);
+[[nodiscard]] std::optional<std::uint32_t> virtualKeyCode(EvdevKey key);
+
+/// An X server numbers the same keys from 8 on, 8 to 255 being the range the protocol leaves for them.
+[[nodiscard]] std::optional<std::uint8_t> x11KeyCode(std::uint32_t virtualKeyCode);
+[[nodiscard]] std::optional<std::uint32_t> virtualKeyCodeOfX11(std::uint32_t x11KeyCode);
+
+} // namespace tovrel

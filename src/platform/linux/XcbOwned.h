@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdlib>
+#include <memory>
+
+namespace tovrel {
+
+struct XcbFree {
+    void operator()(void* memory) const { std::free(memory); } // NOLINT: xcb allocates what it answers so
+};
+
+/// A reply, an event or an error that xcb has handed out.
+template <typename Answer>
+using XcbOwned = std::unique_ptr<Answer, XcbFree>;
+
+} // namespace tovrel

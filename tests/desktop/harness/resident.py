@@ -1,0 +1,85 @@
+"""The resident program on a private desktop, and its palette as a screen reader sees it."""
+
+import subprocess
+
+from .program import Program
+from .waiting import wait_until
+
+HOT_KEY = ("ctrl", "shift", "p")
+
+
+class Resident:
+    """The program as it was started without a verb. What it prints goes to `output` and `errors`."""
+
+    def __init__(self, desktop, directory, environment=None):
+        self._desktop = desktop
+        self.environment = desktop.environment | (environment or {})
+        self._program = Program(self.environment)
+        self._output = directory / "resident-output.txt"
+        self._errors = directory / "resident-errors.txt"
+        with open(self._output, "wb") as output, open(self._errors, "wb") as errors:
+            self.process = subprocess.Popen([self._program.path], env=self.environment,
+                                            stdin=subprocess.DEVNULL, stdout=output, stderr=errors)
+        wait_until(self.is_ready, "the resident program to answer")
+
+    @property
+    def pid(self):
+        return self.process.pid
+
+    @property
+    def output(self):
+        return self._output.read_text(encoding="utf-8")
+
+    @property
+    def errors(self):
+        return self._errors.read_text(encoding="utf-8")
+
+    def is_ready(self):
+        if self.process.poll() is not None:
+            raise AssertionError(f"the resident program ended with {self.process.returncode}: {self.errors}")
+        return self._program.run("status", "--json").status == 0
+
+    def status(self):
+        return self._program.expect("status", "--json").json
+
+    def is_open(self):
+        return self.status()["paletteVisible"]
+
+    def end(self):
+        """Ends it if it still runs; its exit status."""
+        if self.process.poll() is None:
+            self.process.terminate()
+        return self.process.wait(timeout=20)
+
+    @property
+    def window(self):
+        """The palette's window while it is shown, else None."""
+        shown = self._desktop.windows.of_process(self.pid)
+        return shown[0] if shown else None
+
+    def has_focus(self):
+        """Whether the palette, or a question, is in front, and knows it: before that it still asks for it."""
+        window = self.window
+        if window is None or self._desktop.windows.active() != window:
+            return False
+        return any("active" in frame.states for frame in self._frames())
+
+    def query(self):
+        """What the search field holds."""
+        field = self._find("text")
+        return field.text if field else None
+
+    def rows(self):
+        """The names of the rows on the screen: title, menus, shortcut."""
+        results = self._find("list")
+        if results is None:
+            return []
+        return [row.name for row in results.children if "showing" in row.states]
+
+    def _frames(self):
+        tree = self._desktop.witness.application(self.pid)
+        return tree.children if tree else []
+
+    def _find(self, role):
+        tree = self._desktop.witness.application(self.pid)
+        return tree.find(role) if tree else None

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "platform/MainQueue.h"
+#include "platform/linux/EventSource.h"
+
+namespace tovrel {
+
+/// A main loop over event sources, as long as a test needs it.
+class TestLoop : public MainQueue {
+  public:
+    void post(Task task) override { postAfter(std::chrono::milliseconds(0), std::move(task)); }
+    void postAfter(std::chrono::milliseconds delay, Task task) override;
+
+    void watch(EventSource& source) { sources_.push_back(&source); }
+
+    /// Runs until the condition holds; whether it did within the time a test has patience.
+    bool runUntil(const std::function<bool()>& condition,
+                  std::chrono::milliseconds patience = std::chrono::seconds(10));
+
+    /// How many times a source had something to tell, timers aside.
+    [[nodiscard]] int wakeUps() const { return wakeUps_; }
+
+  private:
+    void runDueTasks();
+    void waitAndDispatch(std::chrono::steady_clock::time_point deadline);
+
+    std::multimap<std::chrono::steady_clock::time_point, Task> tasks_;
+    std::vector<EventSource*> sources_;
+    int wakeUps_ = 0;
+};
+
+} // namespace tovrel
