@@ -44,8 +44,6 @@ void useOpenGLIfAskedFor() {
 } // namespace
 
 void configureQtEnvironment() {
-    QCoreApplication::setApplicationName(QStringLiteral("Tovrel"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.tovrel.Tovrel"));
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
