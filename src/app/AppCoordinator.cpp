@@ -43,8 +43,7 @@ AppCoordinator::AppCoordinator(Platform platform)
       menuScanner_(platform_.accessibility, platform_.textServices),
       commandExecutor_([&runner = platform_.processRunner](
                            const CommandProcessRequest& request) { return runner.run(request); },
-                       [&workspace = platform_.workspace](const Url& url) { workspace.open(url.text()); },
-                       platform_.fileExists),
+                       platform_.openURL, platform_.fileExists),
       commandHistoryStore_(platform_.preferences, storage_keys::commandHistory, platform_.textServices),
       customCommandStore_(platform_.preferences, storage_keys::customCommands),
       rulesStore_(platform_.preferences, platform_.textServices),

@@ -83,7 +83,7 @@ class AppCoordinatorTest : public testing::Test {
                              return panel;
                          },
                      .now = [this] { return now_; },
-                     .openURL = [this](const Url& url) { workspace_.open(url.text()); },
+                     .openURL = [this](const Url& url) { opened_.push_back(url.text()); },
                      .fileExists = [](const Text&) { return false; },
                      .showAccessibilityOnboarding = [this] { ++onboardings_; }});
     }
@@ -126,6 +126,7 @@ class AppCoordinatorTest : public testing::Test {
     KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};
     PointInTime now_ = start;
     int onboardings_ = 0;
+    std::vector<Text> opened_;
     MemoryPalettePanel* panel_ = nullptr; // owned by the coordinator, as the model is
     PaletteViewModel* model_ = nullptr;
     Application editor_{10, "org.editor", {"Open", "Save"}};
@@ -250,8 +251,8 @@ TEST_F(AppCoordinatorTest, WithoutAccessibilityOnlyTheWayToAllowItIsOffered) {
     EXPECT_EQ(titles(), Titles{"Open Accessibility Settings"});
     returnKey();
     EXPECT_EQ(userInterface_.alerts().size(), 0U);
-    EXPECT_EQ(workspace_.opened(), (std::vector<Text>{"x-apple.systempreferences:com.apple.preference."
-                                                      "security?Privacy_Accessibility"}));
+    EXPECT_EQ(opened_, (std::vector<Text>{"x-apple.systempreferences:com.apple.preference."
+                                          "security?Privacy_Accessibility"}));
     EXPECT_EQ(history().rankSignals("custom.accessibility").usageCount, 1);
     EXPECT_FALSE(panel_->isVisible());
 }

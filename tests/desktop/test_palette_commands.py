@@ -1,6 +1,8 @@
 """What the palette lists and runs: states of menu items, the user's own commands, applications that are left
 alone, and what is there without accessibility."""
 
+import subprocess
+
 from harness.keyboard import Keyboard
 from harness.palette_testing import HOT_KEY, PaletteTestCase, main
 
@@ -13,13 +15,14 @@ class CommandTests(PaletteTestCase):
         self.start_resident()
         self.open_palette()
         self.type("wrap lines")
-        self.assertRegex(self.resident.rows()[0], "^Wrap Lines.*checked")
+        self.assertEqual(self.resident.checked_rows()[0], self.resident.rows()[0])
         self.tovrel.expect("preferences", "write", "paletteSettings.showCheckedStatus", "--bool", "false")
         self.resident.end()
         self.start_resident()
         self.open_palette()
         self.type("wrap lines")
-        self.assertNotRegex(self.resident.rows()[0], "checked")
+        self.assertIn("Wrap Lines", self.resident.rows()[0])
+        self.assertEqual(self.resident.checked_rows(), [])
 
     def test_the_users_own_commands_ask_first(self):
         ran = self.directory / "ran"
@@ -62,16 +65,24 @@ class ForwardingTests(PaletteTestCase):
     def test_an_application_that_is_left_alone_gets_the_keystroke(self):
         entries = self.desktop.home / ".local" / "share" / "applications"
         entries.mkdir(parents=True, exist_ok=True)
-        (entries / "xev.desktop").write_text("[Desktop Entry]\nType=Application\nName=Keys\nExec=xev\n",
-                                             encoding="utf-8")
-        self.store("rules.appBehaviors", [{"bundleID": "xev", "behavior": "disabled"}])
-        witness = self.launch("stdbuf", "-oL", "xev", "-event", "keyboard", accessible=False)
-        witness.bring_to_front()
+        (entries / "terminal.desktop").write_text(
+            "[Desktop Entry]\nType=Application\nName=Terminal\nExec=xterm\n", encoding="utf-8")
+        self.store("rules.appBehaviors", [{"bundleID": "terminal", "behavior": "disabled"}])
+        terminal = self.launch("xterm", accessible=False)
+        terminal.bring_to_front()
+        keys = self.directory / "keys.txt"
+        with open(keys, "wb") as log:
+            witness = subprocess.Popen(["stdbuf", "-oL", "xev", "-event", "keyboard", "-id", str(terminal.window)],
+                                       env=self.desktop.environment, stdout=log, stdin=subprocess.DEVNULL)
+        self.addCleanup(witness.wait)
+        self.addCleanup(witness.terminate)
+        self.press("shift")
+        self.wait_until(lambda: self._presses(keys, "Shift_L") == 1, "the witness to see keys")
         self.start_resident()
         for turn in (1, 2):
             self.press(*HOT_KEY)
             # Control and Shift are held with it: 0x5.
-            self.wait_until(lambda: self._presses(witness, "state 0x5, keycode 33 (keysym 0x50, P)") == turn,
+            self.wait_until(lambda: self._presses(keys, "state 0x5, keycode 33 (keysym 0x50, P)") == turn,
                             "the keystroke to arrive")
             self.wait_until(lambda: not self.keyboard.is_any_key_down(), "the keys to be up")
             self.assertFalse(self.resident.is_open())
@@ -82,9 +93,9 @@ class ForwardingTests(PaletteTestCase):
         editor.end()
 
     @staticmethod
-    def _presses(witness, what):
-        events = witness.process.log.read_text(encoding="utf-8", errors="replace").split("\n\n")
-        return sum(event.startswith("KeyPress") and what in event for event in events)
+    def _presses(log, what):
+        events = log.read_text(encoding="utf-8", errors="replace").split("\n\n")
+        return sum("KeyPress event" in event and what in event for event in events)
 
     def _is_hot_key_taken(self):
         other = Keyboard(self.desktop.environment)

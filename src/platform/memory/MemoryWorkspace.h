@@ -19,7 +19,7 @@ class MemoryWorkspace : public Workspace {
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override {
         return activations_.subscribe(std::move(observer));
     }
-    void open(const Text& url) override { opened_.push_back(url); }
+    void open(const Text& /*url*/) override {}
 
     /// As when the user switches to it; null is a desktop without an application in front.
     void bringToFront(std::shared_ptr<RunningApplication> application) {
@@ -29,13 +29,11 @@ class MemoryWorkspace : public Workspace {
 
     /// The process identifiers of the applications that were asked to come to the front.
     [[nodiscard]] const std::vector<std::int32_t>& activated() const { return activated_; }
-    [[nodiscard]] const std::vector<Text>& opened() const { return opened_; }
 
   private:
     std::shared_ptr<RunningApplication> front_;
     ObserverList<const std::shared_ptr<RunningApplication>&> activations_;
     std::vector<std::int32_t> activated_;
-    std::vector<Text> opened_;
 };
 
 } // namespace tovrel

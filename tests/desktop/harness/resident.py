@@ -76,6 +76,11 @@ class Resident:
             return []
         return [row.name for row in results.children if "showing" in row.states]
 
+    def checked_rows(self):
+        """Of the rows on the screen, those with a check mark."""
+        results = self._find("list")
+        return [row.name for row in results.children if {"showing", "checked"} <= row.states]
+
     def _frames(self):
         tree = self._desktop.witness.application(self.pid)
         return tree.children if tree else []

@@ -33,7 +33,7 @@ class DesktopTestCase(unittest.TestCase):
 
     def open_text(self, editor, text):
         """Starts an editor with `text` in a file; returns the application and the file."""
-        file = self.directory / "notes.txt"
+        file = self.directory / f"{editor}.txt"
         file.write_text(text, encoding="utf-8")
         application = self.launch(editor, file)
         application.bring_to_front()
