@@ -18,7 +18,7 @@ QImage AppIconImages::requestImage(const QString& id, QSize* size, const QSize& 
     const QSize wanted = requestedSize.isValid() ? requestedSize : QSize(64, 64);
     const QIcon icon = iconNamed(QUrl::fromPercentEncoding(id.toUtf8()));
     // A ratio of 1: the size asked for is in pixels of the screen already.
-    const QImage image = icon.pixmap(wanted, 1.0).toImage();
+    QImage image = icon.pixmap(wanted, 1.0).toImage();
     *size = image.size();
     return image;
 }

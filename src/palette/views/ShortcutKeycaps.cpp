@@ -93,7 +93,8 @@ void ShortcutKeycaps::measure() {
         total += widths_.back() + gap;
     }
     contentWidth_ = std::max(total - gap, 0);
-    setImplicitWidth((contentWidth_ + grid - 1) / grid * grid);
+    const int cells = (contentWidth_ + grid - 1) / grid;
+    setImplicitWidth(cells * grid);
 }
 
 } // namespace tovrel

@@ -8,7 +8,7 @@ namespace tovrel {
 
 QImage SymbolImages::requestImage(const QString& id, QSize* size, const QSize& requestedSize) {
     const QSize pixels = requestedSize.isValid() ? requestedSize : QSize(24, 24);
-    const QImage image = symbolImage(id.section(u'/', 0, 0), QColor(id.section(u'/', 1)), pixels);
+    QImage image = symbolImage(id.section(u'/', 0, 0), QColor(id.section(u'/', 1)), pixels);
     *size = image.size();
     return image;
 }

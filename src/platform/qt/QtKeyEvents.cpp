@@ -95,7 +95,7 @@ std::optional<Text> charactersOf(const QKeyEvent& event) {
     constexpr auto shortcutModifiers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     if (typed && !isAscii(typed) && (event.modifiers() & shortcutModifiers) != 0) {
         // Qt names the key of a shortcut by its Latin letter when the keyboard has a Latin layout as well.
-        if (const std::optional<Text> latin = charactersOfKey(event); isAscii(latin)) {
+        if (std::optional<Text> latin = charactersOfKey(event); isAscii(latin)) {
             return latin;
         }
     }

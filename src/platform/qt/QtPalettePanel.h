@@ -24,6 +24,8 @@ class QtPalettePanel final : public QObject, public PalettePanel {
     QtPalettePanel(PaletteViewContext context, const TextServices& textServices, ViewEngine& engine,
                    WindowSystem windowSystem, KeyCodeFromEvdev keyCodeFromEvdev);
     ~QtPalettePanel() override;
+    QtPalettePanel(const QtPalettePanel&) = delete;
+    QtPalettePanel& operator=(const QtPalettePanel&) = delete;
 
     [[nodiscard]] bool isVisible() const override;
     [[nodiscard]] Size frameSize() const override;

@@ -30,7 +30,7 @@ QIcon symbolIcon(const Text& name, const QColor& colour) {
 
 } // namespace
 
-QtStatusItem::QtStatusItem(StatusItemDescription description, std::function<void(bool)> onMenuTracking)
+QtStatusItem::QtStatusItem(StatusItemDescription description, const std::function<void(bool)>& onMenuTracking)
     : description_(std::move(description)), wait_([this] { show(); }) {
     const QColor textColour = QGuiApplication::palette().color(QPalette::WindowText);
     for (const StatusMenuItem& item : description_.menu) {

@@ -14,7 +14,7 @@ namespace tovrel {
 class QtStatusItem final : public StatusItem {
   public:
     /// `onMenuTracking` is told when the menu opens (true) and closes.
-    QtStatusItem(StatusItemDescription description, std::function<void(bool)> onMenuTracking);
+    QtStatusItem(StatusItemDescription description, const std::function<void(bool)>& onMenuTracking);
 
     [[nodiscard]] QMenu& menu() { return menu_; }
 

@@ -46,8 +46,6 @@ StatusBarWait::StatusBarWait(std::function<void()> onReady) : onReady_(std::move
     patience_.start(x11TrayPatience);
 }
 
-StatusBarWait::~StatusBarWait() = default;
-
 void StatusBarWait::askForStatusNotifierHost() {
     QDBusMessage question = QDBusMessage::createMethodCall(watcherService, watcherPath,
                                                            QStringLiteral("org.freedesktop.DBus.Properties"),

@@ -19,7 +19,6 @@ class StatusBarWait final : public QObject, private QAbstractNativeEventFilter {
   public:
     /// Calls `onReady` once, at a later turn of the main thread.
     explicit StatusBarWait(std::function<void()> onReady);
-    ~StatusBarWait() override;
 
   private Q_SLOTS:
     void askForStatusNotifierHost();

@@ -6,6 +6,7 @@
 #include <QOpenGLContext>
 #include <QQuickWindow>
 #include <array>
+#include <memory>
 
 #include "palette/views/AppIconImages.h"
 #include "palette/views/SymbolImages.h"
@@ -43,8 +44,6 @@ void useOpenGLIfAskedFor() {
 } // namespace
 
 void configureQtEnvironment() {
-    QCoreApplication::setApplicationName(QStringLiteral("Tovrel"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.tovrel.Tovrel"));
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
@@ -54,8 +53,10 @@ ViewEngine::ViewEngine() {
     useRoundFont();
     qml_register_types_Tovrel_Views();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine_.addImageProvider(QLatin1String(SymbolImages::scheme), new SymbolImages);
-    engine_.addImageProvider(QLatin1String(AppIconImages::scheme), new AppIconImages);
+    // The engine becomes their owner.
+    engine_.addImageProvider(QLatin1String(SymbolImages::scheme), std::make_unique<SymbolImages>().release());
+    engine_.addImageProvider(QLatin1String(AppIconImages::scheme),
+                             std::make_unique<AppIconImages>().release());
 }
 
 } // namespace tovrel

@@ -8,7 +8,9 @@ namespace tovrel {
 namespace {
 
 struct Free {
-    void operator()(void* reply) const { std::free(reply); } // NOLINT(cppcoreguidelines-no-malloc)
+    void operator()(void* reply) const {
+        std::free(reply);
+    } // NOLINT(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
 };
 
 template <typename Reply>

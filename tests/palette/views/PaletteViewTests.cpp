@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QQuickItem>
 #include <QSignalSpy>
 #include <QTest>
@@ -285,8 +286,36 @@ TEST_F(PaletteViewTest, CheckMarksFollowTheSetting) {
     EXPECT_FALSE(hasCheck("Toolbar"));
 }
 
+TEST_F(PaletteViewTest, AssistiveTechnologySeesTheFieldAndTheRows) {
+    QAccessible::setActive(true);
+    showMousepad();
+    QAccessibleInterface* field = QAccessible::queryAccessibleInterface(window().activeFocusItem());
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(field->role(), QAccessible::EditableText);
+    EXPECT_EQ(field->text(QAccessible::Name), "Commands");
+    EXPECT_EQ(field->text(QAccessible::Description), "Mousepad");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(list())->role(), QAccessible::List);
+
+    QAccessibleInterface* copy = QAccessible::queryAccessibleInterface(row("Copy"));
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(copy->role(), QAccessible::ListItem);
+    EXPECT_EQ(copy->text(QAccessible::Name), "Copy, Edit, Ctrl+C");
+    const auto position = row("Copy")->property("index").toInt();
+    EXPECT_EQ(copy->text(QAccessible::Description),
+              QStringLiteral("%1 of %2").arg(position + 1).arg(model()->rowCount()));
+    EXPECT_FALSE(copy->state().selected);
+    stage_.viewModel.moveSelection(position);
+    EXPECT_TRUE(copy->state().selected);
+    ASSERT_TRUE(copy->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    copy->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    ASSERT_EQ(stage_.executed.size(), 1U);
+    EXPECT_EQ(stage_.executed[0].title, "Copy");
+    QAccessible::setActive(false);
+}
+
 TEST_F(PaletteViewTest, LongListsMakeOnlyTheRowsInSight) {
     std::vector<Command> commands;
+    commands.reserve(3000);
     for (int i = 0; i < 3000; ++i) {
         commands.push_back(menuCommand({"Edit", "Entry " + std::to_string(i)}, "⌘E"));
     }

@@ -26,7 +26,7 @@ constexpr const char* scaleVariable = "QT_SCALE_FACTOR";
 
 class Pictures {
   public:
-    explicit Pictures(QDir folder) : folder_(std::move(folder)) {}
+    explicit Pictures(const QDir& folder) : folder_(folder) {}
 
     void drawAll() {
         drawEmptyStates();
