@@ -63,7 +63,7 @@ class CommandTests(PaletteTestCase):
 
 class ForwardingTests(PaletteTestCase):
     def test_an_application_that_is_left_alone_gets_the_keystroke(self):
-        self.store("rules.appBehaviors", [{"bundleID": "debian-xterm", "behavior": "disabled"}])
+        self.store("rules.appBehaviors", {"debian-xterm": "disabled"})
         terminal = self.launch("xterm", accessible=False)
         terminal.bring_to_front()
         # Keys go to the window below the pointer within the focused one: not to be outdone by a part of it.
