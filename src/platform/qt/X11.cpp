@@ -8,9 +8,7 @@ namespace tovrel {
 namespace {
 
 struct Free {
-    void operator()(void* reply) const {
-        std::free(reply);
-    } // NOLINT(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
+    void operator()(void* reply) const { std::free(reply); } // NOLINT: xcb allocates its replies so
 };
 
 template <typename Reply>
