@@ -25,7 +25,10 @@ QImage symbolImage(const QString& name, const QColor& colour, const QSize& pixel
     renderer.render(&painter);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), colour);
-    return image;
+    painter.end();
+    // A picture that was painted keeps the painter's working memory, which is many times its own; a copy does
+    // not.
+    return image.copy();
 }
 
 } // namespace tovrel
