@@ -114,7 +114,9 @@ TEST_F(LinuxWorkspaceTest, OpensUrlsWithoutWaitingOrLeavingAnything) {
     std::ofstream(script) << "#!/bin/sh\nprintf '%s' \"$1\" >'" << told.string() << ".new'\nmv '"
                           << told.string() << ".new' '" << told.string() << "'\n";
     std::filesystem::permissions(script, std::filesystem::perms::owner_all);
-    const std::string path = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe)
+    const char* programs = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe)
+    ASSERT_NE(programs, nullptr);
+    const std::string path(programs);
     setenv("PATH", (folder.path().string() + ":" + path).c_str(), 1);
     const std::string url = "https://example.org/a?b='c'&d=\"$e\"";
     workspace_.open(Text(url));
