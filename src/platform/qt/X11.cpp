@@ -9,8 +9,9 @@ namespace {
 
 struct Free {
     void operator()(void* reply) const {
+        // NOLINTNEXTLINE(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
         std::free(reply);
-    } // NOLINT(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
+    }
 };
 
 template <typename Reply>
