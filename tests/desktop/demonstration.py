@@ -1,7 +1,7 @@
-"""Shows the program's main job on a private desktop: it lists a real editor's menus, finds commands by a few
-letters, presses them, and proves by the editor's own text and by the file it saves that they were performed.
+"""Shows the program's main job on a private desktop: over a real editor a real hot key opens the palette, a few
+letters find a command, Return runs it, and the editor's own text and the file that it saves prove it.
 
-usage: demonstration.py PROGRAM DIRECTORY     pictures of the desktop before and after go to DIRECTORY"""
+usage: demonstration.py PROGRAM DIRECTORY     pictures of each stage go to DIRECTORY"""
 
 import subprocess
 import sys
@@ -9,42 +9,71 @@ import time
 from pathlib import Path
 
 from harness import Desktop, Program
+from harness.keyboard import Keyboard
+from harness.menu_witness import menu_entry
+from harness.resident import HOT_KEY, Resident
 from harness.waiting import wait_until
 
 TEXT = "The quick brown fox\njumps over the lazy dog.\n"
 CAPITALS = TEXT.upper()
-SHOWN_MENU_LINES = 14
 WINDOW = (160, 90, 960, 600)
+SHOWN_ROWS = 4
 
 
 class Demonstration:
-    def __init__(self, desktop, program):
+    def __init__(self, desktop, program, directory, suffix):
         self._desktop = desktop
+        self._directory = directory
+        self._suffix = suffix
+        self._program = program
         self._tovrel = Program(desktop.environment, program)
+        self._keyboard = Keyboard(desktop.environment)
         self._note = desktop.home / "note.txt"
         self._editor = None
+        self._resident = None
 
-    def open_editor(self):
+    def open_editor(self, scale):
         self._note.write_text(TEXT, encoding="utf-8")
         begun = time.monotonic()
         self._editor = self._desktop.launch(["mousepad", str(self._note)])
-        self._desktop.windows.place(self._editor.window, *WINDOW)
+        self._desktop.windows.place(self._editor.window, *(scale * number for number in WINDOW))
         self._editor.bring_to_front()
         say(f"The editor Mousepad (process {self._editor.pid}, {since(begun)}) is in front and shows the file "
             f"{self._note.name}:")
         show(self._editor.text() or "(no text)")
 
-    def list_menus(self):
-        lines = self._tovrel_says("menus").splitlines()
-        show("\n".join(lines[:SHOWN_MENU_LINES]))
-        show(f"… and {max(0, len(lines) - SHOWN_MENU_LINES)} lines more")
+    def start_palette(self, scale):
+        begun = time.monotonic()
+        self._resident = Resident(self._desktop, self._desktop.home, {"QT_SCALE_FACTOR": str(scale)},
+                                  self._program)
+        say(f"$ tovrel &    # resident after {since(begun)}, as process {self._resident.pid}")
 
-    def find_and_press(self, query):
-        show(self._tovrel_says("search", "--ids", "--limit", "3", query))
-        ranked = self._tovrel.expect("search", "--json", query).json[0]
-        if not ranked:
-            raise AssertionError(f"nothing was found for {query!r}")
-        self._tovrel_says("press", ranked[0]["command"]["id"])
+    def run(self, letters, title, picture):
+        """Opens the palette, types, checks that the command is the first, and presses Return."""
+        begun = time.monotonic()
+        self._keyboard.chord(*HOT_KEY).type(letters).send()
+        wait_until(lambda: self._resident.query() == letters, "the letters in the search field")
+        say(f"Pressed Ctrl+Shift+P and typed \"{letters}\" (there after {since(begun)}); the palette lists:")
+        wait_until(self._resident.has_focus, "the palette in front")
+        rows = self._resident.rows()
+        show("\n".join(rows[:SHOWN_ROWS]))
+        if not rows or not rows[0].startswith(title):
+            raise AssertionError(f"{title!r} is not the first row")
+        self.picture(picture)
+        self._keyboard.chord("Return").send()
+        wait_until(lambda: not self._resident.is_open(), "the palette to close")
+        say(f"Pressed Return: {title}")
+
+    def open_and_close(self, picture):
+        self._keyboard.chord(*HOT_KEY).send()
+        wait_until(self._resident.has_focus, "the palette in front")
+        self.picture(picture)
+        self._keyboard.chord("Escape").send()
+        wait_until(lambda: not self._resident.is_open(), "the palette to close")
+        wait_until(lambda: self._desktop.windows.active() == self._editor.window, "the editor in front")
+
+    def wait_for_selection(self):
+        wait_until(lambda: "sensitive" in menu_entry(self._editor.tree, "Edit", "Copy").states, "a selection")
 
     def prove_capitals_in_the_editor(self):
         wait_until(lambda: self._editor.text() == CAPITALS, "the editor to show the text in capitals")
@@ -53,17 +82,22 @@ class Demonstration:
         if self._note.read_text(encoding="utf-8") != TEXT:
             raise AssertionError(f"{self._note.name} changed before it was saved")
 
-    def prove_capitals_on_disk(self):
-        wait_until(lambda: self._note.read_text(encoding="utf-8") == CAPITALS, "the file to be saved")
-        say(f"Proved: the file {self._note.name} on disk holds the capitals too.")
+    def prove_the_history(self):
+        history = self._tovrel.expect("preferences", "read", "Tovrel.commandHistory").json
+        used = sorted(identifier for identifier, entry in history.items() if entry["usageCount"] == 1)
+        expected = ["menu:org.xfce.mousepad:Edit/Convert/To Uppercase", "menu:org.xfce.mousepad:Edit/Select All"]
+        if used != expected:
+            raise AssertionError(f"the history holds {used}")
+        say("Proved: the history remembers both commands, so that they rank higher the next time.")
 
-    def _tovrel_says(self, *arguments):
-        """Runs the program as a user would type it and returns its output."""
-        begun = time.monotonic()
-        answer = self._tovrel.expect(*arguments)
-        typed = " ".join(f"'{argument}'" if " " in argument else argument for argument in arguments)
-        say(f"$ tovrel {typed}    # {since(begun)}")
-        return answer.output
+    def quit(self):
+        self._tovrel.expect("quit")
+        if self._resident.process.wait(timeout=20) != 0 or self._resident.errors:
+            raise AssertionError(f"the program ended badly: {self._resident.errors}")
+        say("$ tovrel quit")
+
+    def picture(self, name):
+        self._desktop.take_picture(self._directory / f"{name}{self._suffix}.png")
 
 
 def since(begun):
@@ -79,21 +113,24 @@ def show(text):
 
 
 def run(program, directory):
-    begun = time.monotonic()
-    with Desktop() as desktop:
-        print(f"A private desktop is up after {since(begun)}: display {desktop.environment['DISPLAY']}, with a "
-              "session bus, an accessibility bus and a home directory of its own.")
-        demonstration = Demonstration(desktop, program)
-        demonstration.open_editor()
-        desktop.take_picture(directory / "before.png")
-        demonstration.list_menus()
-        demonstration.find_and_press("select all")
-        demonstration.find_and_press("upper")
-        demonstration.prove_capitals_in_the_editor()
-        demonstration.find_and_press("save")
-        demonstration.prove_capitals_on_disk()
-        desktop.take_picture(directory / "after.png")
-        say(f"Pictures: {directory / 'before.png'} and {directory / 'after.png'}")
+    for scale in (1, 2):
+        begun = time.monotonic()
+        with Desktop(size=(1280 * scale, 800 * scale)) as desktop:
+            say(f"A private desktop is up after {since(begun)}: display {desktop.environment['DISPLAY']}, "
+                f"{1280 * scale} x {800 * scale} pixels at scale {scale}, with a session bus, an accessibility bus "
+                "and a home directory of its own.")
+            demonstration = Demonstration(desktop, program, directory, f"-at-scale-{scale}")
+            demonstration.open_editor(scale)
+            demonstration.start_palette(scale)
+            demonstration.open_and_close("1-palette")
+            demonstration.run("select all", "Select All", "2-typed")
+            demonstration.wait_for_selection()
+            demonstration.run("upper", "To Uppercase", "3-selected")
+            demonstration.prove_capitals_in_the_editor()
+            demonstration.picture("4-done")
+            demonstration.prove_the_history()
+            demonstration.quit()
+    say(f"Pictures of each stage: {directory}")
 
 
 if __name__ == "__main__":

@@ -4,8 +4,8 @@
 
 namespace tovrel {
 
-/// What Qt must know before the application object is made: that it draws without a GPU (see ViewEngine for the
-/// exception), and that it repaints at once instead of after 5 ms.
+/// What Qt must know before the application object is made: that it draws without a GPU (see ViewEngine for
+/// the exception), and that it repaints at once instead of after 5 ms.
 void configureQtEnvironment();
 
 /// Loads the views. One per program, made after the application object and outliving every window.

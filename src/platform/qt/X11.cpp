@@ -8,10 +8,7 @@ namespace tovrel {
 namespace {
 
 struct Free {
-    void operator()(void* reply) const {
-        // NOLINTNEXTLINE(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
-        std::free(reply);
-    }
+    void operator()(void* reply) const { std::free(reply); } // NOLINT: xcb allocates its replies so
 };
 
 template <typename Reply>

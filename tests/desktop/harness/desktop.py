@@ -28,10 +28,11 @@ class Desktop:
 
     _entered = False
 
-    def __init__(self, size=(1280, 800), with_buses=True):
+    def __init__(self, size=(1280, 800), with_buses=True, window_manager=("openbox", "--sm-disable")):
         """`with_buses`: without them there are windows, but no session bus and no accessibility."""
         self._size = size
         self._with_buses = with_buses
+        self._window_manager = window_manager
         self._teardown = contextlib.ExitStack()
         self.environment = {}
         self.windows = None
@@ -41,7 +42,7 @@ class Desktop:
     def __enter__(self):
         if Desktop._entered:
             raise RuntimeError("there is a private desktop already")
-        require("Xvfb", "openbox", "dbus-daemon", "xdotool", "xprop", "import", "display", "setpriv")
+        require("Xvfb", self._window_manager[0], "dbus-daemon", "xdotool", "xprop", "import", "display", "setpriv")
         raise_on_ending_signals()
         Desktop._entered = True
         # Also when an exception passes the test runner by.
@@ -113,7 +114,7 @@ class Desktop:
         # The first key pressed on a display makes every client read the keyboard's layout anew, and a window
         # manager that does so misses keys; so it is pressed before there is one.
         self.windows.press_keys("Shift_L")
-        self._processes.start(["openbox", "--sm-disable"], self.environment)
+        self._processes.start(list(self._window_manager), self.environment)
         wait_until(self.windows.has_window_manager, "the window manager")
 
     def _has_menu_bar(self, process_id):

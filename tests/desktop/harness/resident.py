@@ -11,10 +11,10 @@ HOT_KEY = ("ctrl", "shift", "p")
 class Resident:
     """The program as it was started without a verb. What it prints goes to `output` and `errors`."""
 
-    def __init__(self, desktop, directory, environment=None):
+    def __init__(self, desktop, directory, environment=None, program=None):
         self._desktop = desktop
         self.environment = desktop.environment | (environment or {})
-        self._program = Program(self.environment)
+        self._program = Program(self.environment, program)
         self._output = directory / "resident-output.txt"
         self._errors = directory / "resident-errors.txt"
         with open(self._output, "wb") as output, open(self._errors, "wb") as errors:

@@ -15,10 +15,11 @@ class DesktopTestCase(unittest.TestCase):
     """Tests on one private desktop; every test starts with no application, no window and no preferences."""
 
     with_buses = True
+    window_manager = ("openbox", "--sm-disable")
 
     @classmethod
     def setUpClass(cls):
-        cls.desktop = cls.enterClassContext(Desktop(with_buses=cls.with_buses))
+        cls.desktop = cls.enterClassContext(Desktop(with_buses=cls.with_buses, window_manager=cls.window_manager))
         cls.tovrel = Program(cls.desktop.environment)
 
     def setUp(self):
