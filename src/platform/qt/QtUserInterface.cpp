@@ -43,6 +43,8 @@ QtUserInterface::QtUserInterface(ViewEngine& engine, WindowSystem windowSystem)
 }
 
 void QtUserInterface::activate() {
+    // A loss from before must not close what is shown next.
+    focusLoss_.stop();
     const auto windows = QGuiApplication::topLevelWindows();
     for (QWindow* window : windows) {
         if (window->isVisible() && window->type() != Qt::Popup && window->type() != Qt::ToolTip) {
