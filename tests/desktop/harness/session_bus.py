@@ -1,5 +1,6 @@
 """The private session bus."""
 
+import socket as sockets
 from pathlib import Path
 
 from .waiting import wait_until
@@ -14,7 +15,17 @@ def start_session_bus(processes, environment):
 
     def listening():
         processes.require_running(daemon, "the session bus")
-        return socket.exists()
+        return accepts_connections(socket)
 
     wait_until(listening, "the session bus to listen")
     environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={socket}"
+
+
+def accepts_connections(socket):
+    """The socket's file is there a moment before the bus listens on it."""
+    with sockets.socket(sockets.AF_UNIX) as attempt:
+        try:
+            attempt.connect(str(socket))
+        except (FileNotFoundError, ConnectionRefusedError):
+            return False
+        return True
