@@ -14,16 +14,6 @@ void appendFlattened(const std::vector<ScannedMenuItem>& items, std::vector<cons
     }
 }
 
-bool isCommand(const ScannedMenuItem& item) {
-    return item.menuPath.size() > 1 && !item.title.empty() && item.children.empty();
-}
-
-/// The leftmost menu of the system's own menu bar is titled "Apple" or with this glyph.
-bool isInSystemMenu(const ScannedMenuItem& item) {
-    const Text& menu = item.menuPath.front();
-    return menu == "Apple" || menu == "\uF8FF";
-}
-
 bool isPrefix(const std::vector<Text>& prefix, const std::vector<Text>& path) {
     return prefix.size() <= path.size() && std::equal(prefix.begin(), prefix.end(), path.begin());
 }
@@ -54,7 +44,7 @@ std::vector<const MenuBlacklistRule*> applyingRules(const std::vector<MenuBlackl
 
 Command menuCommand(const ScannedMenuItem& item, const std::optional<Text>& bundleID,
                     std::vector<Text> aliases, const CommandHistorySnapshot& history) {
-    Text id = "menu:" + (bundleID ? bundleID->utf8() : "global") + ":" + joined(item.menuPath, "/").utf8();
+    Text id = CommandIndex::menuCommandID(item.menuPath, bundleID);
     const std::vector<Text> parents(item.menuPath.begin(), item.menuPath.end() - 1);
     CommandRankSignals signals = history.rankSignals(id);
     return {.id = std::move(id),
@@ -99,6 +89,18 @@ CommandIndex::flattenMenuItems(const std::vector<ScannedMenuItem>& items) {
     return flat;
 }
 
+bool CommandIndex::isCommand(const ScannedMenuItem& item) {
+    return item.menuPath.size() > 1 && !item.title.empty() && item.children.empty();
+}
+
+bool CommandIndex::isInSystemMenu(const std::vector<Text>& menuPath) {
+    return menuPath.front() == "Apple" || menuPath.front() == "\uF8FF";
+}
+
+Text CommandIndex::menuCommandID(const std::vector<Text>& menuPath, const std::optional<Text>& bundleID) {
+    return "menu:" + (bundleID ? bundleID->utf8() : "global") + ":" + joined(menuPath, "/").utf8();
+}
+
 std::vector<Text> CommandIndex::aliasesForMenuPath(const std::vector<Text>& menuPath,
                                                    const std::optional<Text>& bundleID,
                                                    const std::vector<MenuCommandAliasRule>& aliasRules) {
@@ -120,7 +122,7 @@ std::vector<Command> CommandIndex::buildCommands(const std::vector<ScannedMenuIt
 
     std::vector<Command> commands;
     for (const ScannedMenuItem* item : flattenMenuItems(menuItems)) {
-        if (!isCommand(*item) || isInSystemMenu(*item)) {
+        if (!isCommand(*item) || isInSystemMenu(item->menuPath)) {
             continue;
         }
         const bool isHidden = std::any_of(hiding.begin(), hiding.end(), [&](const MenuBlacklistRule* rule) {

@@ -26,6 +26,16 @@ struct CommandIndex {
     [[nodiscard]] static std::vector<const ScannedMenuItem*>
     flattenMenuItems(const std::vector<ScannedMenuItem>& items);
 
+    /// Whether the item is a command: a titled leaf below a menu.
+    [[nodiscard]] static bool isCommand(const ScannedMenuItem& item);
+
+    /// Whether the (non-empty) path starts in the system's own menu, the leftmost of its menu bar.
+    [[nodiscard]] static bool isInSystemMenu(const std::vector<Text>& menuPath);
+
+    /// The id that the command at the path has in the list and in the history.
+    [[nodiscard]] static Text menuCommandID(const std::vector<Text>& menuPath,
+                                            const std::optional<Text>& bundleID);
+
     /// The aliases of the first rule whose scope equals `bundleID` (both absent, or both present and equal)
     /// and whose path equals `menuPath`; empty when no rule does.
     [[nodiscard]] static std::vector<Text>

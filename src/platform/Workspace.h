@@ -2,12 +2,24 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <vector>
 
+#include "model/ApplicationIcon.h"
 #include "platform/RunningApplication.h"
 #include "support/Observable.h"
 #include "support/Text.h"
 
 namespace tovrel {
+
+/// An application that the user can start, running or not.
+struct InstalledApplication {
+    Text bundleIdentifier;
+    Text name; ///< To show to the user.
+    std::optional<ApplicationIcon> icon;
+
+    friend bool operator==(const InstalledApplication&, const InstalledApplication&) = default;
+};
 
 /// The desktop as far as it is made of applications.
 class Workspace {
@@ -25,6 +37,13 @@ class Workspace {
     /// it cannot be told which.
     [[nodiscard]] virtual Subscription
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) = 0;
+
+    /// The application with the identifier; absent when none such is installed.
+    [[nodiscard]] virtual std::optional<InstalledApplication>
+    installedApplication(const Text& bundleIdentifier) = 0;
+
+    /// Those that the desktop shows in its menus, in no certain order.
+    [[nodiscard]] virtual std::vector<InstalledApplication> installedApplications() = 0;
 
     /// Hands a URL to whatever the desktop opens its kind with. The outcome is not known.
     virtual void open(const Text& url) = 0;

@@ -105,6 +105,18 @@ const DesktopEntry* DesktopEntries::withExecutable(std::string_view executable) 
     return best;
 }
 
+std::vector<DesktopEntry> DesktopEntries::forMenus() {
+    listAnewIfChanged();
+    std::vector<DesktopEntry> entries;
+    for (auto& [identifier, file] : files_) {
+        const DesktopEntry* entry = read(identifier, file);
+        if (entry != nullptr && !entry->noDisplay) {
+            entries.push_back(*entry);
+        }
+    }
+    return entries;
+}
+
 void DesktopEntries::listAnewIfChanged() {
     std::vector<fs::file_time_type> changedAt;
     std::error_code error;

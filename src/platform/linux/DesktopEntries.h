@@ -33,6 +33,8 @@ class DesktopEntries {
     /// The entry that starts this program (the last part of its path), other than in a terminal. Of several
     /// one that is shown in menus and gives the program no arguments is preferred, then the first by id.
     const DesktopEntry* withExecutable(std::string_view executable);
+    /// Those that are meant for menus, by id.
+    std::vector<DesktopEntry> forMenus();
 
   private:
     struct File {

@@ -12,6 +12,12 @@ namespace {
 
 constexpr std::chrono::milliseconds focusChangePatience{50};
 
+InstalledApplication installed(const DesktopEntry& entry) {
+    return {.bundleIdentifier = entry.identifier,
+            .name = entry.name,
+            .icon = entry.icon.empty() ? std::nullopt : std::optional(ApplicationIcon{entry.icon})};
+}
+
 } // namespace
 
 LinuxWorkspace::LinuxWorkspace(std::shared_ptr<X11Windows> windows, std::shared_ptr<AtspiBus> bus,
@@ -34,6 +40,19 @@ bool LinuxWorkspace::activate(const RunningApplication& application) {
 Subscription
 LinuxWorkspace::onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) {
     return activations_.subscribe(std::move(observer));
+}
+
+std::optional<InstalledApplication> LinuxWorkspace::installedApplication(const Text& bundleIdentifier) {
+    const DesktopEntry* entry = entries_->withIdentifier(bundleIdentifier.view());
+    return entry == nullptr ? std::nullopt : std::optional(installed(*entry));
+}
+
+std::vector<InstalledApplication> LinuxWorkspace::installedApplications() {
+    std::vector<InstalledApplication> applications;
+    for (const DesktopEntry& entry : entries_->forMenus()) {
+        applications.push_back(installed(entry));
+    }
+    return applications;
 }
 
 void LinuxWorkspace::open(const Text& url) {

@@ -33,6 +33,10 @@ class LinuxWorkspace : public Workspace {
     [[nodiscard]] Subscription
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override;
 
+    [[nodiscard]] std::optional<InstalledApplication>
+    installedApplication(const Text& bundleIdentifier) override;
+    [[nodiscard]] std::vector<InstalledApplication> installedApplications() override;
+
     /// By xdg-open, which is not waited for.
     void open(const Text& url) override;
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/Workspace.h"
@@ -19,7 +21,19 @@ class MemoryWorkspace : public Workspace {
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override {
         return activations_.subscribe(std::move(observer));
     }
+    [[nodiscard]] std::optional<InstalledApplication>
+    installedApplication(const Text& bundleIdentifier) override {
+        for (const InstalledApplication& application : installed_) {
+            if (application.bundleIdentifier == bundleIdentifier) {
+                return application;
+            }
+        }
+        return std::nullopt;
+    }
+    [[nodiscard]] std::vector<InstalledApplication> installedApplications() override { return installed_; }
     void open(const Text& /*url*/) override {}
+
+    void install(InstalledApplication application) { installed_.push_back(std::move(application)); }
 
     /// As when the user switches to it; null is a desktop without an application in front.
     void bringToFront(std::shared_ptr<RunningApplication> application) {
@@ -34,6 +48,7 @@ class MemoryWorkspace : public Workspace {
     std::shared_ptr<RunningApplication> front_;
     ObserverList<const std::shared_ptr<RunningApplication>&> activations_;
     std::vector<std::int32_t> activated_;
+    std::vector<InstalledApplication> installed_;
 };
 
 } // namespace tovrel

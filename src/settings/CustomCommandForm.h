@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+
+#include "model/CustomCommand.h"
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// A custom command while the user writes it, as typed.
+struct CustomCommandForm {
+    Text title;
+    CustomCommandKind kind = CustomCommandKind::open;
+    Text payload;
+    Text aliases; ///< Separated by commas.
+    bool usesCurrentApp = false;
+    bool isEnabled = true;
+    std::optional<Text> editingID; ///< Of the command that is being edited; absent for a new one.
+
+    friend bool operator==(const CustomCommandForm&, const CustomCommandForm&) = default;
+};
+
+} // namespace tovrel

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "model/Rules.h"
+#include "model/ScannedMenuItem.h"
+#include "settings/SettingsRecords.h"
+#include "stores/CommandHistoryStore.h"
+
+/// What the settings list of an application's menu tree, in menu order and without the system's own menu.
+namespace tovrel::settings_menu_lists {
+
+/// Every item of the tree, menus and submenus too, that no rule with exactly its path is there for. Only
+/// rules whose scope equals `bundleID` count (both absent, or both present and equal). Items with the same
+/// path are listed as often as they are there.
+[[nodiscard]] std::vector<SettingsMenuRuleCandidate>
+ruleCandidates(const std::vector<ScannedMenuItem>& menuItems, const std::optional<Text>& bundleID,
+               const std::vector<MenuBlacklistRule>& rules);
+
+/// The leaves of the tree below its menus, enabled or not, with what is stored for their search.
+[[nodiscard]] std::vector<SettingsMenuCommandSetting>
+commandSettings(const std::vector<ScannedMenuItem>& menuItems, const std::optional<Text>& bundleID,
+                const std::vector<MenuCommandAliasRule>& aliasRules, const CommandHistorySnapshot& history);
+
+} // namespace tovrel::settings_menu_lists

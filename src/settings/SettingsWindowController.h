@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/SettingsWindow.h"
+#include "settings/SettingsViewModel.h"
+
+namespace tovrel {
+
+/// Owns the settings window: made when it is first shown, kept when the user closes it.
+class SettingsWindowController {
+  public:
+    /// Makes the window, hidden and with nothing in it: 920 x 620 points, not resizable, titled "Tovrel",
+    /// centred on the screen.
+    using WindowFactory = std::function<std::unique_ptr<SettingsWindow>()>;
+
+    explicit SettingsWindowController(WindowFactory makeWindow) : makeWindow_(std::move(makeWindow)) {}
+
+    /// Shows a new view of the model, in the window's place if there is a window already.
+    void show(std::shared_ptr<SettingsViewModel> viewModel);
+
+  private:
+    WindowFactory makeWindow_;
+    std::unique_ptr<SettingsWindow> window_;
+};
+
+} // namespace tovrel
