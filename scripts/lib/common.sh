@@ -4,7 +4,7 @@
 # Debian packages to build the program, to run it on a private desktop, and to test it.
 build_packages=(ca-certificates g++ cmake ninja-build pkg-config libicu-dev nlohmann-json3-dev libsqlite3-dev
     libsystemd-dev libxcb1-dev libxcb-xkb-dev libxcb-xinput-dev libxcb-xtest0-dev libxkbcommon-dev
-    libxkbcommon-x11-dev libcli11-dev qt6-base-dev qt6-declarative-dev qt6-svg-dev qml6-module-qtquick
+    libxkbcommon-x11-dev libcli11-dev qt6-base-dev qt6-declarative-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools qml6-module-qtquick
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript fonts-inter)
 desktop_packages=(at-spi2-core dbus xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core mousepad
     util-linux python3 python3-gi gir1.2-glib-2.0 zsh)

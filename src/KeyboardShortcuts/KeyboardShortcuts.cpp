@@ -81,6 +81,11 @@ void KeyboardShortcuts::enable(const std::vector<Name>& names) {
     }
 }
 
+void KeyboardShortcuts::setRecorderActive(bool isActive) {
+    isPaused_ = isActive;
+    recorderActiveStatusDidChange_.notify(isActive);
+}
+
 void KeyboardShortcuts::addHandler(HandlersByName& handlersByName, const Name& name, Handler handler) {
     Handlers& handlers = handlersByName.try_emplace(name.rawValue, Handlers{name, {}}).first->second;
     handlers.handlers.push_back(std::move(handler));
@@ -88,6 +93,9 @@ void KeyboardShortcuts::addHandler(HandlersByName& handlersByName, const Name& n
 }
 
 void KeyboardShortcuts::callHandlers(const HandlersByName& handlersByName, const Shortcut& fired) const {
+    if (isPaused_) {
+        return;
+    }
     std::vector<Handler> toCall; // a copy: a handler may add others
     for (const auto& [rawValue, handlers] : handlersByName) {
         if (getShortcut(handlers.name) == fired) {

@@ -54,6 +54,14 @@ class KeyboardShortcuts {
     void disable(const std::vector<Name>& names);
     void enable(const std::vector<Name>& names);
 
+    /// A recorder starts (true) or stops recording. Meanwhile no handler is called.
+    void setRecorderActive(bool isActive);
+
+    /// The observer is told whether a recorder is recording, each time one starts or stops.
+    [[nodiscard]] Subscription onRecorderActiveStatusDidChange(std::function<void(bool)> observer) const {
+        return recorderActiveStatusDidChange_.subscribe(std::move(observer));
+    }
+
     /// The observer is told the name whose shortcut was set or removed.
     [[nodiscard]] Subscription onShortcutByNameDidChange(std::function<void(const Name&)> observer) const {
         return shortcutByNameDidChange_.subscribe(std::move(observer));
@@ -77,7 +85,9 @@ class KeyboardShortcuts {
     std::set<Shortcut> registeredShortcuts_;
     HotKeyRegistrations hotKeys_;
     Subscription menuTracking_;
+    bool isPaused_ = false;
     ObserverList<const Name&> shortcutByNameDidChange_;
+    ObserverList<bool> recorderActiveStatusDidChange_;
 };
 
 } // namespace tovrel

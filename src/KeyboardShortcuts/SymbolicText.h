@@ -13,8 +13,8 @@ namespace tovrel {
 using CharacterForKeyCode = std::function<std::optional<Text>(std::uint32_t keyCode)>;
 
 /// A shortcut in glyphs: ⌃ ⌥ ⇧ ⌘ in this order, the globe for Function, then the key. Not the order of a menu
-/// item's shortcut text.
+/// item's shortcut text. `spaceKey` is what the user's language calls the Space key, in lower case.
 [[nodiscard]] Text symbolicText(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode,
-                                const TextServices& textServices);
+                                const TextServices& textServices, const Text& spaceKey = "space");
 
 } // namespace tovrel

@@ -219,12 +219,13 @@ bool AppCoordinator::confirmCustomCommand(const CustomCommand& command) {
     if (command.kind == CustomCommandKind::open) {
         return true;
     }
-    return platform_.userInterface.runAlert(
+    const AlertAnswer answer = platform_.userInterface.runAlert(
         {.messageText = Text("Run “" + command.title.utf8() + "”?"),
          .informativeText = Text("This " + std::string(confirmationLabel(command.kind)) +
                                  " command can run actions on your Mac."),
          .firstButton = "Run",
          .secondButton = "Cancel"});
+    return answer == AlertAnswer::firstButton;
 }
 
 void AppCoordinator::addStatusItem() {

@@ -20,14 +20,15 @@ constexpr std::array<std::pair<std::int64_t, const char*>, 5> modifierNames{{
 } // namespace
 
 Text shortcutForPeople(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode,
-                       const TextServices& textServices) {
+                       const TextServices& textServices, const LocalizedString& localized) {
     std::string text;
     for (const auto& [bit, name] : modifierNames) {
         if ((shortcut.carbonModifiers & bit) != 0) {
             text += name;
         }
     }
-    const Text key = symbolicText({shortcut.carbonKeyCode, 0}, characterForKeyCode, textServices);
+    const Text key = symbolicText({shortcut.carbonKeyCode, 0}, characterForKeyCode, textServices,
+                                  localized("KeyboardShortcuts", "space_key"));
     return Text(text + shortcutWithKeyNames(key).utf8());
 }
 

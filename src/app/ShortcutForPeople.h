@@ -2,6 +2,7 @@
 
 #include "KeyboardShortcuts/SymbolicText.h"
 #include "model/Shortcut.h"
+#include "support/LocalizedString.h"
 #include "support/Text.h"
 #include "support/TextServices.h"
 
@@ -9,6 +10,6 @@ namespace tovrel {
 
 /// A global shortcut spelled with the names that keys have on this desktop's keyboards: "Ctrl+Shift+P".
 [[nodiscard]] Text shortcutForPeople(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode,
-                                     const TextServices& textServices);
+                                     const TextServices& textServices, const LocalizedString& localized);
 
 } // namespace tovrel

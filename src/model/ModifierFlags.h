@@ -15,6 +15,7 @@ inline constexpr ModifierFlags shift = 0x20000;
 inline constexpr ModifierFlags control = 0x40000;
 inline constexpr ModifierFlags option = 0x80000;
 inline constexpr ModifierFlags command = 0x100000;
+inline constexpr ModifierFlags help = 0x400000;
 inline constexpr ModifierFlags function = 0x800000;
 } // namespace modifier_flags
 

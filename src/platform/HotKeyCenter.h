@@ -4,7 +4,6 @@
 #include <functional>
 #include <optional>
 #include <variant>
-#include <vector>
 
 #include "model/KeyEvent.h"
 #include "model/Shortcut.h"
@@ -59,8 +58,9 @@ class HotKeyCenter {
     /// handler; an empty one ends that.
     virtual void setRawKeyHandler(RawKeyHandler handler) = 0;
 
-    /// The combinations the desktop itself uses, as far as it tells.
-    [[nodiscard]] virtual std::vector<Shortcut> systemShortcuts() = 0;
+    /// Whether the desktop or another program uses the combination, as far as that can be told. A combination
+    /// registered here is not one of those.
+    [[nodiscard]] virtual bool isSystemShortcut(const Shortcut& shortcut) = 0;
 
     /// What the current layout types for the key without modifiers; absent when that is nothing.
     [[nodiscard]] virtual std::optional<Text> characterForKeyCode(std::uint32_t keyCode) = 0;

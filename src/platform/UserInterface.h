@@ -11,12 +11,18 @@
 
 namespace tovrel {
 
-/// A question with two answers. The first button is the default one.
+/// A question with two answers, or with one when the second has no text. The first button is the default one.
 struct Alert {
     Text messageText;
     Text informativeText;
     Text firstButton;
     Text secondButton;
+};
+
+enum class AlertAnswer {
+    firstButton,
+    secondButton,
+    none, ///< Dismissed by Escape or by closing the window.
 };
 
 /// This process as an application of the desktop.
@@ -33,15 +39,17 @@ class UserInterface {
     /// The main screen without the desktop's bars; absent without a screen.
     [[nodiscard]] virtual std::optional<Rect> mainScreenVisibleFrame() = 0;
 
-    /// Asks the question, as a warning, and returns once it is answered; events go on being handled. True
-    /// only when the first button was chosen.
-    [[nodiscard]] virtual bool runAlert(const Alert& alert) = 0;
+    /// Asks the question, as a warning, and returns once it is answered; events go on being handled.
+    [[nodiscard]] virtual AlertAnswer runAlert(const Alert& alert) = 0;
 
     /// The item is shown as soon as the desktop has a status bar; null when it cannot have one.
     [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription description) = 0;
 
     /// The observer is called when one of this application's menus opens (true) and closes (false).
     [[nodiscard]] virtual Subscription onMenuTracking(std::function<void(bool)> observer) = 0;
+
+    /// The short sound for what cannot be done.
+    virtual void beep() = 0;
 
     /// Ends the program's main loop.
     virtual void terminate() = 0;

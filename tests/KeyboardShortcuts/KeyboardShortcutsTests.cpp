@@ -143,11 +143,11 @@ TEST(SymbolicTextTest, ModifiersThenKey) {
         return keyCode == 41 ? std::optional<Text>("ö") : std::nullopt;
     };
     const auto text = [&](std::int64_t keyCode, std::int64_t modifiers) {
-        return symbolicText({keyCode, modifiers}, layout, textServices);
+        return symbolicText({keyCode, modifiers}, layout, textServices, "leertaste");
     };
     EXPECT_EQ(text(41, 0x100 | 0x200 | 0x800 | 0x1000 | 0x20000), "⌃⌥⇧⌘\U0001F310\uFE0EÖ");
     EXPECT_EQ(text(7, 0x100), "⌘\uFFFD");
-    EXPECT_EQ(text(49, 0x800), "⌥Space");
+    EXPECT_EQ(text(49, 0x800), "⌥Leertaste");
     EXPECT_EQ(text(91, 0), "8\u20E3");
     EXPECT_EQ(text(90, 0), "F20");
 }

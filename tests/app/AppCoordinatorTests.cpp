@@ -262,7 +262,7 @@ TEST_F(AppCoordinatorTest, CustomCommandsAreConfirmedRunAndCounted) {
     store.saveCustomCommand(customCommand("Backup", CustomCommandKind::shellScript));
     pressHotKey();
     model_->setQuery("backup");
-    userInterface_.setAnswer(false);
+    userInterface_.setAnswer(AlertAnswer::secondButton);
     returnKey();
     EXPECT_FALSE(panel_->isVisible());
     EXPECT_TRUE(runner_.requests().empty());
@@ -273,7 +273,7 @@ TEST_F(AppCoordinatorTest, CustomCommandsAreConfirmedRunAndCounted) {
     EXPECT_EQ(alert.informativeText, "This shell command can run actions on your Mac.");
     EXPECT_EQ(std::pair(alert.firstButton, alert.secondButton), (std::pair<Text, Text>("Run", "Cancel")));
 
-    userInterface_.setAnswer(true);
+    userInterface_.setAnswer(AlertAnswer::firstButton);
     runner_.setOutcome(LaunchFailure{2});
     pressHotKey();
     model_->setQuery("backup");

@@ -1,5 +1,6 @@
 #include "app/resident/AccessibilityOffer.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -9,19 +10,20 @@ namespace {
 /// So many applications are named; of the rest only the number is told.
 constexpr std::size_t longestList = 5;
 
-std::string list(const std::vector<Text>& names) {
-    std::string text;
-    for (std::size_t i = 0; i < names.size() && i < longestList; ++i) {
-        text += (i == 0 ? "" : ", ") + names[i].utf8();
+/// "These must be restarted …", with a space before; empty when nothing must be.
+Text toBeRestarted(const std::vector<Text>& names, const LocalizedString& localized) {
+    if (names.empty()) {
+        return {};
     }
-    if (names.size() > longestList) {
-        text += " and " + std::to_string(names.size() - longestList) + " more";
+    const auto shown = std::min(names.size(), longestList);
+    Text list =
+        joined(std::vector<Text>(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(shown)), ", ");
+    if (shown < names.size()) {
+        list = Text(list.utf8() + filled(localized("AccessibilityOffer", " and %@ more"),
+                                         std::to_string(names.size() - shown))
+                                      .utf8());
     }
-    return text;
-}
-
-std::string toBeRestarted(const std::vector<Text>& names) {
-    return names.empty() ? std::string() : " These must be restarted to take notice: " + list(names) + ".";
+    return filled(localized("AccessibilityOffer", " These must be restarted to take notice: %@."), list);
 }
 
 } // namespace
@@ -35,35 +37,42 @@ void AccessibilityOffer::show() {
 }
 
 void AccessibilityOffer::offerToTurnOn() {
-    const bool isWanted = userInterface_->runAlert(
-        {.messageText = "Turn on accessibility?",
+    const LocalizedString& localized = localized_;
+    const AlertAnswer answer = userInterface_->runAlert(
+        {.messageText = localized("AccessibilityOffer", "Turn on accessibility?"),
          .informativeText = Text(
-             "Tovrel reads other applications' menus over the accessibility bus. Once it is on, applications "
-             "publish what they show to every program of yours, as they do for a screen reader. You can turn "
-             "it off again in the same place." +
-             toBeRestarted(accessibility_->applicationsToRestart())),
-         .firstButton = "Turn On",
-         .secondButton = "Cancel"});
-    if (isWanted && !accessibility_->setEnabled(true)) {
+             localized("AccessibilityOffer",
+                       "Tovrel reads other applications' menus over the accessibility bus. Once it is on, "
+                       "applications publish what they show to every program of yours, as they do for a "
+                       "screen reader. You can turn it off again in the same place.")
+                 .utf8() +
+             toBeRestarted(accessibility_->applicationsToRestart(), localized).utf8()),
+         .firstButton = localized("AccessibilityOffer", "Turn On"),
+         .secondButton = localized("AccessibilityOffer", "Cancel")});
+    if (answer == AlertAnswer::firstButton && !accessibility_->setEnabled(true)) {
         static_cast<void>(userInterface_->runAlert(
-            {.messageText = "Accessibility could not be turned on",
-             .informativeText = "The session has no accessibility bus, or it does not answer. The package "
-                                "at-spi2-core provides it.",
-             .firstButton = "OK",
+            {.messageText = localized("AccessibilityOffer", "Accessibility could not be turned on"),
+             .informativeText = localized("AccessibilityOffer",
+                                          "The session has no accessibility bus, or it does not answer. The "
+                                          "package at-spi2-core provides it."),
+             .firstButton = localized("KeyboardShortcuts", "ok"),
              .secondButton = {}}));
     }
 }
 
 void AccessibilityOffer::offerToTurnOff() {
-    const bool isUnwanted = userInterface_->runAlert(
-        {.messageText = "Turn off accessibility?",
+    const LocalizedString& localized = localized_;
+    const AlertAnswer answer = userInterface_->runAlert(
+        {.messageText = localized("AccessibilityOffer", "Turn off accessibility?"),
          .informativeText =
-             Text("It is on: Tovrel can read the menus of applications that were started since." +
-                  toBeRestarted(accessibility_->applicationsToRestart()) +
-                  " Without it, Tovrel cannot read any menus."),
-         .firstButton = "Turn Off",
-         .secondButton = "Keep On"});
-    if (isUnwanted) {
+             Text(localized("AccessibilityOffer",
+                            "It is on: Tovrel can read the menus of applications that were started since.")
+                      .utf8() +
+                  toBeRestarted(accessibility_->applicationsToRestart(), localized).utf8() +
+                  localized("AccessibilityOffer", " Without it, Tovrel cannot read any menus.").utf8()),
+         .firstButton = localized("AccessibilityOffer", "Turn Off"),
+         .secondButton = localized("AccessibilityOffer", "Keep On")});
+    if (answer == AlertAnswer::firstButton) {
         accessibility_->setEnabled(false);
     }
 }

@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <string_view>
+#include <utility>
 
 #include "platform/UserInterface.h"
 #include "platform/linux/ToolkitAccessibility.h"
+#include "support/LocalizedString.h"
 
 namespace tovrel {
 
@@ -16,8 +18,9 @@ class AccessibilityOffer {
     static constexpr std::string_view address =
         "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
 
-    AccessibilityOffer(ToolkitAccessibility& accessibility, UserInterface& userInterface)
-        : accessibility_(&accessibility), userInterface_(&userInterface) {}
+    AccessibilityOffer(ToolkitAccessibility& accessibility, UserInterface& userInterface,
+                       LocalizedString localized)
+        : accessibility_(&accessibility), userInterface_(&userInterface), localized_(std::move(localized)) {}
 
     /// Returns once the user has answered.
     void show();
@@ -28,6 +31,7 @@ class AccessibilityOffer {
 
     ToolkitAccessibility* accessibility_;
     UserInterface* userInterface_;
+    LocalizedString localized_;
 };
 
 } // namespace tovrel

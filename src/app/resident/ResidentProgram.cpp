@@ -44,8 +44,9 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
           windows_, accessibilityBus_, std::make_shared<DesktopEntries>(DesktopEntries::ofEnvironment()))),
       accessibility_(accessibilityBus_, windowTitles(windows_), AtspiLimits()),
       toolkitAccessibility_(accessibilityBus_, workspace_),
-      hotKeys_(queue_, [this] { return keyDestination(); }), userInterface_(views_, windowSystem()),
-      accessibilityOffer_(toolkitAccessibility_, userInterface_),
+      hotKeys_(queue_, [this] { return keyDestination(); }), translations_(invocation.localeIdentifier),
+      userInterface_(views_, windowSystem()),
+      accessibilityOffer_(toolkitAccessibility_, userInterface_, localizedByQt()),
       shortcuts_(preferences_, hotKeys_, userInterface_, textServices_, console.output),
       coordinator_(std::make_shared<AppCoordinator>(platform())),
       service_(
@@ -125,7 +126,7 @@ Text ResidentProgram::shortcutForPeople() {
     return shortcut ? tovrel::shortcutForPeople(
                           *shortcut,
                           [this](std::uint32_t keyCode) { return hotKeys_.characterForKeyCode(keyCode); },
-                          textServices_)
+                          textServices_, localizedByQt())
                     : Text();
 }
 

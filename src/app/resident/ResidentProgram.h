@@ -22,6 +22,7 @@
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtPalettePanel.h"
 #include "platform/qt/QtUserInterface.h"
+#include "platform/qt/Translations.h"
 #include "platform/qt/ViewEngine.h"
 #include "support/TextServices.h"
 
@@ -60,6 +61,7 @@ class ResidentProgram {
     LinuxHotKeyCenter hotKeys_;
     LinuxKeyEventPoster keyPoster_;
     PosixProcessRunner processRunner_;
+    Translations translations_;
     ViewEngine views_;
     QtUserInterface userInterface_;
     AccessibilityOffer accessibilityOffer_;

@@ -23,9 +23,11 @@ class AlertQuestion : public QObject {
     QString secondButton;
 
     Q_INVOKABLE void answer(bool isFirst) { Q_EMIT answered(isFirst); }
+    Q_INVOKABLE void dismiss() { Q_EMIT dismissed(); }
 
   Q_SIGNALS:
     void answered(bool isFirst);
+    void dismissed();
 };
 
 } // namespace tovrel

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// A warning with two answers. Escape is the second one, wherever the focus is.
+// A warning with two answers, or one. Escape gives none, wherever the focus is.
 FocusScope {
     id: view
 
@@ -11,7 +11,7 @@ FocusScope {
     implicitHeight: texts.y + texts.height + 24 + first.implicitHeight + 24
     focus: true
 
-    Keys.onEscapePressed: view.question.answer(false)
+    Keys.onEscapePressed: view.question.dismiss()
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: view.question.messageText

@@ -83,8 +83,21 @@ void LinuxHotKeyCenter::setRawKeyHandler(RawKeyHandler handler) {
     xcb_flush(connection_.handle());
 }
 
-std::vector<Shortcut> LinuxHotKeyCenter::systemShortcuts() {
-    return {};
+bool LinuxHotKeyCenter::isSystemShortcut(const Shortcut& shortcut) {
+    const auto tried = grabFor(static_cast<std::uint32_t>(shortcut.carbonKeyCode),
+                               modifierFlags(shortcut.carbonModifiers));
+    const auto* grab = std::get_if<X11HotKeyGrab>(&tried);
+    if (grab == nullptr ||
+        std::any_of(registrations_.begin(), registrations_.end(),
+                    [&](const Registration& own) { return own.isTaken && own.grab == *grab; })) {
+        return false;
+    }
+    const bool isRefused = grab->take(connection_.handle(), connection_.root()).has_value();
+    if (!isRefused) {
+        grab->giveBack(connection_.handle(), connection_.root());
+    }
+    waitForServer();
+    return isRefused;
 }
 
 std::optional<Text> LinuxHotKeyCenter::characterForKeyCode(std::uint32_t keyCode) {

@@ -63,8 +63,8 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
     void setHotKeyHandler(HotKeyHandler handler) override;
     /// The keys are those typed anywhere while the handler is set; they reach their window as well.
     void setRawKeyHandler(RawKeyHandler handler) override;
-    /// None: an X server keeps no list of them, and the grabs of others show only when one's own are refused.
-    [[nodiscard]] std::vector<Shortcut> systemShortcuts() override;
+    /// An X server keeps no list of the grabs of others: this one is tried, and given back at once.
+    [[nodiscard]] bool isSystemShortcut(const Shortcut& shortcut) override;
     [[nodiscard]] std::optional<Text> characterForKeyCode(std::uint32_t keyCode) override;
 
     [[nodiscard]] int fileDescriptor() const override { return connection_.fileDescriptor(); }

@@ -16,7 +16,9 @@ class MemoryHotKeyCenter : public HotKeyCenter {
     void unregisterHotKey(HotKeyHandle handle) override { registered_.erase(handle); }
     void setHotKeyHandler(HotKeyHandler handler) override { hotKeyHandler_ = std::move(handler); }
     void setRawKeyHandler(RawKeyHandler handler) override { rawKeyHandler_ = std::move(handler); }
-    [[nodiscard]] std::vector<Shortcut> systemShortcuts() override { return {}; }
+    [[nodiscard]] bool isSystemShortcut(const Shortcut& shortcut) override {
+        return refused_.contains(shortcut);
+    }
     [[nodiscard]] std::optional<Text> characterForKeyCode(std::uint32_t keyCode) override;
 
     /// From now on the combination is refused, as one that another program has.

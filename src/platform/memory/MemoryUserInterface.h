@@ -15,7 +15,7 @@ class MemoryUserInterface : public UserInterface {
         return resignActive_.subscribe(std::move(observer));
     }
     [[nodiscard]] std::optional<Rect> mainScreenVisibleFrame() override { return visibleFrame_; }
-    [[nodiscard]] bool runAlert(const Alert& alert) override {
+    [[nodiscard]] AlertAnswer runAlert(const Alert& alert) override {
         alerts_.push_back(alert);
         return answer_;
     }
@@ -26,15 +26,17 @@ class MemoryUserInterface : public UserInterface {
     [[nodiscard]] Subscription onMenuTracking(std::function<void(bool)> observer) override {
         return menuTracking_.subscribe(std::move(observer));
     }
+    void beep() override { ++beeps_; }
     void terminate() override { isTerminated_ = true; }
 
-    /// Which button answers the alerts from now on: true for the first.
-    void setAnswer(bool isFirstButton) { answer_ = isFirstButton; }
+    /// How alerts are answered from now on.
+    void setAnswer(AlertAnswer answer) { answer_ = answer; }
     void setVisibleFrame(std::optional<Rect> frame) { visibleFrame_ = frame; }
     void resignActive() { resignActive_.notify(); }
     void setMenuOpen(bool isOpen) { menuTracking_.notify(isOpen); }
 
     [[nodiscard]] int activations() const { return activations_; }
+    [[nodiscard]] int beeps() const { return beeps_; }
     [[nodiscard]] const std::vector<Alert>& alerts() const { return alerts_; }
     /// The item made last.
     [[nodiscard]] const StatusItemDescription& statusItem() const { return statusItem_; }
@@ -42,7 +44,8 @@ class MemoryUserInterface : public UserInterface {
 
   private:
     int activations_ = 0;
-    bool answer_ = true;
+    int beeps_ = 0;
+    AlertAnswer answer_ = AlertAnswer::firstButton;
     bool isTerminated_ = false;
     std::optional<Rect> visibleFrame_;
     std::vector<Alert> alerts_;

@@ -35,9 +35,9 @@ std::uint32_t keyCodeOf(const QKeyEvent& event, const KeyCodeFromEvdev& keyCodeF
         return *byMeaning;
     }
     if (keyCodeFromEvdev && event.nativeScanCode() >= evdevOffset) {
-        return keyCodeFromEvdev(event.nativeScanCode() - evdevOffset).value_or(unknownKeyCode);
+        return keyCodeFromEvdev(event.nativeScanCode() - evdevOffset).value_or(key_codes::unknown);
     }
-    return unknownKeyCode;
+    return key_codes::unknown;
 }
 
 ModifierFlags flagsOf(Qt::KeyboardModifiers modifiers) {

@@ -1,5 +1,6 @@
 #include "platform/qt/QtUserInterface.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -67,7 +68,7 @@ std::optional<Rect> QtUserInterface::mainScreenVisibleFrame() {
     return upwards(screen->availableGeometry(), *primary);
 }
 
-bool QtUserInterface::runAlert(const Alert& alert) {
+AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
     AlertQuestion question;
     question.messageText = qtString(alert.messageText);
     question.informativeText = qtString(alert.informativeText);
@@ -84,11 +85,12 @@ bool QtUserInterface::runAlert(const Alert& alert) {
         window.view().setPosition(frame.topLeft());
     }
     QEventLoop loop;
-    bool isFirst = false;
-    QObject::connect(&question, &AlertQuestion::answered, &loop, [&](bool isFirstAnswer) {
-        isFirst = isFirstAnswer;
+    AlertAnswer answer = AlertAnswer::none;
+    QObject::connect(&question, &AlertQuestion::answered, &loop, [&](bool isFirst) {
+        answer = isFirst ? AlertAnswer::firstButton : AlertAnswer::secondButton;
         loop.quit();
     });
+    QObject::connect(&question, &AlertQuestion::dismissed, &loop, [&] { loop.quit(); });
     // Closed by the window manager.
     QObject::connect(&window.view(), &QWindow::visibleChanged, &loop, [&](bool isVisible) {
         if (!isVisible) {
@@ -98,7 +100,7 @@ bool QtUserInterface::runAlert(const Alert& alert) {
     window.show();
     loop.exec();
     window.hide();
-    return isFirst;
+    return answer;
 }
 
 std::unique_ptr<StatusItem> QtUserInterface::makeStatusItem(StatusItemDescription description) {
@@ -108,6 +110,10 @@ std::unique_ptr<StatusItem> QtUserInterface::makeStatusItem(StatusItemDescriptio
 
 Subscription QtUserInterface::onMenuTracking(std::function<void(bool)> observer) {
     return menuTracking_->subscribe(std::move(observer));
+}
+
+void QtUserInterface::beep() {
+    QApplication::beep();
 }
 
 void QtUserInterface::terminate() {

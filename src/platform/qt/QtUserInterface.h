@@ -24,9 +24,10 @@ class QtUserInterface final : public QObject, public UserInterface {
     /// Of the screen with the active window, else of that with the pointer. In the coordinates of
     /// ScreenCoordinates.h.
     [[nodiscard]] std::optional<Rect> mainScreenVisibleFrame() override;
-    [[nodiscard]] bool runAlert(const Alert& alert) override;
+    [[nodiscard]] AlertAnswer runAlert(const Alert& alert) override;
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription description) override;
     [[nodiscard]] Subscription onMenuTracking(std::function<void(bool)> observer) override;
+    void beep() override;
     void terminate() override;
 
   private:

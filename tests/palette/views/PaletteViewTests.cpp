@@ -10,6 +10,7 @@
 #include "PaletteStage.h"
 #include "RecordedCommands.h"
 #include "commands/CommandSamples.h"
+#include "model/VirtualKeyCodes.h"
 #include "palette/CommandIcon.h"
 #include "palette/PaletteKeyboardAction.h"
 #include "palette/views/PaletteResultsModel.h"
@@ -209,7 +210,7 @@ TEST_F(PaletteViewTest, TheKeyHandlerSeesKeysFirstAndKeepsWhatItUses) {
     showMousepad();
     std::vector<KeyEvent> seen;
     stage_.panel.setKeyHandler([&](const KeyEvent& event) {
-        if (event.charactersIgnoringModifiers || event.keyCode != unknownKeyCode) {
+        if (event.charactersIgnoringModifiers || event.keyCode != key_codes::unknown) {
             seen.push_back(event); // not the modifier keys, which are pressed as well
         }
         return keyboardAction(event, stage_.textServices).has_value();

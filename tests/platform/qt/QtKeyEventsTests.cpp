@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <xkbcommon/xkbcommon-keysyms.h>
 
+#include "model/VirtualKeyCodes.h"
+
 namespace tovrel {
 namespace {
 
@@ -53,8 +55,8 @@ TEST(QtKeyEventsTest, KeyCodesAndModifiers) {
     EXPECT_EQ(converted(Qt::Key_Up, {}).keyCode, 126U);
     EXPECT_EQ(converted(Qt::Key_Down, {}).keyCode, 125U);
     EXPECT_EQ(converted(Qt::Key_P, {}, XKB_KEY_p, 33).keyCode, 35U);
-    EXPECT_EQ(converted(Qt::Key_P, {}, XKB_KEY_p, 34).keyCode, unknownKeyCode);
-    EXPECT_EQ(converted(Qt::Key_P, {}).keyCode, unknownKeyCode);
+    EXPECT_EQ(converted(Qt::Key_P, {}, XKB_KEY_p, 34).keyCode, key_codes::unknown);
+    EXPECT_EQ(converted(Qt::Key_P, {}).keyCode, key_codes::unknown);
 
     EXPECT_EQ(converted(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier).modifierFlags,
               modifier_flags::command | modifier_flags::shift);

@@ -23,7 +23,7 @@ using testing::ElementsAre;
 class QtUserInterfaceTest : public testing::Test {
   protected:
     /// Shows an alert, does something to its window once it can be used, and returns the answer.
-    bool answerAfter(const std::function<void(QQuickView&)>& act) {
+    AlertAnswer answerAfter(const std::function<void(QQuickView&)>& act) {
         QTimer::singleShot(0, [&] {
             const auto windows = QGuiApplication::topLevelWindows();
             for (QWindow* window : windows) {
@@ -51,32 +51,35 @@ TEST_F(QtUserInterfaceTest, AlertsAreAnsweredByKeysAndClicks) {
             }
         };
     };
-    EXPECT_TRUE(answerAfter(keys({Qt::Key_Return})));
-    EXPECT_TRUE(answerAfter(keys({Qt::Key_Enter})));
-    EXPECT_TRUE(answerAfter(keys({Qt::Key_Space})));
-    EXPECT_FALSE(answerAfter(keys({Qt::Key_Escape})));
-    EXPECT_FALSE(answerAfter(keys({Qt::Key_Tab, Qt::Key_Return})));
-    EXPECT_FALSE(answerAfter(keys({Qt::Key_Left, Qt::Key_Space})));
-    EXPECT_TRUE(answerAfter(keys({Qt::Key_Left, Qt::Key_Right, Qt::Key_Return})));
-    EXPECT_FALSE(answerAfter(keys({Qt::Key_Tab, Qt::Key_Escape})));
-    EXPECT_FALSE(answerAfter([](QQuickView& view) { view.close(); }));
+    EXPECT_EQ(answerAfter(keys({Qt::Key_Return})), AlertAnswer::firstButton);
+    EXPECT_EQ(answerAfter(keys({Qt::Key_Enter})), AlertAnswer::firstButton);
+    EXPECT_EQ(answerAfter(keys({Qt::Key_Space})), AlertAnswer::firstButton);
+    EXPECT_EQ(answerAfter(keys({Qt::Key_Escape})), AlertAnswer::none);
+    EXPECT_EQ(answerAfter(keys({Qt::Key_Tab, Qt::Key_Return})), AlertAnswer::secondButton);
+    EXPECT_EQ(answerAfter(keys({Qt::Key_Left, Qt::Key_Space})), AlertAnswer::secondButton);
+    EXPECT_EQ(answerAfter(keys({Qt::Key_Left, Qt::Key_Right, Qt::Key_Return})), AlertAnswer::firstButton);
+    EXPECT_EQ(answerAfter(keys({Qt::Key_Tab, Qt::Key_Escape})), AlertAnswer::none);
+    EXPECT_EQ(answerAfter([](QQuickView& view) { view.close(); }), AlertAnswer::none);
     // The first button is in the lower right corner.
-    EXPECT_TRUE(answerAfter([](QQuickView& view) {
+    const auto clickFirst = [](QQuickView& view) {
         QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(view.width() - 60, view.height() - 44));
-    }));
-    EXPECT_FALSE(answerAfter([](QQuickView& view) {
+    };
+    EXPECT_EQ(answerAfter(clickFirst), AlertAnswer::firstButton);
+    const auto clickSecond = [](QQuickView& view) {
         QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(view.width() - 200, view.height() - 44));
-    }));
+    };
+    EXPECT_EQ(answerAfter(clickSecond), AlertAnswer::secondButton);
 }
 
 TEST_F(QtUserInterfaceTest, EventsGoOnDuringAnAlert) {
     QtMainQueue queue;
     bool ran = false;
     queue.postAfter(1ms, [&] { ran = true; });
-    EXPECT_FALSE(answerAfter([&](QQuickView& view) {
+    const auto closeAfterTask = [&](QQuickView& view) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return ran; }));
         view.close();
-    }));
+    };
+    EXPECT_EQ(answerAfter(closeAfterTask), AlertAnswer::none);
 }
 
 TEST_F(QtUserInterfaceTest, ScreensAreMeasuredUpwardsFromThePrimaryOne) {

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "platform/SettingsWindow.h"
+#include "settings/SettingsViewState.h"
+
+namespace tovrel {
+
+/// A window that keeps what it is to show.
+class MemorySettingsWindow : public SettingsWindow {
+  public:
+    void setContent(std::unique_ptr<SettingsViewState> state) override { state_ = std::move(state); }
+    void showAndMakeKey() override { ++showings_; }
+
+    [[nodiscard]] SettingsViewState& state() { return *state_; }
+    [[nodiscard]] int showings() const { return showings_; }
+
+  private:
+    std::unique_ptr<SettingsViewState> state_;
+    int showings_ = 0;
+};
+
+} // namespace tovrel

@@ -1,0 +1,173 @@
+#include "KeyboardShortcuts/RecorderCocoa.h"
+
+#include <memory>
+#include <sstream>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "model/VirtualKeyCodes.h"
+#include "platform/memory/MemoryHotKeyCenter.h"
+#include "platform/memory/MemoryPreferencesDomain.h"
+#include "platform/memory/MemoryUserInterface.h"
+
+namespace tovrel {
+namespace {
+
+constexpr const char* key = "KeyboardShortcuts_togglePalette";
+constexpr Shortcut standard{35, 768};
+constexpr std::uint32_t keyK = 40;
+constexpr std::uint32_t keyW = 13;
+
+KeyEvent keyDown(std::uint32_t keyCode, ModifierFlags modifiers = 0) {
+    return {KeyEventType::keyDown, keyCode, std::nullopt, modifiers};
+}
+
+class RecorderCocoaTest : public testing::Test {
+  protected:
+    RecorderCocoaTest() {
+        shortcuts_.onKeyDown(name_, [this] { ++fired_; });
+        recorder_->becomeFirstResponder();
+    }
+
+    static Text textOf(const Shortcut& shortcut) {
+        return Text(std::to_string(shortcut.carbonKeyCode) + "/" + std::to_string(shortcut.carbonModifiers));
+    }
+    [[nodiscard]] std::unique_ptr<RecorderCocoa> makeRecorder() {
+        return std::make_unique<RecorderCocoa>(
+            RecorderSurroundings{.shortcuts = shortcuts_,
+                                 .hotKeyCenter = center_,
+                                 .userInterface = userInterface_,
+                                 .localized =
+                                     [](const char* /*context*/, const char* name) {
+                                         return std::string_view(name) ==
+                                                        "keyboard_shortcut_used_by_menu_item"
+                                                    ? Text("in %@!")
+                                                    : Text(name);
+                                     },
+                                 .textOf = textOf,
+                                 .menuItemTitle =
+                                     [](const Shortcut& shortcut) {
+                                         return shortcut == Shortcut{keyW, carbon_modifiers::command}
+                                                    ? std::optional<Text>("Close")
+                                                    : std::nullopt;
+                                     }},
+            name_);
+    }
+    [[nodiscard]] std::optional<Shortcut> stored() const { return shortcuts_.getShortcut(name_); }
+
+    TextServices textServices_{"en"};
+    MemoryPreferencesDomain preferences_;
+    MemoryHotKeyCenter center_;
+    MemoryUserInterface userInterface_;
+    std::ostringstream output_;
+    KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};
+    KeyboardShortcuts::Name name_ = shortcuts_.makeName("togglePalette", standard);
+    int fired_ = 0;
+    std::unique_ptr<RecorderCocoa> recorder_ = makeRecorder();
+};
+
+TEST_F(RecorderCocoaTest, WhileItRecordsNothingFires) {
+    std::vector<bool> told;
+    const Subscription subscription =
+        shortcuts_.onRecorderActiveStatusDidChange([&](bool isActive) { told.push_back(isActive); });
+    EXPECT_EQ(recorder_->placeholder().get(), Text("press_shortcut"));
+    EXPECT_EQ(recorder_->stringValue().get(), textOf(standard));
+    center_.press(standard);
+    EXPECT_EQ(fired_, 0);
+    recorder_->handleMouseUpOutside();
+    EXPECT_EQ(recorder_->placeholder().get(), Text("record_shortcut"));
+    center_.press(standard);
+    EXPECT_EQ(fired_, 1);
+    recorder_->becomeFirstResponder();
+    recorder_->becomeFirstResponder();
+    recorder_.reset();
+    center_.press(standard);
+    EXPECT_EQ(fired_, 2) << "a recorder that goes away while recording";
+    EXPECT_EQ(told, (std::vector<bool>{false, true, false}));
+}
+
+TEST_F(RecorderCocoaTest, KeysWithoutModifiersEndOrClear) {
+    const auto isRecordingAfter = [&](const KeyEvent& event, bool isSwallowed) {
+        recorder_->becomeFirstResponder();
+        EXPECT_EQ(recorder_->handleKeyDown(event), isSwallowed) << event.keyCode;
+        return recorder_->isRecording().get();
+    };
+    EXPECT_FALSE(isRecordingAfter(keyDown(key_codes::tab), false));
+    EXPECT_FALSE(isRecordingAfter(keyDown(key_codes::escape, modifier_flags::capsLock), true));
+    EXPECT_EQ(stored(), standard);
+    int requests = 0;
+    const Subscription subscription = recorder_->focusRequest().subscribe([&] { ++requests; });
+    EXPECT_TRUE(isRecordingAfter(keyDown(key_codes::deleteKey), true));
+    EXPECT_EQ(preferences_.value(key), PreferenceValue(false));
+    EXPECT_EQ(recorder_->stringValue().get(), Text());
+    EXPECT_EQ(requests, 1);
+    shortcuts_.setShortcut(standard, name_);
+    EXPECT_EQ(recorder_->stringValue().get(), textOf(standard)) << "changed elsewhere";
+    EXPECT_TRUE(isRecordingAfter(keyDown(key_codes::forwardDelete), true));
+    EXPECT_EQ(stored(), std::nullopt);
+    EXPECT_EQ(userInterface_.beeps(), 0);
+}
+
+TEST_F(RecorderCocoaTest, ATypingKeyIsRefusedAndAFunctionKeyIsNot) {
+    for (const KeyEvent& event :
+         {keyDown(keyK), keyDown(keyK, modifier_flags::shift), keyDown(key_codes::tab, modifier_flags::shift),
+          keyDown(key_codes::unknown, modifier_flags::command)}) {
+        EXPECT_TRUE(recorder_->handleKeyDown(event));
+        EXPECT_TRUE(recorder_->isRecording().get());
+    }
+    EXPECT_EQ(userInterface_.beeps(), 4);
+    EXPECT_FALSE(recorder_->handleKeyDown(keyDown(56, modifier_flags::shift))) << "the Shift key itself";
+    EXPECT_EQ(stored(), standard);
+    EXPECT_TRUE(recorder_->handleKeyDown(keyDown(key_codes::f12, modifier_flags::shift)));
+    EXPECT_EQ(stored(), (Shortcut{key_codes::f12, carbon_modifiers::shift}));
+    EXPECT_FALSE(recorder_->isRecording().get());
+    EXPECT_FALSE(recorder_->handleKeyDown(keyDown(keyK, modifier_flags::command))) << "no longer recording";
+}
+
+TEST_F(RecorderCocoaTest, ACombinationIsStoredRegisteredAndShown) {
+    const Shortcut chosen{keyK, carbon_modifiers::command | carbon_modifiers::control};
+    EXPECT_TRUE(recorder_->handleKeyDown(
+        keyDown(keyK, modifier_flags::command | modifier_flags::control | modifier_flags::capsLock)));
+    EXPECT_EQ(stored(), chosen);
+    EXPECT_EQ(center_.registrations(chosen), 1U);
+    EXPECT_EQ(center_.registrations(standard), 0U);
+    EXPECT_EQ(recorder_->stringValue().get(), textOf(chosen));
+    center_.press(chosen);
+    EXPECT_EQ(fired_, 1);
+}
+
+TEST_F(RecorderCocoaTest, AConflictAsksAndGivesTheFocusBack) {
+    int requests = 0;
+    const Subscription subscription = recorder_->focusRequest().subscribe([&] {
+        ++requests;
+        recorder_->becomeFirstResponder();
+    });
+    EXPECT_TRUE(recorder_->handleKeyDown(keyDown(keyW, modifier_flags::command)));
+    ASSERT_EQ(userInterface_.alerts().size(), 1U);
+    EXPECT_EQ(userInterface_.alerts().back().messageText, Text("in Close!"));
+    EXPECT_EQ(userInterface_.alerts().back().secondButton, Text());
+
+    const Shortcut taken{keyK, carbon_modifiers::control};
+    center_.refuse(taken);
+    for (const AlertAnswer answer : {AlertAnswer::firstButton, AlertAnswer::none}) {
+        userInterface_.setAnswer(answer);
+        EXPECT_TRUE(recorder_->handleKeyDown(keyDown(keyK, modifier_flags::control)));
+        EXPECT_EQ(stored(), standard);
+        EXPECT_TRUE(recorder_->isRecording().get());
+    }
+    userInterface_.setAnswer(AlertAnswer::secondButton);
+    EXPECT_TRUE(recorder_->handleKeyDown(keyDown(keyK, modifier_flags::control)));
+    EXPECT_EQ(stored(), taken);
+    EXPECT_FALSE(recorder_->isRecording().get());
+    EXPECT_EQ(requests, 4);
+
+    center_.refuse({key_codes::f12, 0});
+    recorder_->becomeFirstResponder();
+    EXPECT_TRUE(recorder_->handleKeyDown(keyDown(key_codes::f12)));
+    EXPECT_EQ(stored(), (Shortcut{key_codes::f12, 0})) << "F12 is not compared with the system's shortcuts";
+    EXPECT_EQ(userInterface_.alerts().size(), 4U);
+}
+
+} // namespace
+} // namespace tovrel
