@@ -84,8 +84,8 @@ void LinuxHotKeyCenter::setRawKeyHandler(RawKeyHandler handler) {
 }
 
 bool LinuxHotKeyCenter::isSystemShortcut(const Shortcut& shortcut) {
-    const auto tried = grabFor(static_cast<std::uint32_t>(shortcut.carbonKeyCode),
-                               modifierFlags(shortcut.carbonModifiers));
+    const auto tried =
+        grabFor(static_cast<std::uint32_t>(shortcut.carbonKeyCode), modifierFlags(shortcut.carbonModifiers));
     const auto* grab = std::get_if<X11HotKeyGrab>(&tried);
     if (grab == nullptr ||
         std::any_of(registrations_.begin(), registrations_.end(),
