@@ -1,6 +1,7 @@
 #include "KeyPlayer.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 
@@ -43,7 +44,7 @@ KeyPlayer::KeyPlayer(X11Connection& connection) : connection_(connection) {
     }
     const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
     for (int index = count - 1; index >= 0; --index) {
-        const xcb_keysym_t symbol = symbols[index * reply->keysyms_per_keycode];
+        const xcb_keysym_t symbol = symbols[static_cast<std::ptrdiff_t>(index) * reply->keysyms_per_keycode];
         const auto key = static_cast<xcb_keycode_t>(first + index);
         if (symbol > 0x20 && symbol < 0x7F) {
             keys_[std::string(1, static_cast<char>(symbol))] = key;
