@@ -49,14 +49,17 @@ def window_manager(directory):
     return ("openbox", "--sm-disable", "--config-file", str(configuration))
 
 
-def launch(desktop, command):
-    application = desktop.launch(command)
-    began = time.monotonic()
-    desktop.windows.place(application.window, *WINDOW)
-    application.bring_to_front()
-    if command[0] == "featherpad":
-        wait_for_time(began + FEATHERPAD_SECONDS)
-    return application
+def launch(desktop, *commands):
+    """Starts an application of each command, all over the whole screen, the last in front."""
+    applications, quiet = [], 0.0
+    for command in commands:
+        applications.append(desktop.launch(command))
+        desktop.windows.place(applications[-1].window, *WINDOW)
+        if command[0] == "featherpad":
+            quiet = time.monotonic() + FEATHERPAD_SECONDS
+    applications[-1].bring_to_front()
+    wait_for_time(quiet)
+    return applications
 
 
 class Palette:
