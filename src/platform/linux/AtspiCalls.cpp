@@ -29,6 +29,7 @@ void AtspiCalls::ask(std::string path, Question question, Handler handler) {
 }
 
 bool AtspiCalls::run() {
+    lastAnswer_ = std::chrono::steady_clock::now(); // It can only be silent when it is asked.
     while (!stopped_) {
         while (window_.hasRoom() && !queue_.empty()) {
             sendNext();
@@ -81,6 +82,8 @@ DBusMessage AtspiCalls::callFor(const Asked& asked) const {
     case Question::toolkitName:
         return withArguments(call("org.freedesktop.DBus.Properties", "Get"), "org.a11y.atspi.Application",
                              "ToolkitName");
+    case Question::ownAddress:
+        return call("org.a11y.atspi.Application", "GetApplicationBusAddress");
     case Question::keyBinding: {
         DBusMessage binding = call(actionInterface, "GetKeyBinding");
         return binding && sd_bus_message_append(binding.handle(), "i", 0) >= 0 ? std::move(binding)

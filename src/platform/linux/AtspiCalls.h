@@ -42,7 +42,7 @@ struct AtspiLimits {
 /// org.freedesktop.DBus.Properties.GetAll, Firefox of org.a11y.atspi.Action.GetActions.
 class AtspiCalls {
   public:
-    enum class Question { role, name, states, children, keyBinding, interfaces, toolkitName };
+    enum class Question { role, name, states, children, keyBinding, interfaces, toolkitName, ownAddress };
     /// Gets the answer, which may be an error or of any type.
     using Handler = DBusCallWindow::Handler;
 

@@ -42,7 +42,32 @@ X11Windows::X11Windows(const char* display)
 
 xcb_window_t X11Windows::activeWindowIdentifier() {
     const auto active = connection_.numbers(connection_.root(), "_NET_ACTIVE_WINDOW");
-    return active.empty() ? 0 : active.front();
+    if (!active.empty()) {
+        return active.front();
+    }
+    const bool isManaged = !connection_.numbers(connection_.root(), "_NET_SUPPORTING_WM_CHECK").empty();
+    return isManaged ? 0 : focusedWindow();
+}
+
+xcb_window_t X11Windows::focusedWindow() {
+    xcb_connection_t* connection = connection_.handle();
+    const XcbOwned<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    xcb_window_t window = focus ? focus->focus : xcb_window_t{XCB_NONE};
+    // The focus may also be nowhere or follow the pointer; those two values are no windows.
+    constexpr int deepest = 16;
+    for (int level = 0; level < deepest && window > XCB_INPUT_FOCUS_POINTER_ROOT; ++level) {
+        // What a window within another belongs to is told by the outer one (ICCCM 2.0, 4.1.2.5).
+        if (connection_.bytes(window, "WM_CLASS")) {
+            return window;
+        }
+        xcb_generic_error_t* error = nullptr;
+        const XcbOwned<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(connection, xcb_query_tree(connection, window), &error));
+        const XcbOwned<xcb_generic_error_t> owned(error); // The window may be gone by now.
+        window = tree ? tree->parent : xcb_window_t{XCB_NONE};
+    }
+    return 0;
 }
 
 std::optional<X11Window> X11Windows::activeWindow(std::chrono::steady_clock::time_point deadline) {

@@ -41,7 +41,7 @@ class X11Windows {
     [[nodiscard]] const char* display() const { return display_ ? display_->c_str() : nullptr; }
 
     /// The active window. While the focus changes the desktop names none for a moment, which is waited out
-    /// until the deadline.
+    /// until the deadline. Without a window manager it is the window with the input focus.
     [[nodiscard]] std::optional<X11Window> activeWindow(std::chrono::steady_clock::time_point deadline);
 
     /// All application windows, the topmost first.
@@ -67,6 +67,7 @@ class X11Windows {
 
   private:
     [[nodiscard]] xcb_window_t activeWindowIdentifier();
+    [[nodiscard]] xcb_window_t focusedWindow();
     [[nodiscard]] std::vector<xcb_window_t> topmostFirst();
     [[nodiscard]] std::optional<std::int32_t> processOf(xcb_window_t window);
 

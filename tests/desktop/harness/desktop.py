@@ -29,7 +29,8 @@ class Desktop:
     _entered = False
 
     def __init__(self, size=(1280, 800), with_buses=True, window_manager=("openbox", "--sm-disable")):
-        """`with_buses`: without them there are windows, but no session bus and no accessibility."""
+        """`with_buses`: without them there are windows, but no session bus and no accessibility.
+        `window_manager`: how it is started, or None for a desktop that has none."""
         self._size = size
         self._with_buses = with_buses
         self._window_manager = window_manager
@@ -42,7 +43,7 @@ class Desktop:
     def __enter__(self):
         if Desktop._entered:
             raise RuntimeError("there is a private desktop already")
-        require("Xvfb", self._window_manager[0], "dbus-daemon", "xdotool", "xprop", "import", "display", "setpriv")
+        require("Xvfb", *(self._window_manager or ())[:1], "dbus-daemon", "xdotool", "xprop", "import", "display", "setpriv")
         raise_on_ending_signals()
         Desktop._entered = True
         # Also when an exception passes the test runner by.
@@ -80,9 +81,16 @@ class Desktop:
         return Application(process, window, self)
 
     def bring_to_front(self, window):
-        """Activates the window and waits until the window manager says so."""
-        self.windows.activate(window)
-        wait_until(lambda: self.windows.active() == window, "the window to come to the front")
+        """Activates the window and waits until it is in front."""
+        if self._window_manager:
+            self.windows.activate(window)
+        else:
+            self.windows.give_focus(window)
+        wait_until(lambda: self.front_window() == window, "the window to come to the front")
+
+    def front_window(self):
+        """The active window as the window manager says, or else that with the input focus; None without one."""
+        return self.windows.active() if self._window_manager else self.windows.focused()
 
     def end(self, application):
         self._processes.end(application.process)
@@ -114,8 +122,9 @@ class Desktop:
         # The first key pressed on a display makes every client read the keyboard's layout anew, and a window
         # manager that does so misses keys; so it is pressed before there is one.
         self.windows.press_keys("Shift_L")
-        self._processes.start(list(self._window_manager), self.environment)
-        wait_until(self.windows.has_window_manager, "the window manager")
+        if self._window_manager:
+            self._processes.start(list(self._window_manager), self.environment)
+            wait_until(self.windows.has_window_manager, "the window manager")
 
     def _has_menu_bar(self, process_id):
         root = self.witness.application(process_id)

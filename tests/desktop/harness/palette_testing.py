@@ -49,5 +49,5 @@ class PaletteTestCase(DesktopTestCase):
                         "the palette to close")
 
     def wait_until_in_front(self, application):
-        self.wait_until(lambda: self.desktop.windows.active() == application.window,
+        self.wait_until(lambda: self.desktop.front_window() == application.window,
                         "the application to be in front")

@@ -8,6 +8,8 @@ PACKAGE_OF = {
     "dbus-daemon": "dbus",
     "xdotool": "xdotool",
     "xprop": "x11-utils",
+    "xrandr": "x11-xserver-utils",
+    "setxkbmap": "x11-xkb-utils",
     "import": "imagemagick",
     "display": "imagemagick",
     "setpriv": "util-linux",

@@ -60,7 +60,7 @@ class Resident:
     def has_focus(self):
         """Whether the palette, or a question, is in front, and knows it: before that it still asks for it."""
         window = self.window
-        if window is None or self._desktop.windows.active() != window:
+        if window is None or self._desktop.front_window() != window:
             return False
         return any("active" in frame.states for frame in self._frames())
 

@@ -16,10 +16,11 @@ class DesktopTestCase(unittest.TestCase):
 
     with_buses = True
     window_manager = ("openbox", "--sm-disable")
+    size = (1280, 800)
 
     @classmethod
     def setUpClass(cls):
-        cls.desktop = cls.enterClassContext(Desktop(with_buses=cls.with_buses, window_manager=cls.window_manager))
+        cls.desktop = cls.enterClassContext(Desktop(cls.size, cls.with_buses, cls.window_manager))
         cls.tovrel = Program(cls.desktop.environment)
 
     def setUp(self):

@@ -19,9 +19,7 @@ class Windows:
     def active(self):
         """The active window, or None when there is none."""
         # Read as it is: tools that look for the active window wait while there is none.
-        answer = self._run("xprop", "-root", "_NET_ACTIVE_WINDOW").stdout
-        number = answer.rpartition("#")[2].strip()
-        return int(number, 16) or None if number.startswith("0x") else None
+        return self._window_property(None, "_NET_ACTIVE_WINDOW") or None
 
     def activate(self, window):
         """Asks the window manager to bring the window to the front; see Desktop.bring_to_front to wait."""
@@ -57,8 +55,30 @@ class Windows:
         self._xdotool("type", "--clearmodifiers", text)
 
     def has_window_manager(self):
-        # It announces itself before it listens; the list of windows comes when it manages them.
-        return "window id #" in self._run("xprop", "-root", "_NET_CLIENT_LIST").stdout
+        # It announces itself before it listens; then it tells, in an order of its own, of windows and focus.
+        announced = self._window_property(None, "_NET_SUPPORTING_WM_CHECK")
+        return (announced is not None and self._window_property(announced, "_NET_SUPPORTING_WM_CHECK") == announced
+                and any(self._window_property(None, name) is not None
+                        for name in ("_NET_CLIENT_LIST", "_NET_ACTIVE_WINDOW")))
+
+    def focused(self):
+        """The window with the input focus, or None."""
+        answer = self._xdotool("getwindowfocus", "-f").stdout.strip()
+        return int(answer) if answer.isdigit() and int(answer) > 1 else None
+
+    def give_focus(self, window):
+        """Sets the input focus, as only one does who has no window manager to ask."""
+        self._xdotool("windowfocus", str(window))
+
+    def _window_property(self, window, name):
+        """The first window that a property of a window, or of the root window, holds, 0 for an empty one; None
+        without the property."""
+        place = ["-root"] if window is None else ["-id", str(window)]
+        answer = self._run("xprop", *place, name).stdout
+        if "window id #" not in answer:
+            return None
+        number = answer.rpartition("#")[2].split(",")[0].strip()
+        return int(number, 16) if number else 0
 
     def _xdotool(self, *arguments):
         return self._run("xdotool", *arguments)

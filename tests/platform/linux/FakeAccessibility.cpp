@@ -2,7 +2,12 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <poll.h>
 #include <string_view>
+#include <unistd.h>
+
+#include <sys/socket.h>
+#include <sys/un.h>
 
 namespace tovrel {
 namespace {
@@ -27,6 +32,26 @@ std::string configuration(const std::filesystem::path& folder) {
     return "<busconfig><type>session</type><listen>unix:dir=" + folder.string() +
            "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow eavesdrop=\"true\"/>"
            "<allow own=\"*\"/></policy></busconfig>";
+}
+
+/// Until it looks whether it shall end.
+constexpr std::chrono::microseconds shortWait{5'000};
+
+void answerCalls(sd_bus* bus, const FakeService::Answer& answer, const std::atomic<bool>& isStopping) {
+    while (!isStopping && sd_bus_is_open(bus) > 0) {
+        sd_bus_message* message = nullptr;
+        const int progress = sd_bus_process(bus, &message);
+        if (message != nullptr && sd_bus_message_is_method_call(message, nullptr, nullptr) > 0) {
+            answer(message);
+        }
+        sd_bus_message_unref(message);
+        if (progress < 0) {
+            break;
+        }
+        if (progress == 0) {
+            sd_bus_wait(bus, shortWait.count());
+        }
+    }
 }
 
 } // namespace
@@ -54,17 +79,44 @@ FakeService::~FakeService() {
 }
 
 void FakeService::serve() {
-    constexpr std::uint64_t longestWait = 5'000; // Microseconds, until it looks whether it shall end.
-    while (!isStopping_ && sd_bus_is_open(bus_.get()) > 0) {
-        sd_bus_message* message = nullptr;
-        const int progress = sd_bus_process(bus_.get(), &message);
-        if (message != nullptr && sd_bus_message_is_method_call(message, nullptr, nullptr) > 0) {
-            answer_(message);
+    answerCalls(bus_.get(), answer_, isStopping_);
+}
+
+FakeListener::FakeListener(const std::filesystem::path& socket, FakeService::Answer answer)
+    : socket_(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)), answer_(std::move(answer)) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    socket.string().copy(static_cast<char*>(address.sun_path), sizeof address.sun_path - 1);
+    bind(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+    listen(socket_, 1);
+    thread_ = std::thread([this] { serve(); });
+}
+
+FakeListener::~FakeListener() {
+    isStopping_ = true;
+    thread_.join();
+    close(socket_);
+}
+
+void FakeListener::serve() {
+    while (!isStopping_) {
+        pollfd waiting{.fd = socket_, .events = POLLIN, .revents = 0};
+        if (poll(&waiting, 1, static_cast<int>(shortWait.count() / 1000)) <= 0) {
+            continue;
         }
-        sd_bus_message_unref(message);
-        if (progress == 0) {
-            sd_bus_wait(bus_.get(), longestWait);
+        const int client = accept4(socket_, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+        if (client == -1) {
+            continue;
         }
+        sd_bus* bus = nullptr;
+        sd_bus_new(&bus);
+        sd_id128_t identifier{};
+        sd_id128_randomize(&identifier);
+        sd_bus_set_fd(bus, client, client);
+        sd_bus_set_server(bus, 1, identifier);
+        sd_bus_start(bus);
+        answerCalls(bus, answer_, isStopping_);
+        sd_bus_close_unref(bus);
     }
 }
 
@@ -118,6 +170,14 @@ FakeApplication::FakeApplication(FakeAccessibility& accessibility, Nodes nodes, 
     : nodes_(std::move(nodes)), manners_(std::move(manners)) {
     service_ = std::make_unique<FakeService>(accessibility.address(), std::vector<std::string>(),
                                              [this](sd_bus_message* call) { answer(call); });
+    if (manners_.answersDirectly) {
+        const std::filesystem::path socket = accessibility.folder() / "direct";
+        manners_.ownAddress = "unix:path=" + socket.string();
+        listener_ = std::make_unique<FakeListener>(socket, [this](sd_bus_message* call) {
+            ++directCalls_;
+            answer(call);
+        });
+    }
     accessibility.add(service_->uniqueName());
 }
 
@@ -195,6 +255,8 @@ void FakeApplication::answerRead(sd_bus_message* call, std::size_t number) {
         sd_bus_message_read(call, "ss", &interface, &property);
         const bool isName = std::string_view(property) == "Name";
         sd_bus_reply_method_return(call, "v", "s", isName ? node.name.c_str() : manners_.toolkit.c_str());
+    } else if (member == "GetApplicationBusAddress" && !manners_.ownAddress.empty()) {
+        sd_bus_reply_method_return(call, "s", manners_.ownAddress.c_str());
     } else {
         // A real application may die of anything else.
         sd_bus_reply_method_errorf(call, SD_BUS_ERROR_UNKNOWN_METHOD, "Not for this reader");

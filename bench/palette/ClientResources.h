@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "platform/linux/X11Connection.h"
+
+namespace tovrel {
+
+/// How many resources of each type (windows, pixmaps, passive grabs, …) the server holds for the connections
+/// of a process (X-Resource extension). Empty when it does not say.
+std::map<std::string, std::uint32_t> clientResources(X11Connection& connection,
+                                                     std::uint32_t processIdentifier);
+
+} // namespace tovrel

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/linux/X11Connection.h"
+
+namespace tovrel {
+
+/// Plays keys as if on the keyboard (XTEST). The connection outlives it.
+class KeyPlayer {
+  public:
+    explicit KeyPlayer(X11Connection& connection);
+
+    /// Collects the presses and releases of words such as "ctrl+shift+p" (all down in this order and up in
+    /// the opposite one), "down:ctrl+shift+p" and "up:ctrl+shift+p". False for a key that is not on the
+    /// keyboard.
+    bool play(const std::vector<std::string>& words);
+    /// Sends what was collected, in one piece.
+    void send();
+
+  private:
+    bool play(std::string_view word);
+    void press(xcb_keycode_t key, bool isPress);
+
+    X11Connection& connection_;
+    std::unordered_map<std::string, xcb_keycode_t> keys_;
+};
+
+} // namespace tovrel

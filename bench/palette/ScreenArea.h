@@ -1,0 +1,77 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include <xcb/damage.h>
+#include <xcb/shm.h>
+
+#include "platform/linux/X11Connection.h"
+
+namespace tovrel {
+
+/// Watches the pixels of one rectangle of the screen. The server tells when something was drawn there
+/// (DAMAGE); whether that changed a pixel is decided by the pixels themselves, read through shared memory
+/// (MIT-SHM). So every time given is the time at which the change was seen in the pixels, a reading later
+/// than it was made.
+class ScreenArea {
+  public:
+    using Clock = std::chrono::steady_clock;
+
+    struct Rectangle {
+        std::int16_t x = 0;
+        std::int16_t y = 0;
+        std::uint16_t width = 0;
+        std::uint16_t height = 0;
+    };
+
+    struct Changes {
+        Clock::time_point first;
+        Clock::time_point last;
+        int count = 0;
+    };
+
+    /// The connection outlives it. Without the extensions nothing is ever seen: see `isAvailable`.
+    explicit ScreenArea(X11Connection& connection);
+    ~ScreenArea();
+    ScreenArea(const ScreenArea&) = delete;
+    ScreenArea& operator=(const ScreenArea&) = delete;
+
+    [[nodiscard]] bool isAvailable() const { return hasDamage_; }
+
+    /// From now on this part of the screen, which must lie on it. False when the server does not hand it out.
+    bool watch(const Rectangle& area);
+    [[nodiscard]] const Rectangle& area() const { return area_; }
+
+    /// The pixels now become those that later ones are compared with.
+    bool look();
+    /// Waits for changes of what was last looked at, until none has followed another for `quiet`; absent when
+    /// there is none before the deadline. With a `quiet` of zero it returns at the first.
+    std::optional<Changes> waitForChanges(std::chrono::milliseconds quiet, Clock::time_point deadline);
+
+    /// Keeps the pixels last looked at.
+    void remember();
+    /// Waits until the area looks as remembered; false at the deadline.
+    bool waitForRemembered(Clock::time_point deadline);
+
+  private:
+    bool read();
+    bool waitForDrawing(Clock::time_point deadline);
+    bool hasBeenDrawn();
+    void release();
+
+    X11Connection& connection_;
+    bool hasDamage_ = false;
+    std::uint8_t damageEvent_ = 0;
+    Rectangle area_;
+    std::size_t bytes_ = 0;
+    xcb_shm_seg_t segment_ = 0;
+    const std::uint8_t* shared_ = nullptr;
+    std::vector<std::uint8_t> seen_;
+    std::vector<std::uint8_t> remembered_;
+};
+
+} // namespace tovrel
