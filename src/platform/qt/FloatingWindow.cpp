@@ -3,7 +3,6 @@
 #include <QPainterPath>
 #include <QQuickItem>
 #include <QRegion>
-#include <chrono>
 #include <utility>
 
 #include "support/Fatal.h"
@@ -11,13 +10,8 @@
 namespace tovrel {
 namespace {
 
-using std::chrono_literals::operator""ms;
-
 /// Of the corners, as the views draw them.
 constexpr qreal cornerRadius = 24;
-
-/// Window managers that grant the focus at all do it within a few milliseconds.
-constexpr auto activationPatience = 50ms;
 
 QRegion roundedRegion(QSize size) {
     QPainterPath path;
@@ -30,7 +24,8 @@ QRegion roundedRegion(QSize size) {
 } // namespace
 
 FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, const Description& description)
-    : windowSystem_(std::move(windowSystem)), view_(&engine.qml(), nullptr) {
+    : windowSystem_(std::move(windowSystem)), view_(&engine.qml(), nullptr),
+      activation_(view_, windowSystem_) {
     view_.setFlags(description.type | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     view_.setTitle(description.title);
     view_.setColor(Qt::transparent);
@@ -46,38 +41,13 @@ FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, co
     view_.setMinimumSize(size);
     view_.setMaximumSize(size);
     view_.create();
-    activation_.setSingleShot(true);
-    activation_.setInterval(activationPatience);
-    // Once granted, the focus may have gone on to where the user wants it.
-    QObject::connect(&view_, &QWindow::activeChanged, &activation_, [this] {
-        if (view_.isActive()) {
-            activation_.stop();
-        }
-    });
-    QObject::connect(&activation_, &QTimer::timeout, &view_, [this] {
-        if (view_.isVisible() && !view_.isActive()) {
-            windowSystem_.activate(view_);
-        }
-    });
 }
 
 void FloatingWindow::show() {
     if (!view_.isVisible()) {
-        restoreFocus_ = windowSystem_.rememberFocus();
         shape();
     }
-    view_.show();
-    view_.raise();
-    view_.requestActivate();
-    activation_.start();
-}
-
-void FloatingWindow::hide() {
-    if (view_.isVisible()) {
-        activation_.stop();
-        view_.hide();
-        restoreFocus_();
-    }
+    activation_.show();
 }
 
 void FloatingWindow::shape() {

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QQuickView>
-#include <QTimer>
 #include <QVariantMap>
-#include <functional>
 
 #include "platform/qt/ViewEngine.h"
+#include "platform/qt/WindowActivation.h"
 #include "platform/qt/WindowSystem.h"
 
 namespace tovrel {
@@ -29,15 +28,14 @@ class FloatingWindow {
 
     void show();
     /// The focus goes back to where it was.
-    void hide();
+    void hide() { activation_.hide(); }
 
   private:
     void shape();
 
     WindowSystem windowSystem_;
     QQuickView view_;
-    QTimer activation_;
-    std::function<void()> restoreFocus_;
+    WindowActivation activation_;
 };
 
 } // namespace tovrel

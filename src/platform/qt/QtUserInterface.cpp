@@ -1,7 +1,6 @@
 #include "platform/qt/QtUserInterface.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QScreen>
@@ -11,20 +10,12 @@
 #include "palette/views/AlertQuestion.h"
 #include "palette/views/QtText.h"
 #include "platform/qt/FloatingWindow.h"
+#include "platform/qt/MainScreen.h"
 #include "platform/qt/QtStatusItem.h"
 #include "platform/qt/ScreenCoordinates.h"
 
 namespace tovrel {
 namespace {
-
-QScreen* mainScreen(const WindowSystem& windowSystem) {
-    const std::optional<QRect> activeWindow = windowSystem.activeWindowFrame();
-    QScreen* screen = activeWindow ? screenOf(*activeWindow) : nullptr;
-    if (screen == nullptr) {
-        screen = QGuiApplication::screenAt(QCursor::pos());
-    }
-    return screen != nullptr ? screen : QGuiApplication::primaryScreen();
-}
 
 bool hasFocusedWindow(const WindowSystem& windowSystem) {
     const auto windows = QGuiApplication::topLevelWindows();

@@ -1,0 +1,133 @@
+#include "platform/qt/QtSettingsWindow.h"
+
+#include <QKeyEvent>
+#include <QQuickItem>
+#include <QScreen>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/MainScreen.h"
+#include "settings/views/RecorderAdapter.h"
+#include "settings/views/SettingsViewAdapter.h"
+#include "support/Fatal.h"
+
+namespace tovrel {
+namespace {
+
+constexpr QSize contentSize(920, 620);
+
+} // namespace
+
+QtSettingsWindow::QtSettingsWindow(Surroundings surroundings)
+    : surroundings_(std::move(surroundings)), view_(&surroundings_.engine.qml(), nullptr),
+      activation_(view_, surroundings_.windowSystem) {
+    view_.setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
+    view_.setTitle(QStringLiteral("Tovrel"));
+    view_.setResizeMode(QQuickView::SizeRootObjectToView);
+    view_.resize(contentSize);
+    view_.setMinimumSize(contentSize);
+    view_.setMaximumSize(contentSize);
+    if (const QScreen* screen = mainScreen(surroundings_.windowSystem)) {
+        QRect frame(QPoint(), contentSize);
+        frame.moveCenter(screen->availableGeometry().center());
+        view_.setPosition(frame.topLeft());
+    }
+    view_.installEventFilter(this);
+}
+
+QtSettingsWindow::~QtSettingsWindow() {
+    // The view goes before what it is bound to.
+    view_.removeEventFilter(this);
+    view_.setSource({});
+}
+
+void QtSettingsWindow::setContent(std::unique_ptr<SettingsViewState> state) {
+    if (content_.recorder && content_.recorder->isHandlingKey()) {
+        waiting_ = std::move(state);
+        return;
+    }
+    install(std::move(state));
+}
+
+void QtSettingsWindow::install(std::unique_ptr<SettingsViewState> state) {
+    Content content{.state = std::move(state),
+                    .recorder = std::make_unique<RecorderAdapter>(surroundings_.makeRecorder(),
+                                                                  surroundings_.keyCodeFromEvdev),
+                    .adapter = nullptr};
+    content.adapter = std::make_unique<SettingsViewAdapter>(
+        *content.state, *content.recorder,
+        SettingsViewAdapter::Surroundings{.workspace = surroundings_.workspace,
+                                          .textServices = surroundings_.textServices,
+                                          .openURL = surroundings_.openURL});
+    QObject::connect(content.recorder.get(), &RecorderAdapter::keyHandled, this, [this] {
+        if (waiting_) {
+            install(std::move(waiting_));
+        }
+    });
+    view_.setInitialProperties({{QStringLiteral("settings"), QVariant::fromValue(content.adapter.get())}});
+    view_.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Tovrel/Views/SettingsView.qml")));
+    if (view_.rootObject() == nullptr) {
+        fatal("a view of the user interface cannot be loaded");
+    }
+    view_.rootObject()->forceActiveFocus();
+    // The view of what was there before is gone.
+    std::swap(content_, content);
+}
+
+void QtSettingsWindow::showAndMakeKey() {
+    if (!view_.isVisible() && position_) {
+        view_.setFramePosition(*position_);
+    }
+    if (view_.windowStates().testFlag(Qt::WindowMinimized)) {
+        view_.setWindowStates(Qt::WindowNoState);
+    }
+    activation_.show();
+}
+
+void QtSettingsWindow::hide() {
+    if (view_.isVisible()) {
+        position_ = view_.framePosition();
+        content_.recorder->endRecording();
+        activation_.hide();
+    }
+}
+
+bool QtSettingsWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Close) {
+        // Closing would destroy the window.
+        hide();
+        event->ignore();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && handleKeyPress(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool QtSettingsWindow::handleKeyPress(const QKeyEvent& event) {
+    if (content_.recorder->isRecording()) {
+        return false;
+    }
+    const KeyEvent key = keyEventFrom(event, surroundings_.keyCodeFromEvdev);
+    if (key.modifierFlags != modifier_flags::command || !key.charactersIgnoringModifiers) {
+        return false;
+    }
+    const auto* const item = std::find_if(window_menu::items.begin(), window_menu::items.end(),
+                                          [&](const window_menu::Item& each) {
+                                              return *key.charactersIgnoringModifiers == each.keyEquivalent;
+                                          });
+    if (item == window_menu::items.end()) {
+        return false;
+    }
+    const window_menu::Action action = item->action;
+    if (action == window_menu::Action::closeWindow) {
+        hide();
+    }
+    surroundings_.onMenuAction(action);
+    return true;
+}
+
+} // namespace tovrel

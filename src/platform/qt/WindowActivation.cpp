@@ -1,0 +1,51 @@
+#include "platform/qt/WindowActivation.h"
+
+#include <chrono>
+#include <utility>
+
+namespace tovrel {
+namespace {
+
+using std::chrono_literals::operator""ms;
+
+/// Window managers that grant the focus at all do it within a few milliseconds.
+constexpr auto activationPatience = 50ms;
+
+} // namespace
+
+WindowActivation::WindowActivation(QWindow& window, WindowSystem windowSystem)
+    : window_(&window), windowSystem_(std::move(windowSystem)) {
+    activation_.setSingleShot(true);
+    activation_.setInterval(activationPatience);
+    // Once granted, the focus may have gone on to where the user wants it.
+    QObject::connect(window_, &QWindow::activeChanged, &activation_, [this] {
+        if (window_->isActive()) {
+            activation_.stop();
+        }
+    });
+    QObject::connect(&activation_, &QTimer::timeout, window_, [this] {
+        if (window_->isVisible() && !window_->isActive()) {
+            windowSystem_.activate(*window_);
+        }
+    });
+}
+
+void WindowActivation::show() {
+    if (!window_->isVisible()) {
+        restoreFocus_ = windowSystem_.rememberFocus();
+    }
+    window_->show();
+    window_->raise();
+    window_->requestActivate();
+    activation_.start();
+}
+
+void WindowActivation::hide() {
+    if (window_->isVisible()) {
+        activation_.stop();
+        window_->hide();
+        restoreFocus_();
+    }
+}
+
+} // namespace tovrel

@@ -1,0 +1,30 @@
+import QtQuick
+import Tovrel.Views
+
+// An application's icon, or the picture of a window where it has none.
+Item {
+    id: icon
+
+    required property url source
+    property int size: 32
+
+    width: icon.size
+    height: icon.size
+
+    Image {
+        id: image
+
+        anchors.fill: parent
+        visible: image.status === Image.Ready
+        source: icon.source
+        sourceSize.width: icon.size
+        sourceSize.height: icon.size
+        fillMode: Image.PreserveAspectFit
+        Accessible.ignored: true
+    }
+    SettingsIcon {
+        anchors.fill: parent
+        visible: !image.visible
+        name: "macwindow"
+    }
+}

@@ -1,0 +1,168 @@
+import QtQuick
+import Tovrel.Views
+
+// The page "Apps".
+SettingsPage {
+    id: tab
+
+    required property SettingsViewAdapter settings
+
+    readonly property AppRulesSettings rules: tab.settings.appRules
+
+    // An application is to be chosen; the button is where the keyboard focus comes back to.
+    signal choiceWanted(button: Item)
+
+    SettingsCard {
+        width: parent.width
+        symbol: "gearshape"
+        title: qsTr("Default Behavior")
+        text: qsTr("What Tovrel does in apps with no saved rule.")
+
+        BehaviorHint {
+            width: parent.width
+
+            IslandSegmentedPicker {
+                objectName: "defaultBehavior"
+                name: qsTr("Default Behavior")
+                labels: tab.rules.behaviorLabels
+                selection: tab.rules.defaultBehavior
+                maximumWidth: 396
+                onChosen: index => tab.rules.setDefaultBehavior(index)
+            }
+        }
+    }
+    SettingsCard {
+        width: parent.width
+        symbol: "macwindow"
+        title: qsTr("Current Application")
+        text: qsTr("Frontmost app. Changing this creates or updates its saved rule.")
+
+        Item {
+            width: parent.width
+            height: 44
+            visible: tab.rules.hasCurrentApplication
+
+            AppIcon {
+                id: currentIcon
+
+                anchors.verticalCenter: parent.verticalCenter
+                source: tab.rules.currentIcon
+                size: 36
+            }
+            Column {
+                anchors.left: currentIcon.right
+                anchors.leftMargin: SettingsTheme.gap
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+
+                Text {
+                    objectName: "currentName"
+                    width: parent.width
+                    text: tab.rules.currentName
+                    color: SettingsTheme.ink
+                    font.pixelSize: 15
+                    font.weight: Font.Bold
+                    elide: Text.ElideRight
+                    textFormat: Text.PlainText
+                }
+                Text {
+                    width: parent.width
+                    text: tab.rules.currentBundleID
+                    color: SettingsTheme.quiet
+                    font.pixelSize: 12
+                    font.weight: Font.Medium
+                    elide: Text.ElideMiddle
+                    textFormat: Text.PlainText
+                }
+            }
+        }
+        BehaviorHint {
+            width: parent.width
+            visible: tab.rules.hasCurrentApplication
+
+            IslandSegmentedPicker {
+                objectName: "currentBehavior"
+                name: qsTr("Current Application")
+                labels: tab.rules.behaviorLabels
+                selection: tab.rules.currentBehavior
+                maximumWidth: 396
+                onChosen: index => tab.rules.setCurrentBehavior(index)
+            }
+        }
+        SettingsEmptyState {
+            objectName: "noCurrentApplication"
+            width: parent.width
+            visible: !tab.rules.hasCurrentApplication
+            symbol: "macwindow"
+            text: qsTr("No frontmost app found")
+        }
+    }
+    SettingsCard {
+        width: parent.width
+        symbol: "plus"
+        title: qsTr("Add App Rule")
+        text: qsTr("Choose an app bundle and save an override.")
+
+        BehaviorHint {
+            width: parent.width
+
+            IslandSegmentedPicker {
+                objectName: "newBehavior"
+                name: qsTr("Add App Rule")
+                labels: tab.rules.behaviorLabels
+                selection: tab.rules.newBehavior
+                maximumWidth: 396
+                onChosen: index => tab.rules.setNewBehavior(index)
+            }
+        }
+        IslandButton {
+            id: choose
+
+            objectName: "chooseApplication"
+            role: "primary"
+            text: qsTr("Choose Application")
+            symbol: "plus"
+            onPressed: tab.choiceWanted(choose)
+        }
+    }
+    SettingsCard {
+        width: parent.width
+        symbol: "tray"
+        title: qsTr("Saved App Rules")
+        text: qsTr("Apps with behavior different from the default.")
+
+        SettingsEmptyState {
+            objectName: "noRules"
+            width: parent.width
+            visible: tab.rules.rules.count === 0
+            symbol: "tray"
+            text: qsTr("No saved app rules")
+        }
+        Column {
+            width: parent.width
+            visible: tab.rules.rules.count > 0
+            spacing: 6
+
+            AppRuleColumns {
+                width: list.rowWidth
+            }
+            SettingsList {
+                id: list
+
+                objectName: "rules"
+                width: parent.width
+                name: qsTr("Saved App Rules")
+                model: tab.rules.rules
+                settings: tab.settings
+
+                delegate: AppRuleRow {
+                    readonly property SettingsList list: ListView.view as SettingsList
+
+                    width: list ? list.rowWidth : 0
+                    rules: list ? list.settings.appRules : null
+                    onReached: list.show(index)
+                }
+            }
+        }
+    }
+}

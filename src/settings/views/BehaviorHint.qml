@@ -1,0 +1,28 @@
+import QtQuick
+import Tovrel.Views
+
+// A picker of a behaviour with what the behaviours mean beside it, or below it when there is no room.
+Flow {
+    id: hint
+
+    default property alias picker: holder.data
+
+    spacing: SettingsTheme.inner
+
+    Item {
+        id: holder
+
+        width: childrenRect.width
+        height: childrenRect.height
+    }
+    Text {
+        width: Math.min(330, Math.max(200, hint.width - holder.width - SettingsTheme.inner))
+        height: Math.max(implicitHeight, holder.height)
+        verticalAlignment: Text.AlignVCenter
+        text: qsTr("Enabled opens Tovrel in this app. Disabled ignores the hotkey in this app.")
+        color: SettingsTheme.quiet
+        font.pixelSize: 13
+        font.weight: Font.Medium
+        wrapMode: Text.Wrap
+    }
+}

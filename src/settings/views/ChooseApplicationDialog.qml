@@ -1,0 +1,170 @@
+import QtQuick
+import Tovrel.Views
+
+// The installed applications, one of which is to get a rule. Over everything else in the window.
+FocusScope {
+    id: dialog
+
+    required property AppRulesSettings rules
+    required property Item opener
+
+    signal closed(opener: Item)
+
+    function add() {
+        const id = rows.idAt(list.currentIndex);
+        if (id === "")
+            return;
+        dialog.closed(dialog.opener);
+        dialog.rules.addRule(id);
+    }
+
+    component Applications: ListView {
+        signal chosen()
+    }
+
+    focus: true
+    Component.onCompleted: search.textInput.forceActiveFocus(Qt.PopupFocusReason)
+
+    Accessible.role: Accessible.Dialog
+    Accessible.name: qsTr("Choose Application")
+
+    Keys.onEscapePressed: dialog.closed(dialog.opener)
+    Keys.onReturnPressed: dialog.add()
+    Keys.onEnterPressed: dialog.add()
+    Keys.onUpPressed: list.currentIndex = Math.max(0, list.currentIndex - 1)
+    Keys.onDownPressed: list.currentIndex = Math.min(list.count - 1, list.currentIndex + 1)
+
+    Rectangle {
+        anchors.fill: parent
+        color: "#5940382c"
+
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.AllButtons
+            hoverEnabled: true
+            onWheel: wheel => wheel.accepted = true
+        }
+    }
+    FilteredRowsModel {
+        id: rows
+
+        source: dialog.rules.applications
+        filter: search.text
+    }
+    SoftShadow {
+        anchors.fill: box
+        radius: box.radius
+    }
+    RoundedBox {
+        id: box
+
+        anchors.centerIn: parent
+        width: 460
+        height: 500
+        radius: 24
+        from: SettingsTheme.card
+        borderWidth: 1
+        borderColour: SettingsTheme.line
+
+        Text {
+            id: title
+
+            x: 24
+            y: 22
+            width: box.width - 48
+            text: qsTr("Choose Application")
+            color: SettingsTheme.ink
+            font.pixelSize: 18
+            font.weight: Font.ExtraBold
+            elide: Text.ElideRight
+        }
+        IslandTextField {
+            id: search
+
+            objectName: "search"
+            x: 20
+            y: title.y + title.height + 14
+            width: box.width - 40
+            symbol: "magnifyingglass"
+            text: ""
+            placeholder: qsTr("Search")
+            onEdited: text => {
+                search.text = text;
+                list.currentIndex = 0;
+                list.positionViewAtBeginning();
+            }
+        }
+        Text {
+            anchors.centerIn: list
+            visible: list.count === 0
+            text: qsTr("No matches")
+            color: SettingsTheme.quiet
+            font.pixelSize: 14
+            font.weight: Font.DemiBold
+        }
+        Applications {
+            id: list
+
+            objectName: "applications"
+            x: 20
+            anchors.top: search.bottom
+            anchors.topMargin: 12
+            anchors.bottom: add.top
+            anchors.bottomMargin: 16
+            width: box.width - 40
+            clip: true
+            spacing: 2
+            model: rows
+            currentIndex: 0
+            onChosen: dialog.add()
+            boundsBehavior: Flickable.StopAtBounds
+            keyNavigationEnabled: false
+            highlightFollowsCurrentItem: false
+            highlightMoveDuration: 0
+            highlightResizeDuration: 0
+            onCurrentIndexChanged: {
+                if (list.currentIndex >= 0)
+                    list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+            }
+
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Choose Application")
+
+            delegate: ApplicationRow {
+                readonly property Applications list: ListView.view as Applications
+
+                width: list ? list.width - 12 : 0
+                isCurrent: ListView.isCurrentItem
+                onSelected: list.currentIndex = index
+                onChosen: list.chosen()
+            }
+        }
+        SlimScrollBar {
+            anchors.right: list.right
+            anchors.top: list.top
+            anchors.bottom: list.bottom
+            flickable: list
+        }
+        IslandButton {
+            objectName: "cancel"
+            anchors.right: add.left
+            anchors.rightMargin: SettingsTheme.gap
+            anchors.bottom: add.bottom
+            text: qsTr("Cancel")
+            onPressed: dialog.closed(dialog.opener)
+        }
+        IslandButton {
+            id: add
+
+            objectName: "add"
+            anchors.right: parent.right
+            anchors.rightMargin: 20
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 20
+            role: "primary"
+            text: qsTr("Add")
+            enabled: list.currentIndex >= 0 && list.count > 0
+            onPressed: dialog.add()
+        }
+    }
+}

@@ -1,0 +1,96 @@
+import QtQuick
+import Tovrel.Views
+
+// The page "General".
+SettingsPage {
+    id: tab
+
+    required property SettingsViewAdapter settings
+
+    readonly property GeneralSettings general: tab.settings.general
+
+    SettingsCard {
+        width: parent.width
+        symbol: "lock.shield"
+        title: qsTr("Access")
+        text: qsTr("Allow Tovrel to read app menus locally.")
+
+        SettingsRowBox {
+            width: parent.width
+            label: qsTr("Accessibility")
+
+            StatusPill {
+                objectName: "access"
+                symbol: tab.general.isAccessibilityTrusted ? "checkmark.seal.fill" : "lock.shield"
+                text: tab.general.isAccessibilityTrusted ? qsTr("Ready") : qsTr("Needs Permission")
+                isGood: tab.general.isAccessibilityTrusted
+            }
+        }
+        Item {
+            width: parent.width
+            height: Math.max(advice.height, open.height)
+            visible: !tab.general.isAccessibilityTrusted
+
+            Text {
+                id: advice
+
+                anchors.left: parent.left
+                anchors.leftMargin: 2
+                anchors.right: open.left
+                anchors.rightMargin: SettingsTheme.inner
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Turn on Tovrel in System Settings > Privacy & Security > Accessibility, then return and refresh.")
+                color: SettingsTheme.quiet
+                font.pixelSize: 13
+                font.weight: Font.Medium
+                lineHeight: 1.1
+                wrapMode: Text.Wrap
+                textFormat: Text.PlainText
+            }
+            IslandIconButton {
+                id: open
+
+                objectName: "openPrivacySettings"
+                anchors.right: parent.right
+                anchors.rightMargin: 10
+                anchors.verticalCenter: parent.verticalCenter
+                width: 38
+                height: 38
+                text: qsTr("Accessibility")
+                symbol: "arrow.up.forward.app"
+                onPressed: tab.general.openPrivacySettings()
+            }
+        }
+    }
+    SettingsCard {
+        width: parent.width
+        symbol: "command"
+        title: qsTr("Hotkey")
+        text: qsTr("Choose the global shortcut that opens Tovrel.")
+
+        SettingsRowBox {
+            width: parent.width
+            symbol: "keyboard"
+            label: qsTr("Command Palette")
+
+            RecorderField {
+                recorder: tab.general.recorder
+                name: qsTr("Command Palette")
+            }
+        }
+    }
+    SettingsCard {
+        width: parent.width
+        symbol: "eye"
+        title: qsTr("Display")
+        text: qsTr("Keep menu state visible when the front app exposes it.")
+
+        IslandToggle {
+            objectName: "showCheckedStatus"
+            width: parent.width
+            title: qsTr("Show checked status of menu items")
+            isOn: tab.general.showCheckedStatus
+            onToggled: isOn => tab.general.showCheckedStatus = isOn
+        }
+    }
+}

@@ -1,0 +1,82 @@
+import QtQuick
+import Tovrel.Views
+
+// One of many choices, from a list that is opened.
+IslandPressable {
+    id: picker
+
+    required property string name
+    required property SettingsRowsModel choices
+    required property string selectedID
+    required property string text
+    // Shown while nothing is chosen.
+    property string placeholder: ""
+    property bool isSearchable: false
+    property bool compact: false
+    readonly property bool isOpen: popup.status !== Loader.Null
+
+    signal chosen(string id)
+
+    function open() {
+        popup.setSource("PickerPopup.qml", {"picker": picker});
+    }
+
+    // The list is closed; the focus comes back unless it has gone elsewhere.
+    function close(takesFocus: bool) {
+        popup.source = "";
+        if (takesFocus)
+            picker.forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    implicitWidth: Math.min(250, Math.ceil(label.implicitWidth) + 46)
+    implicitHeight: picker.compact ? 32 : 38
+
+    Accessible.role: Accessible.ComboBox
+    Accessible.name: picker.name
+    Accessible.description: picker.text
+
+    Keys.onDownPressed: picker.open()
+    Keys.onUpPressed: picker.open()
+    onPressed: picker.open()
+
+    FocusRing {
+        control: picker
+        controlRadius: 13
+    }
+    RoundedBox {
+        anchors.fill: parent
+        radius: 13
+        from: "white"
+        borderWidth: 1
+        borderColour: picker.isOpen ? SettingsTheme.accent : picker.isHovered ? "#668a7b66" : SettingsTheme.line
+    }
+    Text {
+        id: label
+
+        anchors.left: parent.left
+        anchors.leftMargin: 13
+        anchors.right: chevron.left
+        anchors.rightMargin: 6
+        anchors.verticalCenter: parent.verticalCenter
+        text: picker.text === "" ? picker.placeholder : picker.text
+        color: picker.text === "" ? SettingsTheme.faint : SettingsTheme.ink
+        font.pixelSize: picker.compact ? 13 : 14
+        font.weight: Font.DemiBold
+        elide: picker.isSearchable ? Text.ElideMiddle : Text.ElideRight
+        textFormat: Text.PlainText
+        Accessible.ignored: true
+    }
+    Symbol {
+        id: chevron
+
+        anchors.right: parent.right
+        anchors.rightMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+        name: "chevron.up.chevron.down"
+        colour: SettingsTheme.accentInk
+        size: 16
+    }
+    Loader {
+        id: popup
+    }
+}

@@ -1,0 +1,105 @@
+import QtQuick
+import Tovrel.Views
+
+// The program's icon and name, the pages, and the button that loads everything anew.
+RoundedBox {
+    id: sidebar
+
+    required property SettingsViewAdapter settings
+
+    // What the entries, which cannot see the sidebar, share.
+    component Entries: Column {
+        required property SettingsViewAdapter settings
+
+        signal moved(int index)
+    }
+
+    radius: 22
+    from: "#a6ffffff"
+    borderWidth: 1
+    borderColour: "#33806b4a"
+
+    Image {
+        id: appIcon
+
+        x: 16
+        y: 18
+        width: 48
+        height: 48
+        source: "SettingsAppIcon.svg"
+        sourceSize.width: 48
+        sourceSize.height: 48
+        Accessible.ignored: true
+    }
+    Column {
+        anchors.left: appIcon.right
+        anchors.leftMargin: 10
+        anchors.right: parent.right
+        anchors.rightMargin: 8
+        anchors.verticalCenter: appIcon.verticalCenter
+        spacing: 1
+
+        Text {
+            width: parent.width
+            text: "Tovrel"
+            color: SettingsTheme.ink
+            font.pixelSize: 19
+            font.weight: Font.ExtraBold
+            elide: Text.ElideRight
+        }
+        Text {
+            width: parent.width
+            text: qsTr("Settings")
+            color: SettingsTheme.quiet
+            font.pixelSize: 13
+            font.weight: Font.Medium
+            elide: Text.ElideRight
+        }
+    }
+    Entries {
+        id: list
+
+        x: 12
+        y: 86
+        width: parent.width - 24
+        spacing: 6
+        settings: sidebar.settings
+        onMoved: index => {
+            const button = tabs.itemAt(index);
+            if (button) {
+                sidebar.settings.selectTab(index);
+                button.forceActiveFocus(Qt.OtherFocusReason);
+            }
+        }
+
+        Accessible.role: Accessible.PageTabList
+        Accessible.name: qsTr("Settings")
+
+        Repeater {
+            id: tabs
+
+            model: sidebar.settings.tabs
+
+            delegate: SettingsSidebarButton {
+                required property int index
+                readonly property Entries entries: parent as Entries
+
+                width: entries ? entries.width : 0
+                isSelected: entries !== null && index === entries.settings.selectedTab
+                onPressed: entries.settings.selectTab(index)
+                Keys.onUpPressed: entries.moved(index - 1)
+                Keys.onDownPressed: entries.moved(index + 1)
+            }
+        }
+    }
+    IslandButton {
+        objectName: "refresh"
+        x: 12
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 12
+        width: parent.width - 24
+        text: qsTr("Refresh")
+        symbol: "arrow.clockwise"
+        onPressed: sidebar.settings.refresh()
+    }
+}

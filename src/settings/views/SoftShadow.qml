@@ -1,0 +1,33 @@
+import QtQuick
+import Tovrel.Views
+
+// A soft shadow below a box that floats over the others.
+Item {
+    id: shadow
+
+    required property real radius
+
+    RoundedBox {
+        anchors.fill: parent
+        anchors.margins: -1
+        anchors.bottomMargin: -4
+        radius: shadow.radius + 1
+        from: "#0c40382c"
+    }
+    RoundedBox {
+        anchors.fill: parent
+        anchors.margins: -3
+        anchors.topMargin: -1
+        anchors.bottomMargin: -8
+        radius: shadow.radius + 3
+        from: "#0a40382c"
+    }
+    RoundedBox {
+        anchors.fill: parent
+        anchors.margins: -6
+        anchors.topMargin: -2
+        anchors.bottomMargin: -13
+        radius: shadow.radius + 6
+        from: "#0840382c"
+    }
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QQuickItem>
+#include <QQuickView>
+#include <memory>
+#include <optional>
+#include <sstream>
+#include <vector>
+
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "platform/memory/MemoryHotKeyCenter.h"
+#include "platform/memory/MemoryPreferencesDomain.h"
+#include "platform/memory/MemoryUserInterface.h"
+#include "platform/memory/MemoryWorkspace.h"
+#include "platform/qt/QtSettingsWindow.h"
+#include "platform/qt/Translations.h"
+#include "platform/qt/ViewEngine.h"
+#include "settings/SettingsViewState.h"
+
+namespace tovrel {
+
+/// The settings' window over stores in memory, and what it called.
+class SettingsStage {
+  public:
+    explicit SettingsStage(const char* locale = "en_US");
+
+    /// Shows a new view of what the stores and the members below hold, and waits until it takes keys.
+    void show(SettingsTab tab = SettingsTab::general);
+
+    [[nodiscard]] SettingsViewState& state() { return *state_; }
+    [[nodiscard]] SettingsViewModel& model() { return state_->viewModel(); }
+
+    /// The visible item with the object name, below `within` or anywhere in the window; null when there is
+    /// none.
+    [[nodiscard]] QQuickItem* find(const QString& name, QQuickItem* within = nullptr);
+    /// The row of a list of the page.
+    [[nodiscard]] QQuickItem* row(const QString& list, int index);
+    void click(const QQuickItem* item);
+    void type(const QString& text);
+    void press(int key, Qt::KeyboardModifiers modifiers = {});
+    /// A key press with the code of its physical key, as the window system sends it.
+    void pressPhysical(int key, quint32 evdev, Qt::KeyboardModifiers modifiers = {});
+
+    TextServices textServices{"en_US"};
+    Translations translations;
+    MemoryPreferencesDomain preferences;
+    RulesStore rules{preferences, textServices};
+    CommandHistoryStore history{preferences, "Tovrel.commandHistory", textServices};
+    CustomCommandStore customCommands{preferences, "customCommands"};
+    PaletteSettingsStore paletteSettings{preferences, "paletteSettings"};
+    MemoryHotKeyCenter hotKeyCenter;
+    MemoryUserInterface userInterface;
+    MemoryWorkspace workspace;
+    std::ostringstream output;
+    KeyboardShortcuts shortcuts{preferences, hotKeyCenter, userInterface, textServices, output};
+    KeyboardShortcuts::Name togglePalette;
+
+    std::optional<CurrentApplicationContext> application;
+    std::vector<ScannedMenuItem> menuItems;
+    bool isTrusted = true;
+
+    std::vector<Text> openedURLs;
+    std::vector<window_menu::Action> actions;
+    ViewEngine engine;
+    QtSettingsWindow window;
+
+  private:
+    std::unique_ptr<RecorderCocoa> makeRecorder();
+
+    SettingsViewState* state_ = nullptr;
+};
+
+/// A menu with `count` commands "Command 0" … below it.
+ScannedMenuItem menuOf(const Text& title, const std::vector<Text>& commands);
+
+} // namespace tovrel
