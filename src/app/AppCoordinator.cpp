@@ -219,35 +219,65 @@ bool AppCoordinator::confirmCustomCommand(const CustomCommand& command) {
     if (command.kind == CustomCommandKind::open) {
         return true;
     }
+    const LocalizedString& localized = platform_.localized;
     const AlertAnswer answer = platform_.userInterface.runAlert(
-        {.messageText = Text("Run “" + command.title.utf8() + "”?"),
-         .informativeText = Text("This " + std::string(confirmationLabel(command.kind)) +
-                                 " command can run actions on your Mac."),
-         .firstButton = "Run",
-         .secondButton = "Cancel"});
+        {.messageText = filled(localized("Confirmation", "Run “%@”?"), command.title),
+         .informativeText = filled(localized("Confirmation", "This %@ command can run actions on your Mac."),
+                                   confirmationLabel(command.kind)),
+         .firstButton = localized("Confirmation", "Run"),
+         .secondButton = localized("Confirmation", "Cancel")});
     return answer == AlertAnswer::firstButton;
 }
 
 void AppCoordinator::addStatusItem() {
-    const std::weak_ptr<AppCoordinator> weak = weak_from_this();
+    const auto& localized = platform_.localized;
     statusItem_ = platform_.userInterface.makeStatusItem(
         {.imageName = "MenuBarIcon",
          .toolTip = "Tovrel",
-         .menu = {{.title = "Open Palette",
-                   .keyEquivalent = std::nullopt,
-                   .symbol = "magnifyingglass",
-                   .action =
-                       [weak] {
-                           if (const auto coordinator = weak.lock()) {
-                               coordinator->handleTogglePalette();
-                           }
-                       }},
-                  {},
-                  {.title = "Quit Tovrel", .keyEquivalent = "q", .symbol = "power", .action = [weak] {
-                       if (const auto coordinator = weak.lock()) {
-                           coordinator->platform_.userInterface.terminate();
-                       }
-                   }}}});
+         .menu = {
+             statusMenuItem(localized("StatusMenu", "Open Palette"), std::nullopt, "magnifyingglass",
+                            &AppCoordinator::handleTogglePalette),
+             statusMenuItem(localized("StatusMenu", "Settings…"), ",", "gearshape",
+                            &AppCoordinator::showSettings),
+             StatusMenuItem(),
+             statusMenuItem(localized("StatusMenu", "Quit Tovrel"), "q", "power", &AppCoordinator::quit)}});
+}
+
+StatusMenuItem AppCoordinator::statusMenuItem(Text title, std::optional<Text> keyEquivalent, Text symbol,
+                                              void (AppCoordinator::*action)()) {
+    return {.title = std::move(title),
+            .keyEquivalent = std::move(keyEquivalent),
+            .symbol = std::move(symbol),
+            .action = [weak = weak_from_this(), action] {
+                if (const auto coordinator = weak.lock()) {
+                    (*coordinator.*action)();
+                }
+            }};
+}
+
+void AppCoordinator::quit() {
+    platform_.userInterface.terminate();
+}
+
+void AppCoordinator::showSettings() {
+    const std::shared_ptr<RunningApplication> target = frontmostAppMonitor_.resolveTargetApplication();
+    // What the settings see of the application is what it is now.
+    auto model = std::make_shared<SettingsViewModel>(
+        SettingsStores{rulesStore_, commandHistoryStore_, customCommandStore_, paletteSettingsStore_},
+        SettingsProviders{
+            .currentApplication = [context = currentApplicationContext(target.get())] { return context; },
+            .menuItems = [items = settingsMenuItems(target.get())] { return items; },
+            .accessibilityPermission = [&accessibility =
+                                            platform_.accessibility] { return accessibility.isTrusted(); }});
+    platform_.userInterface.activate();
+    platform_.settingsWindowController.show(std::move(model));
+}
+
+std::vector<ScannedMenuItem> AppCoordinator::settingsMenuItems(const RunningApplication* application) {
+    if (application == nullptr || !accessibilityPermissionService_.isTrusted()) {
+        return {};
+    }
+    return menuItems(*application);
 }
 
 void AppCoordinator::showAccessibilityOnboardingIfNeeded() {
@@ -258,7 +288,7 @@ void AppCoordinator::showAccessibilityOnboardingIfNeeded() {
     firstLaunchOnboardingStore_.markAccessibilityOnboardingShown();
     platform_.mainQueue.post([weak = weak_from_this()] {
         if (const auto coordinator = weak.lock()) {
-            coordinator->platform_.showAccessibilityOnboarding();
+            coordinator->showSettings();
         }
     });
 }

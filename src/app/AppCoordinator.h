@@ -24,11 +24,13 @@
 #include "platform/StatusItem.h"
 #include "platform/UserInterface.h"
 #include "platform/Workspace.h"
+#include "settings/SettingsWindowController.h"
 #include "stores/CommandHistoryStore.h"
 #include "stores/CustomCommandStore.h"
 #include "stores/FirstLaunchOnboardingStore.h"
 #include "stores/PaletteSettingsStore.h"
 #include "stores/RulesStore.h"
+#include "support/LocalizedString.h"
 #include "support/PointInTime.h"
 #include "support/TextServices.h"
 
@@ -51,8 +53,8 @@ struct Platform {
     std::function<PointInTime()> now;
     CommandExecutor::UrlOpener openURL;
     CommandExecutor::FileExists fileExists;
-    /// Shows, once in a user's life, that other applications' menus cannot be read yet and what to do.
-    std::function<void()> showAccessibilityOnboarding;
+    LocalizedString localized;
+    SettingsWindowController& settingsWindowController;
 };
 
 /// Owns every store and service, prepares the palette for the application in front when the global shortcut
@@ -74,6 +76,9 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
 
     /// Opens the palette unless it is open.
     void showPalette();
+
+    /// Opens the settings, or brings them forward, for the application in front as it is now.
+    void showSettings();
 
     /// Takes the target and its menus anew; the commands to offer for it.
     std::vector<Command> refreshCommands();
@@ -99,6 +104,9 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
         return platform_.shortcuts.getShortcut(togglePalette_);
     }
 
+    /// By which the global shortcut is known.
+    [[nodiscard]] const KeyboardShortcuts::Name& togglePalette() const { return togglePalette_; }
+
   private:
     struct PaletteTarget {
         std::optional<Text> name;
@@ -115,6 +123,10 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     void executeMenu(const Command& command, const MenuAction& action);
     [[nodiscard]] bool confirmCustomCommand(const CustomCommand& command);
     void addStatusItem();
+    [[nodiscard]] StatusMenuItem statusMenuItem(Text title, std::optional<Text> keyEquivalent, Text symbol,
+                                                void (AppCoordinator::*action)());
+    void quit();
+    [[nodiscard]] std::vector<ScannedMenuItem> settingsMenuItems(const RunningApplication* application);
     void showAccessibilityOnboardingIfNeeded();
 
     Platform platform_;

@@ -88,6 +88,7 @@ class Parser {
         addPress();
         addRecord();
         addVerb("toggle", Verb::toggle, "Open the running program's palette, or close it");
+        addVerb("settings", Verb::settings, "Open the running program's settings");
         addVerb("quit", Verb::quit, "End the running program");
         addJsonFlag(*addVerb("status", Verb::status, "Show what the running program is doing"));
         addPreferences();

@@ -20,6 +20,7 @@ enum class Verb {
     press,
     record,
     toggle,
+    settings,
     quit,
     status,
     preferences

@@ -27,6 +27,8 @@ int runVerb(const Invocation& invocation, const Console& console, const RunResid
         return runResident(invocation, console);
     case Verb::toggle:
         return verbs::toggle();
+    case Verb::settings:
+        return verbs::settings();
     case Verb::quit:
         return verbs::quit();
     case Verb::status:

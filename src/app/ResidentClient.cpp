@@ -97,6 +97,10 @@ void ResidentClient::show() {
     call("Show", false);
 }
 
+void ResidentClient::settings() {
+    call("ShowSettings", true);
+}
+
 void ResidentClient::quit() {
     call("Quit", false);
 }

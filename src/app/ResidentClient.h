@@ -29,6 +29,8 @@ class ResidentClient {
     void toggle();
     /// Opens the palette unless it is open.
     void show();
+    /// Opens the settings window or brings it forward. Has the bus start the program if that knows how.
+    void settings();
     void quit();
     [[nodiscard]] ResidentStatus status();
 

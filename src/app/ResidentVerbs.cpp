@@ -24,6 +24,11 @@ int toggle() {
     return 0;
 }
 
+int settings() {
+    ResidentClient().settings();
+    return 0;
+}
+
 int quit() {
     ResidentClient().quit();
     return 0;

@@ -7,6 +7,7 @@
 namespace tovrel::verbs {
 
 int toggle();
+int settings();
 int quit();
 
 /// What the resident program says of itself, as lines for people or as a JSON object.

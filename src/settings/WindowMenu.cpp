@@ -4,15 +4,27 @@
 
 namespace tovrel::window_menu {
 
-const Item* itemWith(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode) {
+std::optional<Action> actionOf(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode) {
     if (shortcut.carbonModifiers != carbon_modifiers::command) {
-        return nullptr;
+        return std::nullopt;
     }
     const auto character = characterForKeyCode(static_cast<std::uint32_t>(shortcut.carbonKeyCode));
     const auto* const found = std::find_if(items.begin(), items.end(), [&](const Item& item) {
         return character && *character == Text(item.keyEquivalent);
     });
-    return found == items.end() ? nullptr : found;
+    return found == items.end() ? std::nullopt : std::optional(found->action);
+}
+
+Text title(Action action, const LocalizedString& localized) {
+    switch (action) {
+    case Action::openSettings:
+        return localized("StatusMenu", "Settings…");
+    case Action::closeWindow:
+        return localized("WindowMenu", "Close Window");
+    case Action::quit:
+        break;
+    }
+    return localized("StatusMenu", "Quit Tovrel");
 }
 
 } // namespace tovrel::window_menu

@@ -5,6 +5,8 @@
 
 #include "KeyboardShortcuts/SymbolicText.h"
 #include "model/Shortcut.h"
+#include "support/LocalizedString.h"
+#include "support/Text.h"
 
 /// What the settings window does at a keystroke of its own.
 namespace tovrel::window_menu {
@@ -13,15 +15,16 @@ enum class Action { openSettings, closeWindow, quit };
 
 struct Item {
     Action action;
-    const char* title;         ///< A key of the translations.
     const char* keyEquivalent; ///< One character, used with the Command modifier.
 };
 
-inline constexpr std::array items{Item{Action::openSettings, "Settings…", ","},
-                                  Item{Action::closeWindow, "Close Window", "w"},
-                                  Item{Action::quit, "Quit Tovrel", "q"}};
+inline constexpr std::array items{Item{Action::openSettings, ","}, Item{Action::closeWindow, "w"},
+                                  Item{Action::quit, "q"}};
 
-/// The item with that combination; null when none has it.
-[[nodiscard]] const Item* itemWith(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode);
+/// What the combination does; absent when no item has it.
+[[nodiscard]] std::optional<Action> actionOf(const Shortcut& shortcut,
+                                             const CharacterForKeyCode& characterForKeyCode);
+
+[[nodiscard]] Text title(Action action, const LocalizedString& localized);
 
 } // namespace tovrel::window_menu

@@ -13,6 +13,7 @@
 #include "platform/memory/MemoryPalettePanel.h"
 #include "platform/memory/MemoryPreferencesDomain.h"
 #include "platform/memory/MemoryProcessRunner.h"
+#include "platform/memory/MemorySettingsWindow.h"
 #include "platform/memory/MemoryUserInterface.h"
 #include "platform/memory/MemoryWorkspace.h"
 
@@ -85,7 +86,8 @@ class AppCoordinatorTest : public testing::Test {
                      .now = [this] { return now_; },
                      .openURL = [this](const Url& url) { opened_.push_back(url.text()); },
                      .fileExists = [](const Text&) { return false; },
-                     .showAccessibilityOnboarding = [this] { ++onboardings_; }});
+                     .localized = [](const char*, const char* key) { return Text(key); },
+                     .settingsWindowController = settings_});
     }
 
     void pressHotKey() {
@@ -125,8 +127,13 @@ class AppCoordinatorTest : public testing::Test {
     std::ostringstream output_;
     KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};
     PointInTime now_ = start;
-    int onboardings_ = 0;
     std::vector<Text> opened_;
+    MemorySettingsWindow* settingsWindow_ = nullptr; // owned by the controller
+    SettingsWindowController settings_{[this] {
+        auto window = std::make_unique<MemorySettingsWindow>();
+        settingsWindow_ = window.get();
+        return window;
+    }};
     MemoryPalettePanel* panel_ = nullptr; // owned by the coordinator, as the model is
     PaletteViewModel* model_ = nullptr;
     Application editor_{10, "org.editor", {"Open", "Save"}};
@@ -296,23 +303,60 @@ TEST_F(AppCoordinatorTest, CallbacksDoNothingOnceTheCoordinatorIsGone) {
 }
 
 TEST_F(AppCoordinatorTest, TheOnboardingIsShownOnceAndOnlyWithoutAccessibility) {
-    EXPECT_EQ(onboardings_, 0);
+    EXPECT_EQ(settingsWindow_, nullptr);
     accessibility_.setTrusted(false);
     for (int launch = 0; launch < 2; ++launch) {
         coordinator_ = makeCoordinator();
         coordinator_->start();
         queue_.runDue();
     }
-    EXPECT_EQ(onboardings_, 1);
+    ASSERT_NE(settingsWindow_, nullptr);
+    EXPECT_EQ(settingsWindow_->showings(), 1);
+    EXPECT_FALSE(settingsWindow_->state().viewModel().isAccessibilityTrusted().get());
     EXPECT_EQ(preferences_.value("firstLaunchOnboarding.accessibilityOnboardingShown"),
               PreferenceValue(true));
 }
 
+TEST_F(AppCoordinatorTest, TheSettingsAreThoseOfTheApplicationInFrontWhenTheyWereOpened) {
+    coordinator_->showSettings();
+    ASSERT_NE(settingsWindow_, nullptr);
+    EXPECT_EQ(userInterface_.activations(), 1);
+    SettingsViewState& state = settingsWindow_->state();
+    SettingsViewModel& model = state.viewModel();
+    EXPECT_EQ(model.currentApplication().get(), (CurrentApplicationContext{"org.editor", "org.editor"}));
+    ASSERT_EQ(model.menuRuleCandidates().get().size(), 3U) << "File, Open, Save";
+    EXPECT_EQ(coordinator_->currentApplication(), nullptr) << "the palette's target is another matter";
+
+    // What is edited holds for the palette that is opened next.
+    workspace_.bringToFront(browser_.running);
+    model.reload();
+    EXPECT_EQ(model.currentApplication().get()->bundleID, Text("org.editor"));
+    model.addMenuBlacklistRule(model.menuRuleCandidates().get()[1].id, MenuBlacklistMode::excludeSelf);
+    model.setShowCheckedStatus(false);
+    workspace_.bringToFront(editor_.running);
+    pressHotKey();
+    EXPECT_EQ(titles(), Titles{"Save"});
+
+    workspace_.bringToFront(nameless_.running);
+    coordinator_->showSettings();
+    EXPECT_EQ(settingsWindow_->showings(), 2);
+    SettingsViewModel& second = settingsWindow_->state().viewModel();
+    EXPECT_EQ(second.currentApplication().get(), std::nullopt);
+    EXPECT_EQ(second.menuCommandSettings().get().size(), 1U) << "menus need no identifier";
+    accessibility_.setTrusted(false);
+    coordinator_->showSettings();
+    EXPECT_TRUE(settingsWindow_->state().viewModel().menuCommandSettings().get().empty());
+}
+
 TEST_F(AppCoordinatorTest, TheStatusMenuOpensAndQuits) {
     const std::vector<StatusMenuItem>& menu = userInterface_.statusItem().menu;
-    ASSERT_EQ(menu.size(), 3U);
+    ASSERT_EQ(menu.size(), 4U);
     menu.front().action();
     EXPECT_TRUE(panel_->isVisible());
+    EXPECT_EQ(menu[1].keyEquivalent, Text(","));
+    menu[1].action();
+    EXPECT_NE(settingsWindow_, nullptr);
+    EXPECT_EQ(menu[2].title, Text()) << "a separator";
     menu.back().action();
     EXPECT_TRUE(userInterface_.isTerminated());
 }

@@ -37,12 +37,13 @@ TEST(WindowMenuTest, AnItemIsFoundByWhatItsKeyTypes) {
                : keyCode == 6 ? std::optional<Text>("w")
                               : std::nullopt;
     };
-    ASSERT_NE(window_menu::itemWith({6, carbon_modifiers::command}, layout), nullptr);
-    EXPECT_EQ(window_menu::itemWith({6, carbon_modifiers::command}, layout)->action,
-              window_menu::Action::closeWindow);
-    EXPECT_EQ(window_menu::itemWith({13, carbon_modifiers::command}, layout), nullptr);
-    EXPECT_EQ(window_menu::itemWith({6, 768}, layout), nullptr);
-    EXPECT_EQ(window_menu::itemWith({99, carbon_modifiers::command}, layout), nullptr);
+    const auto actionOf = [&](std::int64_t keyCode, std::int64_t modifiers) {
+        return window_menu::actionOf({keyCode, modifiers}, layout);
+    };
+    EXPECT_EQ(actionOf(6, carbon_modifiers::command), window_menu::Action::closeWindow);
+    EXPECT_EQ(actionOf(13, carbon_modifiers::command), std::nullopt);
+    EXPECT_EQ(actionOf(6, carbon_modifiers::command | carbon_modifiers::shift), std::nullopt);
+    EXPECT_EQ(actionOf(99, carbon_modifiers::command), std::nullopt);
 }
 
 } // namespace

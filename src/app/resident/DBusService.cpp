@@ -61,6 +61,12 @@ void DBusService::Show() {
     }
 }
 
+void DBusService::ShowSettings() {
+    if (const auto coordinator = coordinator_.lock()) {
+        coordinator->showSettings();
+    }
+}
+
 void DBusService::Quit() {
     quit_();
 }

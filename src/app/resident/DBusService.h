@@ -10,7 +10,7 @@
 namespace tovrel {
 
 /// What other programs may ask of the resident one, over the session bus. Nothing here runs a command: it can
-/// only show the palette, where the user chooses.
+/// only show the palette and the settings, where the user chooses.
 class DBusService : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.tovrel.Tovrel")
@@ -43,6 +43,7 @@ class DBusService : public QObject {
   public Q_SLOTS:
     void Toggle();
     void Show();
+    void ShowSettings();
     void Quit();
     // NOLINTEND(readability-identifier-naming)
 

@@ -48,9 +48,10 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
       userInterface_(views_, windowSystem()),
       accessibilityOffer_(toolkitAccessibility_, userInterface_, localizedByQt()),
       shortcuts_(preferences_, hotKeys_, userInterface_, textServices_, console.output),
+      settingsWindowController_([this] { return makeSettingsWindow(); }),
       coordinator_(std::make_shared<AppCoordinator>(platform())),
       service_(
-          coordinator_, [this] { return shortcutForPeople(); }, [] { QApplication::quit(); }),
+          coordinator_, [this] { return toggleShortcutForPeople(); }, [] { QApplication::quit(); }),
       activationEvents_(workspace_->activationEvents()),
       // That the user has come back to an application is older than the hot key pressed there.
       hotKeyEvents_(hotKeys_, &workspace_->activationEvents()) {}
@@ -97,9 +98,10 @@ Platform ResidentProgram::platform() {
                     return panel;
                 },
             .now = currentTime,
-            .openURL = [this](const Url& url) { openURL(url); },
+            .openURL = [this](const Url& url) { openURL(url.text()); },
             .fileExists = fileExists,
-            .showAccessibilityOnboarding = [this] { accessibilityOffer_.show(); }};
+            .localized = localizedByQt(),
+            .settingsWindowController = settingsWindowController_};
 }
 
 WindowSystem ResidentProgram::windowSystem() {
@@ -113,21 +115,65 @@ KeyDestination ResidentProgram::keyDestination() const {
     return {static_cast<xcb_window_t>(panel_->window().winId()), panel_->isVisible()};
 }
 
-void ResidentProgram::openURL(const Url& url) {
-    if (url.text() == Text(AccessibilityOffer::address)) {
-        accessibilityOffer_.show();
-    } else {
-        workspace_->open(url.text());
+std::unique_ptr<SettingsWindow> ResidentProgram::makeSettingsWindow() {
+    return std::make_unique<QtSettingsWindow>(
+        QtSettingsWindow::Surroundings{.engine = views_,
+                                       .windowSystem = windowSystem(),
+                                       .makeRecorder = [this] { return makeRecorder(); },
+                                       .workspace = *workspace_,
+                                       .textServices = textServices_,
+                                       .keyCodeFromEvdev = keyCodeFromEvdev,
+                                       .openURL = [this](const Text& url) { openURL(url); },
+                                       .onMenuAction = [this](auto action) { performMenuAction(action); }});
+}
+
+std::unique_ptr<RecorderCocoa> ResidentProgram::makeRecorder() {
+    return std::make_unique<RecorderCocoa>(
+        RecorderSurroundings{.shortcuts = shortcuts_,
+                             .hotKeyCenter = hotKeys_,
+                             .userInterface = userInterface_,
+                             .localized = localizedByQt(),
+                             .textOf = [this](const Shortcut& shortcut) { return forPeople(shortcut); },
+                             .menuItemTitle = [this](const Shortcut& shortcut) -> std::optional<Text> {
+                                 const auto action = window_menu::actionOf(shortcut, characterForKeyCode());
+                                 return action ? std::optional(window_menu::title(*action, localizedByQt()))
+                                               : std::nullopt;
+                             }},
+        coordinator_->togglePalette());
+}
+
+void ResidentProgram::performMenuAction(window_menu::Action action) {
+    switch (action) {
+    case window_menu::Action::openSettings:
+        coordinator_->showSettings();
+        break;
+    case window_menu::Action::closeWindow: // Done already.
+        break;
+    case window_menu::Action::quit:
+        userInterface_.terminate();
+        break;
     }
 }
 
-Text ResidentProgram::shortcutForPeople() {
+void ResidentProgram::openURL(const Text& url) {
+    if (url == Text(AccessibilityOffer::address)) {
+        accessibilityOffer_.show();
+    } else {
+        workspace_->open(url);
+    }
+}
+
+CharacterForKeyCode ResidentProgram::characterForKeyCode() {
+    return [this](std::uint32_t keyCode) { return hotKeys_.characterForKeyCode(keyCode); };
+}
+
+Text ResidentProgram::forPeople(const Shortcut& shortcut) {
+    return shortcutForPeople(shortcut, characterForKeyCode(), textServices_, localizedByQt());
+}
+
+Text ResidentProgram::toggleShortcutForPeople() {
     const auto shortcut = coordinator_->toggleShortcut();
-    return shortcut ? tovrel::shortcutForPeople(
-                          *shortcut,
-                          [this](std::uint32_t keyCode) { return hotKeys_.characterForKeyCode(keyCode); },
-                          textServices_, localizedByQt())
-                    : Text();
+    return shortcut ? forPeople(*shortcut) : Text();
 }
 
 } // namespace tovrel

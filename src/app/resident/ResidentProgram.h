@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "KeyboardShortcuts/RecorderCocoa.h"
 #include "app/AppCoordinator.h"
 #include "app/CommandLine.h"
 #include "app/Console.h"
@@ -21,9 +22,12 @@
 #include "platform/linux/X11Windows.h"
 #include "platform/qt/QtMainQueue.h"
 #include "platform/qt/QtPalettePanel.h"
+#include "platform/qt/QtSettingsWindow.h"
 #include "platform/qt/QtUserInterface.h"
 #include "platform/qt/Translations.h"
 #include "platform/qt/ViewEngine.h"
+#include "settings/SettingsWindowController.h"
+#include "settings/WindowMenu.h"
 #include "support/TextServices.h"
 
 namespace tovrel {
@@ -45,8 +49,13 @@ class ResidentProgram {
     [[nodiscard]] Platform platform();
     [[nodiscard]] WindowSystem windowSystem();
     [[nodiscard]] KeyDestination keyDestination() const;
-    void openURL(const Url& url);
-    [[nodiscard]] Text shortcutForPeople();
+    [[nodiscard]] std::unique_ptr<SettingsWindow> makeSettingsWindow();
+    [[nodiscard]] std::unique_ptr<RecorderCocoa> makeRecorder();
+    void performMenuAction(window_menu::Action action);
+    void openURL(const Text& url);
+    [[nodiscard]] CharacterForKeyCode characterForKeyCode();
+    [[nodiscard]] Text forPeople(const Shortcut& shortcut);
+    [[nodiscard]] Text toggleShortcutForPeople();
 
     // In the order in which they need each other; they end in the opposite one.
     const Console* console_;
@@ -67,6 +76,7 @@ class ResidentProgram {
     AccessibilityOffer accessibilityOffer_;
     KeyboardShortcuts shortcuts_;
     QtPalettePanel* panel_ = nullptr; ///< Owned by the coordinator.
+    SettingsWindowController settingsWindowController_;
     std::shared_ptr<AppCoordinator> coordinator_;
     DBusService service_;
     EventSourceWatch activationEvents_;

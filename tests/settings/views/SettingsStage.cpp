@@ -107,27 +107,26 @@ void SettingsStage::pressPhysical(int key, quint32 evdev, Qt::KeyboardModifiers 
 
 std::unique_ptr<RecorderCocoa> SettingsStage::makeRecorder() {
     return std::make_unique<RecorderCocoa>(
-        RecorderSurroundings{.shortcuts = shortcuts,
-                             .hotKeyCenter = hotKeyCenter,
-                             .userInterface = userInterface,
-                             .localized = localizedByQt(),
-                             .textOf =
-                                 [this](const Shortcut& shortcut) {
-                                     return symbolicText(
-                                         shortcut,
-                                         [this](std::uint32_t code) {
-                                             return hotKeyCenter.characterForKeyCode(code);
-                                         },
-                                         textServices);
-                                 },
-                             .menuItemTitle =
-                                 [this](const Shortcut& shortcut) {
-                                     const window_menu::Item* item =
-                                         window_menu::itemWith(shortcut, [this](std::uint32_t code) {
-                                             return hotKeyCenter.characterForKeyCode(code);
-                                         });
-                                     return item == nullptr ? std::nullopt : std::optional<Text>(item->title);
-                                 }},
+        RecorderSurroundings{
+            .shortcuts = shortcuts,
+            .hotKeyCenter = hotKeyCenter,
+            .userInterface = userInterface,
+            .localized = localizedByQt(),
+            .textOf =
+                [this](const Shortcut& shortcut) {
+                    return symbolicText(
+                        shortcut,
+                        [this](std::uint32_t code) { return hotKeyCenter.characterForKeyCode(code); },
+                        textServices);
+                },
+            .menuItemTitle =
+                [this](const Shortcut& shortcut) {
+                    const auto action = window_menu::actionOf(shortcut, [this](std::uint32_t code) {
+                        return hotKeyCenter.characterForKeyCode(code);
+                    });
+                    return action ? std::optional(window_menu::title(*action, localizedByQt()))
+                                  : std::nullopt;
+                }},
         togglePalette);
 }
 
