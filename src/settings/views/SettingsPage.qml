@@ -55,7 +55,8 @@ FocusScope {
     }
     // The cards fade out where they are scrolled away.
     Rectangle {
-        width: page.width
+        x: column.x
+        width: column.width
         height: 14
         visible: flickable.contentY > 0
         gradient: Gradient {

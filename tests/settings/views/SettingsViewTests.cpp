@@ -423,6 +423,29 @@ TEST_F(SettingsViewTest, TheRecorderTakesKeysWhileItRecords) {
     EXPECT_FALSE(recorder->isRecording());
 }
 
+TEST_F(SettingsViewTest, ANewViewWaitsForTheAnswerAboutAShortcut) {
+    stage_.hotKeyCenter.refuse(Shortcut{40, 0x100});
+    stage_.userInterface.setAnswer(AlertAnswer::secondButton);
+    stage_.show();
+    stage_.click(item("recorder"));
+    const QQuickItem* before = stage_.window.window().rootObject();
+    const QQuickItem* during = nullptr;
+    stage_.userInterface.whileAsking = [&] {
+        stage_.show();
+        during = stage_.window.window().rootObject();
+    };
+    stage_.pressPhysical(Qt::Key_K, 37, Qt::ControlModifier);
+    EXPECT_EQ(stage_.userInterface.alerts().size(), 1U);
+    EXPECT_EQ(during, before);
+    EXPECT_EQ(stage_.shortcuts.getShortcut(stage_.togglePalette), (Shortcut{40, 0x100}));
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return stage_.find("recorder")->property("recorder").value<RecorderAdapter*>()->text() != "";
+    }));
+    // The one that waited is there, and it works.
+    click("showCheckedStatus");
+    EXPECT_FALSE(stage_.model().showCheckedStatus().get());
+}
+
 TEST_F(SettingsViewTest, TheWindowHidesAndStartsAnew) {
     stage_.show(SettingsTab::search);
     QQuickView& window = stage_.window.window();
