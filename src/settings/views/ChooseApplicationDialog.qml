@@ -18,10 +18,6 @@ FocusScope {
         dialog.rules.addRule(id);
     }
 
-    component Applications: ListView {
-        signal chosen()
-    }
-
     focus: true
     Component.onCompleted: search.textInput.forceActiveFocus(Qt.PopupFocusReason)
 
@@ -82,9 +78,9 @@ FocusScope {
             id: search
 
             objectName: "search"
-            x: 20
+            x: 24
             y: title.y + title.height + 14
-            width: box.width - 40
+            width: box.width - 48
             symbol: "magnifyingglass"
             text: ""
             placeholder: qsTr("Search")
@@ -102,16 +98,16 @@ FocusScope {
             font.pixelSize: 14
             font.weight: Font.DemiBold
         }
-        Applications {
+        ApplicationList {
             id: list
 
             objectName: "applications"
-            x: 20
+            x: 24
             anchors.top: search.bottom
             anchors.topMargin: 12
             anchors.bottom: add.top
             anchors.bottomMargin: 16
-            width: box.width - 40
+            width: box.width - 48
             clip: true
             spacing: 2
             model: rows
@@ -131,7 +127,7 @@ FocusScope {
             Accessible.name: qsTr("Choose Application")
 
             delegate: ApplicationRow {
-                readonly property Applications list: ListView.view as Applications
+                readonly property ApplicationList list: ListView.view as ApplicationList
 
                 width: list ? list.width - 12 : 0
                 isCurrent: ListView.isCurrentItem
@@ -158,9 +154,9 @@ FocusScope {
 
             objectName: "add"
             anchors.right: parent.right
-            anchors.rightMargin: 20
+            anchors.rightMargin: 24
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 20
+            anchors.bottomMargin: 24
             role: "primary"
             text: qsTr("Add")
             enabled: list.currentIndex >= 0 && list.count > 0

@@ -10,17 +10,6 @@ FocusScope {
     required property int selection
     property real maximumWidth: 10000
 
-    // What the segments, which cannot see the picker, share.
-    component Track: Row {
-        required property int selection
-        required property real cellWidth
-        required property real cellHeight
-        // So that all segments are as wide as the widest text needs.
-        property real widest: 72
-
-        signal chosen(int index)
-    }
-
     signal chosen(int index)
 
     function choose(index: int) {
@@ -50,7 +39,7 @@ FocusScope {
         radius: 14
         from: "#f1ead8"
     }
-    Track {
+    SegmentTrack {
         id: track
 
         x: 3
@@ -68,7 +57,7 @@ FocusScope {
             delegate: IslandSegment {
                 required property int index
                 required property string modelData
-                readonly property Track track: parent as Track
+                readonly property SegmentTrack track: parent as SegmentTrack
 
                 width: track ? track.cellWidth : 0
                 height: track ? track.cellHeight : 0

@@ -27,14 +27,6 @@ FocusScope {
         }
     }
 
-    component Choices: ListView {
-        required property IslandPicker picker
-        required property int rowHeight
-        property real widest: 0
-
-        signal chosen(int row)
-    }
-
     parent: popup.picker.Window.contentItem
     anchors.fill: parent
     z: 100
@@ -131,7 +123,7 @@ FocusScope {
             font.pixelSize: 13
             font.weight: Font.Medium
         }
-        Choices {
+        PickerChoices {
             id: list
 
             objectName: "choices"
@@ -160,7 +152,7 @@ FocusScope {
             Accessible.name: popup.picker.name
 
             delegate: PickerRow {
-                readonly property Choices choices: ListView.view as Choices
+                readonly property PickerChoices choices: ListView.view as PickerChoices
 
                 width: choices ? choices.width : 0
                 height: choices ? choices.rowHeight : 0

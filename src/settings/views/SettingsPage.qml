@@ -53,6 +53,17 @@ FocusScope {
             spacing: SettingsTheme.inner
         }
     }
+    // The cards fade out where they are scrolled away.
+    Rectangle {
+        x: column.x
+        width: column.width
+        height: 14
+        visible: flickable.contentY > 0
+        gradient: Gradient {
+            GradientStop { position: 0; color: "#fff1f5e6" }
+            GradientStop { position: 1; color: "#00f1f5e6" }
+        }
+    }
     SlimScrollBar {
         anchors.right: parent.right
         anchors.rightMargin: 5

@@ -7,13 +7,6 @@ RoundedBox {
 
     required property SettingsViewAdapter settings
 
-    // What the entries, which cannot see the sidebar, share.
-    component Entries: Column {
-        required property SettingsViewAdapter settings
-
-        signal moved(int index)
-    }
-
     radius: 22
     from: "#a6ffffff"
     borderWidth: 1
@@ -56,7 +49,7 @@ RoundedBox {
             elide: Text.ElideRight
         }
     }
-    Entries {
+    SidebarEntries {
         id: list
 
         x: 12
@@ -82,7 +75,7 @@ RoundedBox {
 
             delegate: SettingsSidebarButton {
                 required property int index
-                readonly property Entries entries: parent as Entries
+                readonly property SidebarEntries entries: parent as SidebarEntries
 
                 width: entries ? entries.width : 0
                 isSelected: entries !== null && index === entries.settings.selectedTab

@@ -2,9 +2,11 @@
 
 #include <QQuickItem>
 #include <QQuickView>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <sstream>
+#include <utility>
 #include <vector>
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
@@ -18,6 +20,18 @@
 #include "settings/SettingsViewState.h"
 
 namespace tovrel {
+
+/// A user interface in whose alerts something can happen before they are answered.
+struct AskingUserInterface : MemoryUserInterface {
+    [[nodiscard]] AlertAnswer runAlert(const Alert& alert) override {
+        if (const auto once = std::exchange(whileAsking, nullptr)) {
+            once();
+        }
+        return MemoryUserInterface::runAlert(alert);
+    }
+
+    std::function<void()> whileAsking;
+};
 
 /// The settings' window over stores in memory, and what it called.
 class SettingsStage {
@@ -49,7 +63,7 @@ class SettingsStage {
     CustomCommandStore customCommands{preferences, "customCommands"};
     PaletteSettingsStore paletteSettings{preferences, "paletteSettings"};
     MemoryHotKeyCenter hotKeyCenter;
-    MemoryUserInterface userInterface;
+    AskingUserInterface userInterface;
     MemoryWorkspace workspace;
     std::ostringstream output;
     KeyboardShortcuts shortcuts{preferences, hotKeyCenter, userInterface, textServices, output};
