@@ -11,6 +11,7 @@
 //   still QUIET TIMEOUT       waits until no pixel has changed for QUIET ms; caret and all
 //   remember                  keeps what the area looks like
 //   restored TIMEOUT          waits until it looks so again; the microseconds that took
+//   front WINDOW TIMEOUT      waits until the window manager says that this window is the active one
 //   resources PID             what the X server holds for a process: TYPE=COUNT, separated by TABs
 //   calibrate N               draws N times itself; the microseconds until each was seen
 
@@ -84,6 +85,9 @@ class PixelWatch {
         if (verb == "restored") {
             return restored(words);
         }
+        if (verb == "front") {
+            return front(words);
+        }
         if (verb == "resources") {
             return resources(words);
         }
@@ -153,6 +157,22 @@ class PixelWatch {
         return limits && screen_.waitForRemembered(start + std::chrono::milliseconds(limits->front()))
                    ? std::to_string(microseconds(Clock::now() - start))
                    : "no return";
+    }
+
+    std::string front(const Words& words) {
+        const auto given = numbers<std::uint32_t>(words, 1, 2);
+        if (!given) {
+            return "no window or no limit";
+        }
+        const Clock::time_point deadline = Clock::now() + std::chrono::milliseconds((*given)[1]);
+        const X11RootPropertyWatch watch(connection_);
+        do {
+            const auto active = connection_.numbers(connection_.root(), "_NET_ACTIVE_WINDOW");
+            if (!active.empty() && active.front() == given->front()) {
+                return "ok";
+            }
+        } while (connection_.waitForPropertyChange(deadline));
+        return "no such window in front";
     }
 
     std::string resources(const Words& words) {

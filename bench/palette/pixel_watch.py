@@ -51,6 +51,9 @@ class PixelWatch:
         """Milliseconds until the area looks again as it was remembered."""
         return int(self._ask("restored", TIMEOUT_MS)) / 1000
 
+    def wait_until_in_front(self, window):
+        self._ask("front", window, TIMEOUT_MS)
+
     def resources(self, process_id):
         """How much of each type the X server holds for a process."""
         pairs = (pair.rpartition("=") for pair in self._ask("resources", process_id).split("\t"))

@@ -87,8 +87,8 @@ FakeListener::FakeListener(const std::filesystem::path& socket, FakeService::Ans
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     socket.string().copy(static_cast<char*>(address.sun_path), sizeof address.sun_path - 1);
-    bind(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address);
-    listen(socket_, 1);
+    static_cast<void>(::bind(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address));
+    static_cast<void>(::listen(socket_, 1));
     thread_ = std::thread([this] { serve(); });
 }
 
