@@ -83,6 +83,7 @@ FocusScope {
         anchors.right: first.left
         anchors.rightMargin: 12
         anchors.bottom: first.bottom
+        visible: second.text !== ""
         text: view.question.secondButton
         isDefault: false
         onPressed: view.question.answer(false)

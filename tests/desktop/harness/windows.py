@@ -54,6 +54,11 @@ class Windows:
     def type_text(self, text):
         self._xdotool("type", "--clearmodifiers", text)
 
+    def turn_wheel(self, window, button):
+        """One turn of the mouse wheel (4 up, 5 down) over the middle of the window."""
+        x, y, width, height = self.geometry(window)
+        self._xdotool("mousemove", str(x + width // 2), str(y + height // 2), "click", str(button))
+
     def has_window_manager(self):
         # It announces itself before it listens; then it tells, in an order of its own, of windows and focus.
         announced = self._window_property(None, "_NET_SUPPORTING_WM_CHECK")

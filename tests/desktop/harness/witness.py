@@ -7,7 +7,7 @@ from .bus_connection import BusConnection
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 APPLICATIONS = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
-STATES = {"active": 1, "checked": 4, "enabled": 8, "sensitive": 24, "showing": 25, "visible": 30}
+STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "sensitive": 24, "showing": 25, "visible": 30}
 
 
 class Witness:
@@ -46,6 +46,11 @@ class Node:
         self._bus = bus
         self._name = name
         self._path = path
+
+    @property
+    def identity(self):
+        """The same for the same node, as long as it is there."""
+        return self._name, self._path
 
     @property
     def name(self):
