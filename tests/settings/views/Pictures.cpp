@@ -36,11 +36,12 @@ class Pictures {
         drawEmptyPages();
         fill();
         drawFilledPages("filled");
-        drawDialogs();
+        drawDialogs("");
         drawRecording();
         LongTexts longTexts;
         QCoreApplication::installTranslator(&longTexts);
         drawFilledPages("long");
+        drawDialogs("long-");
     }
 
   private:
@@ -135,31 +136,31 @@ class Pictures {
         return last > 0;
     }
 
-    void drawDialogs() {
+    void drawDialogs(const QString& prefix) {
         stage_.show(SettingsTab::appRules);
         scrollToEnd();
         stage_.click(stage_.find(QStringLiteral("chooseApplication")));
         stage_.press(Qt::Key_Down);
-        save("choose-application");
+        save(prefix + "choose-application");
         stage_.type(QStringLiteral("zzz"));
-        save("choose-application-none");
+        save(prefix + "choose-application-none");
         stage_.show(SettingsTab::menuRules);
         stage_.click(stage_.find(QStringLiteral("candidate")));
-        save("picker");
+        save(prefix + "picker");
         stage_.type(QStringLiteral("command 1"));
         stage_.press(Qt::Key_Down);
-        save("picker-filtered");
+        save(prefix + "picker-filtered");
         stage_.show(SettingsTab::menuRules);
         stage_.click(stage_.find(QStringLiteral("mode")));
-        save("picker-modes");
+        save(prefix + "picker-modes");
         stage_.show(SettingsTab::commands);
         for (int i = 0; i < 8; ++i) {
             stage_.press(Qt::Key_Tab);
         }
-        save("keyboard-focus");
+        save(prefix + "keyboard-focus");
         stage_.show(SettingsTab::general);
         stage_.press(Qt::Key_Tab);
-        save("keyboard-focus-sidebar");
+        save(prefix + "keyboard-focus-sidebar");
     }
 
     void drawRecording() {

@@ -488,6 +488,7 @@ TEST_F(SettingsViewTest, AssistiveTechnologySeesTheControls) {
     EXPECT_EQ(interfaceOf("recorder")->text(QAccessible::Name), "Command Palette");
     stage_.show(SettingsTab::appRules);
     EXPECT_EQ(interfaceOf("defaultBehavior")->role(), QAccessible::Grouping);
+    EXPECT_EQ(interfaceOf("defaultBehavior")->text(QAccessible::Description), "Enabled");
     QQuickItem* row = stage_.row("rules", 0);
     EXPECT_EQ(interfaceOf("behavior", row)->role(), QAccessible::ComboBox);
     EXPECT_EQ(interfaceOf("behavior", row)->text(QAccessible::Name), "Behavior of featherpad");
