@@ -57,8 +57,9 @@ class Pictures {
     void fill() {
         stage_.application = CurrentApplicationContext{"FeatherPad", "featherpad"};
         std::vector<Text> commands;
+        commands.reserve(600);
         for (int i = 0; i < 600; ++i) {
-            commands.push_back("Command " + std::to_string(i));
+            commands.emplace_back("Command " + std::to_string(i));
         }
         commands[2] = "A command with a very long name that nobody can read in one glance";
         stage_.menuItems = {menuOf("File", {"New", "Open…", "Save", "Save As…", "Print…", "Quit"}),
@@ -78,8 +79,8 @@ class Pictures {
                                               MenuBlacklistMode::excludeSelfAndChildren);
         }
         const struct {
-            const char* title;
-            CustomCommandKind kind;
+            const char* title = nullptr;
+            CustomCommandKind kind = CustomCommandKind::open;
             std::optional<Text> scope;
         } custom[] = {{"Back up my documents", CustomCommandKind::shellScript, std::nullopt},
                       {"Toggle Do Not Disturb", CustomCommandKind::shortcut, std::nullopt},

@@ -298,8 +298,9 @@ TEST_F(SettingsViewTest, SearchRulesAreSavedAndTheHistoryIsCleared) {
 
 TEST_F(SettingsViewTest, APickerFindsOneOfHundreds) {
     std::vector<Text> commands;
+    commands.reserve(600);
     for (int i = 0; i < 600; ++i) {
-        commands.push_back("Entry " + std::to_string(i));
+        commands.emplace_back("Entry " + std::to_string(i));
     }
     stage_.application = CurrentApplicationContext{"FeatherPad", "featherpad"};
     stage_.menuItems = {menuOf("Edit", commands)};
