@@ -98,6 +98,7 @@ void AppRulesSettings::loadApplications() {
         return textServices_->isOrderedBefore(left.name, right.name);
     });
     std::vector<SettingsRow> rows;
+    rows.reserve(applications.size());
     for (const InstalledApplication& application : applications) {
         rows.push_back({.id = qtString(application.bundleIdentifier),
                         .title = qtString(application.name),

@@ -23,6 +23,7 @@ FocusScope {
 
     Accessible.role: Accessible.Grouping
     Accessible.name: picker.name
+    Accessible.description: picker.labels[picker.selection]
     Accessible.focusable: true
 
     Keys.onLeftPressed: picker.choose(picker.selection - 1)

@@ -35,6 +35,7 @@ QString scope(const std::optional<Text>& appScope);
 template <typename Value, std::size_t count>
 std::vector<SettingsRow> choices(const std::array<Value, count>& values) {
     std::vector<SettingsRow> rows;
+    rows.reserve(count);
     for (const Value value : values) {
         rows.push_back({.id = QString::fromLatin1(rawValue(value)), .title = label(value)});
     }

@@ -36,11 +36,12 @@ class Pictures {
         drawEmptyPages();
         fill();
         drawFilledPages("filled");
-        drawDialogs();
+        drawDialogs("");
         drawRecording();
         LongTexts longTexts;
         QCoreApplication::installTranslator(&longTexts);
         drawFilledPages("long");
+        drawDialogs("long-");
     }
 
   private:
@@ -56,8 +57,9 @@ class Pictures {
     void fill() {
         stage_.application = CurrentApplicationContext{"FeatherPad", "featherpad"};
         std::vector<Text> commands;
+        commands.reserve(600);
         for (int i = 0; i < 600; ++i) {
-            commands.push_back("Command " + std::to_string(i));
+            commands.emplace_back("Command " + std::to_string(i));
         }
         commands[2] = "A command with a very long name that nobody can read in one glance";
         stage_.menuItems = {menuOf("File", {"New", "Open…", "Save", "Save As…", "Print…", "Quit"}),
@@ -77,8 +79,8 @@ class Pictures {
                                               MenuBlacklistMode::excludeSelfAndChildren);
         }
         const struct {
-            const char* title;
-            CustomCommandKind kind;
+            const char* title = nullptr;
+            CustomCommandKind kind = CustomCommandKind::open;
             std::optional<Text> scope;
         } custom[] = {{"Back up my documents", CustomCommandKind::shellScript, std::nullopt},
                       {"Toggle Do Not Disturb", CustomCommandKind::shortcut, std::nullopt},
@@ -135,31 +137,31 @@ class Pictures {
         return last > 0;
     }
 
-    void drawDialogs() {
+    void drawDialogs(const QString& prefix) {
         stage_.show(SettingsTab::appRules);
         scrollToEnd();
         stage_.click(stage_.find(QStringLiteral("chooseApplication")));
         stage_.press(Qt::Key_Down);
-        save("choose-application");
+        save(prefix + "choose-application");
         stage_.type(QStringLiteral("zzz"));
-        save("choose-application-none");
+        save(prefix + "choose-application-none");
         stage_.show(SettingsTab::menuRules);
         stage_.click(stage_.find(QStringLiteral("candidate")));
-        save("picker");
+        save(prefix + "picker");
         stage_.type(QStringLiteral("command 1"));
         stage_.press(Qt::Key_Down);
-        save("picker-filtered");
+        save(prefix + "picker-filtered");
         stage_.show(SettingsTab::menuRules);
         stage_.click(stage_.find(QStringLiteral("mode")));
-        save("picker-modes");
+        save(prefix + "picker-modes");
         stage_.show(SettingsTab::commands);
         for (int i = 0; i < 8; ++i) {
             stage_.press(Qt::Key_Tab);
         }
-        save("keyboard-focus");
+        save(prefix + "keyboard-focus");
         stage_.show(SettingsTab::general);
         stage_.press(Qt::Key_Tab);
-        save("keyboard-focus-sidebar");
+        save(prefix + "keyboard-focus-sidebar");
     }
 
     void drawRecording() {

@@ -298,8 +298,9 @@ TEST_F(SettingsViewTest, SearchRulesAreSavedAndTheHistoryIsCleared) {
 
 TEST_F(SettingsViewTest, APickerFindsOneOfHundreds) {
     std::vector<Text> commands;
+    commands.reserve(600);
     for (int i = 0; i < 600; ++i) {
-        commands.push_back("Entry " + std::to_string(i));
+        commands.emplace_back("Entry " + std::to_string(i));
     }
     stage_.application = CurrentApplicationContext{"FeatherPad", "featherpad"};
     stage_.menuItems = {menuOf("Edit", commands)};
@@ -488,6 +489,7 @@ TEST_F(SettingsViewTest, AssistiveTechnologySeesTheControls) {
     EXPECT_EQ(interfaceOf("recorder")->text(QAccessible::Name), "Command Palette");
     stage_.show(SettingsTab::appRules);
     EXPECT_EQ(interfaceOf("defaultBehavior")->role(), QAccessible::Grouping);
+    EXPECT_EQ(interfaceOf("defaultBehavior")->text(QAccessible::Description), "Enabled");
     QQuickItem* row = stage_.row("rules", 0);
     EXPECT_EQ(interfaceOf("behavior", row)->role(), QAccessible::ComboBox);
     EXPECT_EQ(interfaceOf("behavior", row)->text(QAccessible::Name), "Behavior of featherpad");
