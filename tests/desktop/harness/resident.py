@@ -71,15 +71,17 @@ class Resident:
 
     def rows(self):
         """The names of the rows on the screen: title, menus, shortcut."""
-        results = self._find("list")
-        if results is None:
-            return []
-        return [row.name for row in results.children if "showing" in row.states]
+        return [row.name for row in self._rows()]
 
     def checked_rows(self):
         """Of the rows on the screen, those with a check mark."""
+        return [row.name for row in self._rows() if "checked" in row.states]
+
+    def _rows(self):
+        """In the order in which they are shown; each says of itself which one it is, as in "2 of 7"."""
         results = self._find("list")
-        return [row.name for row in results.children if {"showing", "checked"} <= row.states]
+        shown = [row for row in results.children if "showing" in row.states] if results else []
+        return sorted(shown, key=lambda row: int(row.description.split()[0]))
 
     def _frames(self):
         tree = self._desktop.witness.application(self.pid)

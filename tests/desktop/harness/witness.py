@@ -57,6 +57,10 @@ class Node:
         return self._bus.get(self._name, self._path, ACCESSIBLE, "Name")
 
     @property
+    def description(self):
+        return self._bus.get(self._name, self._path, ACCESSIBLE, "Description")
+
+    @property
     def role(self):
         return self._bus.call(self._name, self._path, ACCESSIBLE, "GetRoleName")[0]
 
