@@ -57,6 +57,187 @@
     </message>
 </context>
 <context>
+    <name>AppRuleColumns</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Bundle ID</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>Behavior</source>
+        <translation>Verhalten</translation>
+    </message>
+</context>
+<context>
+    <name>AppRuleRow</name>
+    <message>
+        <source>Behavior of %1</source>
+        <translation>Verhalten von %1</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>AppRulesTab</name>
+    <message>
+        <source>Default Behavior</source>
+        <translation>Standardverhalten</translation>
+    </message>
+    <message>
+        <source>What Tovrel does in apps with no saved rule.</source>
+        <translation>Was Tovrel in Apps ohne eigene Regel tut.</translation>
+    </message>
+    <message>
+        <source>Current Application</source>
+        <translation>Aktuelle App</translation>
+    </message>
+    <message>
+        <source>Frontmost app. Changing this creates or updates its saved rule.</source>
+        <translation>Die vordere App. Eine Änderung legt ihre Regel an oder ändert sie.</translation>
+    </message>
+    <message>
+        <source>No frontmost app found</source>
+        <translation>Keine App im Vordergrund gefunden</translation>
+    </message>
+    <message>
+        <source>Add App Rule</source>
+        <translation>App-Regel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Choose an app bundle and save an override.</source>
+        <translation>Wähle eine App und sichere eine Ausnahme für sie.</translation>
+    </message>
+    <message>
+        <source>Choose Application</source>
+        <translation>App auswählen</translation>
+    </message>
+    <message>
+        <source>Saved App Rules</source>
+        <translation>Gesicherte App-Regeln</translation>
+    </message>
+    <message>
+        <source>Apps with behavior different from the default.</source>
+        <translation>Apps, die sich anders als der Standard verhalten.</translation>
+    </message>
+    <message>
+        <source>No saved app rules</source>
+        <translation>Keine App-Regeln gesichert</translation>
+    </message>
+</context>
+<context>
+    <name>BehaviorHint</name>
+    <message>
+        <source>Enabled opens Tovrel in this app. Disabled ignores the hotkey in this app.</source>
+        <translation>„Aktiviert“ öffnet Tovrel in dieser App. „Deaktiviert“ überlässt ihr das Kürzel.</translation>
+    </message>
+</context>
+<context>
+    <name>ChooseApplicationDialog</name>
+    <message>
+        <source>Choose Application</source>
+        <translation>App auswählen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>No matches</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>CommandsTab</name>
+    <message>
+        <source>Edit Command</source>
+        <translation>Befehl bearbeiten</translation>
+    </message>
+    <message>
+        <source>Add Command</source>
+        <translation>Befehl hinzufügen</translation>
+    </message>
+    <message>
+        <source>Create local commands that appear beside app menu commands.</source>
+        <translation>Eigene Befehle, die neben den Menübefehlen der Apps erscheinen.</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Aliases separated by commas</source>
+        <translation>Aliasnamen, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Save Changes</source>
+        <translation>Änderungen sichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Custom Commands</source>
+        <translation>Eigene Befehle</translation>
+    </message>
+    <message>
+        <source>Local actions you have added to Tovrel.</source>
+        <translation>Aktionen, die du Tovrel hinzugefügt hast.</translation>
+    </message>
+    <message>
+        <source>No custom commands</source>
+        <translation>Keine eigenen Befehle</translation>
+    </message>
+    <message>
+        <source>Edit %1</source>
+        <translation>%1 bearbeiten</translation>
+    </message>
+    <message>
+        <source>Delete %1</source>
+        <translation>%1 löschen</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Run “%@”?</source>
+        <translation>„%@“ ausführen?</translation>
+    </message>
+    <message>
+        <source>This %@ command can run actions on your Mac.</source>
+        <translation>Dieser %@-Befehl kann Aktionen auf deinem Mac ausführen.</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Ausführen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Start typing</source>
@@ -73,6 +254,112 @@
     <message>
         <source>Try a different keyword</source>
         <translation>Versuche ein anderes Stichwort</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralTab</name>
+    <message>
+        <source>Access</source>
+        <translation>Zugriff</translation>
+    </message>
+    <message>
+        <source>Allow Tovrel to read app menus locally.</source>
+        <translation>Tovrel darf die Menüs von Apps auf diesem Rechner lesen.</translation>
+    </message>
+    <message>
+        <source>Accessibility</source>
+        <translation>Barrierefreiheit</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Needs Permission</source>
+        <translation>Erlaubnis fehlt</translation>
+    </message>
+    <message>
+        <source>Turn on Tovrel in System Settings &gt; Privacy &amp; Security &gt; Accessibility, then return and refresh.</source>
+        <translation>Schalte Tovrel unter Systemeinstellungen &gt; Datenschutz &amp; Sicherheit &gt; Bedienungshilfen ein, komm zurück und aktualisiere.</translation>
+    </message>
+    <message>
+        <source>Hotkey</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Choose the global shortcut that opens Tovrel.</source>
+        <translation>Das Kürzel, das Tovrel überall öffnet.</translation>
+    </message>
+    <message>
+        <source>Command Palette</source>
+        <translation>Befehlspalette</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Keep menu state visible when the front app exposes it.</source>
+        <translation>Zeigt den Zustand von Menüpunkten, wenn die vordere App ihn verrät.</translation>
+    </message>
+    <message>
+        <source>Show checked status of menu items</source>
+        <translation>Häkchen von Menüpunkten zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryTab</name>
+    <message>
+        <source>Menu Search</source>
+        <translation>Menüsuche</translation>
+    </message>
+    <message>
+        <source>Tune aliases and ranking for the front app.</source>
+        <translation>Aliasnamen und Rangfolge für die vordere App.</translation>
+    </message>
+    <message>
+        <source>No menu commands detected. Open the app you want to tune, then refresh.</source>
+        <translation>Keine Menübefehle gefunden. Öffne die App, die du anpassen willst, und aktualisiere.</translation>
+    </message>
+    <message>
+        <source>Menu Command</source>
+        <translation>Menübefehl</translation>
+    </message>
+    <message>
+        <source>Aliases separated by commas</source>
+        <translation>Aliasnamen, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>Save Search Rule</source>
+        <translation>Suchregel sichern</translation>
+    </message>
+    <message>
+        <source>Saved Ranking Data</source>
+        <translation>Gesicherte Rangfolge</translation>
+    </message>
+    <message>
+        <source>Commands Tovrel has learned from usage.</source>
+        <translation>Befehle, die Tovrel aus der Nutzung kennt.</translation>
+    </message>
+    <message>
+        <source>No command usage recorded yet</source>
+        <translation>Noch keine Nutzung aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Remove local command usage data and learned ranking.</source>
+        <translation>Entfernt die aufgezeichnete Nutzung und die gelernte Rangfolge.</translation>
+    </message>
+    <message>
+        <source>Clear History Records</source>
+        <translation>Verlauf löschen</translation>
     </message>
 </context>
 <context>
@@ -111,10 +398,71 @@
     </message>
 </context>
 <context>
+    <name>MenuFilterTab</name>
+    <message>
+        <source>Hide Menu Item</source>
+        <translation>Menüpunkt ausblenden</translation>
+    </message>
+    <message>
+        <source>Choose a real menu command from the front app.</source>
+        <translation>Wähle einen Menübefehl der vorderen App.</translation>
+    </message>
+    <message>
+        <source>No menu commands detected. Open the app you want to tune, then refresh.</source>
+        <translation>Keine Menübefehle gefunden. Öffne die App, die du anpassen willst, und aktualisiere.</translation>
+    </message>
+    <message>
+        <source>Menu Item</source>
+        <translation>Menüpunkt</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide Selected Item</source>
+        <translation>Gewählten Punkt ausblenden</translation>
+    </message>
+    <message>
+        <source>Hidden Menu Items</source>
+        <translation>Ausgeblendete Menüpunkte</translation>
+    </message>
+    <message>
+        <source>These commands stay available in the app menu, just not in Tovrel.</source>
+        <translation>Im Menü der App bleiben diese Befehle, nur in Tovrel nicht.</translation>
+    </message>
+    <message>
+        <source>No hidden menu items</source>
+        <translation>Keine Menüpunkte ausgeblendet</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+</context>
+<context>
     <name>PaletteRow</name>
     <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>PickerPopup</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>No matches</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>RecorderField</name>
+    <message>
+        <source>Clear %1</source>
+        <translation>%1 löschen</translation>
     </message>
 </context>
 <context>
@@ -129,6 +477,184 @@
     <message>
         <source>Commands</source>
         <translation>Befehle</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsLabels</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Palette shortcuts and display</source>
+        <translation>Kürzel und Darstellung der Palette</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Per-app behavior rules</source>
+        <translation>Regeln für einzelne Apps</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>Menu Filter</source>
+        <translation>Menüfilter</translation>
+    </message>
+    <message>
+        <source>Hide noisy menu commands</source>
+        <translation>Störende Menübefehle ausblenden</translation>
+    </message>
+    <message>
+        <source>Clean Up</source>
+        <translation>Aufräumen</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Local custom actions</source>
+        <translation>Eigene Aktionen auf diesem Rechner</translation>
+    </message>
+    <message>
+        <source>Local</source>
+        <translation>Lokal</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Usage and ranking</source>
+        <translation>Nutzung und Rangfolge</translation>
+    </message>
+    <message>
+        <source>Shell</source>
+        <translation>Shell</translation>
+    </message>
+    <message>
+        <source>Shell command or script path</source>
+        <translation>Shell-Befehl oder Pfad eines Skripts</translation>
+    </message>
+    <message>
+        <source>AppleScript</source>
+        <translation>AppleScript</translation>
+    </message>
+    <message>
+        <source>AppleScript text or .scpt path</source>
+        <translation>AppleScript-Text oder Pfad einer .scpt-Datei</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>App, file, folder, or URL</source>
+        <translation>App, Datei, Ordner oder URL</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Kurzbefehl</translation>
+    </message>
+    <message>
+        <source>Shortcut name or URL</source>
+        <translation>Name oder URL eines Kurzbefehls</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Hide Item Only</source>
+        <translation>Nur diesen Punkt</translation>
+    </message>
+    <message>
+        <source>Hide Submenus</source>
+        <translation>Nur Untermenüs</translation>
+    </message>
+    <message>
+        <source>Hide Item and Submenus</source>
+        <translation>Punkt und Untermenüs</translation>
+    </message>
+    <message>
+        <source>All Apps</source>
+        <translation>Alle Apps</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsSidebar</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+</context>
+<context>
+    <name>StatusMenu</name>
+    <message>
+        <source>Open Palette</source>
+        <translation>Palette öffnen</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Quit Tovrel</source>
+        <translation>Tovrel beenden</translation>
+    </message>
+</context>
+<context>
+    <name>WindowMenu</name>
+    <message>
+        <source>Close Window</source>
+        <translation>Fenster schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tovrel::CustomCommandsSettings</name>
+    <message>
+        <source>Only show in %1</source>
+        <translation>Nur in %1 zeigen</translation>
+    </message>
+    <message>
+        <source>Only show for current app</source>
+        <translation>Nur für die aktuelle App zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>tovrel::HistorySettings</name>
+    <message>
+        <source>Used 1 time</source>
+        <translation>1 Mal benutzt</translation>
+    </message>
+    <message>
+        <source>Used %1 times</source>
+        <translation>%1 Mal benutzt</translation>
+    </message>
+    <message>
+        <source>Last used %1</source>
+        <translation>Zuletzt benutzt %1</translation>
     </message>
 </context>
 </TS>

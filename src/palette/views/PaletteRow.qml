@@ -23,6 +23,8 @@ Item {
 
     height: 52
 
+    // The list keeps rows that it does not show, for use by and by.
+    Accessible.ignored: row.index < 0
     Accessible.role: Accessible.ListItem
     Accessible.name: row.spokenName
     Accessible.description: qsTr("%1 of %2").arg(row.index + 1).arg(row.count)
