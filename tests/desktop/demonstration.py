@@ -12,6 +12,7 @@ from harness import Desktop, Program
 from harness.keyboard import Keyboard
 from harness.menu_witness import menu_entry
 from harness.resident import HOT_KEY, Resident
+from harness.settings_window import SettingsWindow
 from harness.waiting import wait_until
 
 TEXT = "The quick brown fox\njumps over the lazy dog.\n"
@@ -90,6 +91,27 @@ class Demonstration:
             raise AssertionError(f"the history holds {used}")
         say("Proved: the history remembers both commands, so that they rank higher the next time.")
 
+    def hide_a_menu_item(self):
+        settings = SettingsWindow(self._desktop, self._resident, self._keyboard)
+        settings.open(self._tovrel)
+        for tab in ("Apps", "Commands", "History", "General", "Menu Filter"):
+            settings.select_tab(tab)
+            self.picture(f"5-settings-{tab.lower().replace(' ', '-')}")
+        settings.pick("Menu Item", "to uppercase", "Edit > Convert > To Uppercase")
+        settings.activate("Hide Selected Item")
+        settings.wait_for("Edit > Convert > To Uppercase", "list item")
+        self.picture("6-hidden")
+        say("$ tovrel settings    # with keys alone: Menu Filter, To Uppercase, Hide Selected Item")
+        settings.close()
+        wait_until(lambda: self._desktop.windows.active() == self._editor.window, "the editor in front")
+        self._keyboard.chord(*HOT_KEY).type("uppercase").send()
+        wait_until(lambda: self._resident.query() == "uppercase", "the letters in the search field")
+        if any("To Uppercase" in row for row in self._resident.rows()):
+            raise AssertionError("the hidden item is still listed")
+        self._keyboard.chord("Escape").send()
+        wait_until(lambda: not self._resident.is_open(), "the palette to close")
+        say("Proved: the palette lists it no more; in the editor's own menu it still is.")
+
     def quit(self):
         self._tovrel.expect("quit")
         if self._resident.process.wait(timeout=20) != 0 or self._resident.errors:
@@ -129,6 +151,7 @@ def run(program, directory):
             demonstration.prove_capitals_in_the_editor()
             demonstration.picture("4-done")
             demonstration.prove_the_history()
+            demonstration.hide_a_menu_item()
             demonstration.quit()
     say(f"Pictures of each stage: {directory}")
 

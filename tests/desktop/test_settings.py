@@ -15,8 +15,8 @@ class SettingsTests(PaletteTestCase):
         super().setUp()
         self.editor, _ = self.open_text("mousepad", TEXT)
 
-    def start(self):
-        self.start_resident()
+    def start(self, **environment):
+        self.start_resident(**environment)
         self.settings = SettingsWindow(self.desktop, self.resident, self.keyboard)
 
     def open_settings(self, tab="General"):
@@ -135,7 +135,8 @@ class SettingsTests(PaletteTestCase):
         self.open_settings()
         self.settings.focus("Command Palette", "text")
         self.press("ctrl", "w")
-        self.wait_until(lambda: not self.settings.has_focus(), "the answer that the window uses it itself")
+        self.wait_until(lambda: self.resident.has_focus() and not self.settings.has_focus(),
+                        "the answer that the window uses it itself")
         self.press("Return")
         self.wait_until(self.settings.has_focus, "the window to be back")
         self.press(*HOT_KEY)
@@ -163,6 +164,26 @@ class SettingsTests(PaletteTestCase):
         self.press(*HOT_KEY)
         self.tovrel.expect("toggle")
         self.wait_until(self.resident.has_focus, "the palette to open, once and for another reason")
+
+    def test_without_accessibility_they_open_by_themselves_once(self):
+        self.desktop.switch_accessibility(False)
+        self.addCleanup(self.desktop.switch_accessibility, True)
+        self.start(QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        self.settings.wait_for("Needs Permission", "label")
+        self.settings.activate("Accessibility")
+        self.wait_until(lambda: self.resident.has_focus() and not self.settings.has_focus(),
+                        "the offer to turn it on")
+        self.press("Return")
+        self.wait_until(self.settings.has_focus, "the settings to be back")
+        self.settings.activate("Refresh")
+        self.settings.wait_for("Ready", "label")
+        self.settings.close()
+        self.resident.end()
+        self.desktop.switch_accessibility(False)
+        self.start(QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        self.tovrel.expect("toggle")
+        self.wait_until(self.resident.has_focus, "the palette")
+        self.assertFalse(self.settings.has_focus())
 
     def test_damaged_documents_read_as_defaults_and_the_next_edit_repairs_them(self):
         keys = ("rules.appBehaviors", "rules.defaultAppBehavior", "rules.menuBlacklistRules",

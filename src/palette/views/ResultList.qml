@@ -35,7 +35,8 @@ ListView {
     spacing: 4
     clip: true
     reuseItems: true
-    cacheBuffer: 120
+    // Rows beyond the edge would be made by and by, and Qt complains when there are fewer results before that.
+    cacheBuffer: 0
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
     // An invisible highlight would otherwise be animated, and the view repainted for seconds.

@@ -114,6 +114,8 @@ FocusScope {
             currentIndex: 0
             onChosen: dialog.add()
             boundsBehavior: Flickable.StopAtBounds
+            // As in the palette: no rows that are made by and by.
+            cacheBuffer: 0
             keyNavigationEnabled: false
             highlightFollowsCurrentItem: false
             highlightMoveDuration: 0

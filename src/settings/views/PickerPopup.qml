@@ -139,6 +139,8 @@ FocusScope {
             clip: true
             model: rows
             boundsBehavior: Flickable.StopAtBounds
+            // As in the palette: no rows that are made by and by.
+            cacheBuffer: 0
             keyNavigationEnabled: false
             highlightFollowsCurrentItem: false
             highlightMoveDuration: 0

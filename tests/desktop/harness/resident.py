@@ -58,9 +58,8 @@ class Resident:
         return shown[0] if shown else None
 
     def has_focus(self):
-        """Whether the palette, or a question, is in front, and knows it: before that it still asks for it."""
-        window = self.window
-        if window is None or self._desktop.front_window() != window:
+        """Whether one of its windows is in front, and knows it: before that it still asks for it."""
+        if self._desktop.front_window() not in self._desktop.windows.of_process(self.pid):
             return False
         return any("active" in frame.states for frame in self._frames())
 
