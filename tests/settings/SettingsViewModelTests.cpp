@@ -32,6 +32,7 @@ ScannedMenuItem item(std::vector<Text> path, std::vector<ScannedMenuItem> childr
 template <typename Record>
 std::vector<std::string> titles(const std::vector<Record>& records) {
     std::vector<std::string> found;
+    found.reserve(records.size());
     for (const Record& record : records) {
         found.push_back(record.title.utf8());
     }

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QOpenGLContext>
 #include <QQuickWindow>
 #include <array>
@@ -52,6 +53,7 @@ ViewEngine::ViewEngine() {
     useOpenGLIfAskedFor();
     useRoundFont();
     qml_register_types_Tovrel_Views();
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Tovrel/Views/SettingsAppIcon.svg")));
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     // The engine becomes their owner.
     engine_.addImageProvider(QLatin1String(SymbolImages::scheme), std::make_unique<SymbolImages>().release());
