@@ -74,6 +74,7 @@ class SettingsTests(PaletteTestCase):
     def test_an_application_is_left_alone_and_another_chosen(self):
         self.start()
         self.open_settings("Apps")
+        self.settings.wait_for("Mousepad", "label")
         self.settings.segment("Current Application", 1)
         self.wait_for_stored("rules.appBehaviors", {EDITOR: "disabled"})
         self.settings.activate("Choose Application")

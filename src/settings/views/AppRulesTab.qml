@@ -42,6 +42,10 @@ SettingsPage {
             height: 44
             visible: tab.rules.hasCurrentApplication
 
+            Accessible.role: Accessible.StaticText
+            Accessible.name: tab.rules.currentName
+            Accessible.description: tab.rules.currentBundleID
+
             AppIcon {
                 id: currentIcon
 

@@ -24,5 +24,7 @@ Flow {
         font.pixelSize: 13
         font.weight: Font.Medium
         wrapMode: Text.Wrap
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 }

@@ -46,6 +46,8 @@ SettingsPage {
                 lineHeight: 1.1
                 wrapMode: Text.Wrap
                 textFormat: Text.PlainText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
             IslandIconButton {
                 id: open
