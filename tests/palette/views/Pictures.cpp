@@ -3,17 +3,14 @@
 //
 // usage: tovrel_view_pictures FOLDER
 
-#include <QApplication>
 #include <QDir>
 #include <QPainter>
 #include <QPainterPath>
-#include <QProcess>
-#include <QStyleHints>
 #include <QTest>
 #include <QTimer>
-#include <iostream>
 
 #include "PaletteStage.h"
+#include "PictureProgram.h"
 #include "RecordedCommands.h"
 #include "commands/CommandSamples.h"
 #include "menus/AccessibilityPermissionService.h"
@@ -21,8 +18,6 @@
 
 namespace tovrel {
 namespace {
-
-constexpr const char* scaleVariable = "QT_SCALE_FACTOR";
 
 class Pictures {
   public:
@@ -161,28 +156,6 @@ class Pictures {
 } // namespace tovrel
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "usage: tovrel_view_pictures FOLDER\n";
-        return 2;
-    }
-    if (!qEnvironmentVariableIsSet(tovrel::scaleVariable)) {
-        for (const char* scale : {"1", "1.25", "2"}) {
-            qputenv(tovrel::scaleVariable, scale);
-            if (QProcess::execute(QString::fromLocal8Bit(argv[0]), {QString::fromLocal8Bit(argv[1])}) != 0) {
-                return 1;
-            }
-        }
-        return 0;
-    }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    tovrel::configureQtEnvironment();
-    const QApplication application(argc, argv);
-    QGuiApplication::styleHints()->setCursorFlashTime(0);
-    const QDir folder(QString::fromLocal8Bit(argv[1]));
-    if (!folder.mkpath(QStringLiteral("."))) {
-        std::cerr << "tovrel_view_pictures: cannot make the folder " << argv[1] << '\n';
-        return 1;
-    }
-    tovrel::Pictures(folder).drawAll();
-    return 0;
+    return tovrel::runPictureProgram(argc, argv,
+                                     [](const QDir& folder) { tovrel::Pictures(folder).drawAll(); });
 }

@@ -2,20 +2,15 @@
 //
 // usage: tovrel_settings_pictures FOLDER
 
-#include <QApplication>
 #include <QDir>
-#include <QProcess>
-#include <QStyleHints>
 #include <QTest>
 #include <QTranslator>
-#include <iostream>
 
+#include "PictureProgram.h"
 #include "SettingsStage.h"
 
 namespace tovrel {
 namespace {
-
-constexpr const char* scaleVariable = "QT_SCALE_FACTOR";
 
 /// Every text half as long again, as it may be in another language.
 class LongTexts : public QTranslator {
@@ -190,28 +185,6 @@ class Pictures {
 } // namespace tovrel
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "usage: tovrel_settings_pictures FOLDER\n";
-        return 2;
-    }
-    if (!qEnvironmentVariableIsSet(tovrel::scaleVariable)) {
-        for (const char* scale : {"1", "1.25", "2"}) {
-            qputenv(tovrel::scaleVariable, scale);
-            if (QProcess::execute(QString::fromLocal8Bit(argv[0]), {QString::fromLocal8Bit(argv[1])}) != 0) {
-                return 1;
-            }
-        }
-        return 0;
-    }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    tovrel::configureQtEnvironment();
-    const QApplication application(argc, argv);
-    QGuiApplication::styleHints()->setCursorFlashTime(0);
-    const QDir folder(QString::fromLocal8Bit(argv[1]));
-    if (!folder.mkpath(QStringLiteral("."))) {
-        std::cerr << "tovrel_settings_pictures: cannot make the folder " << argv[1] << '\n';
-        return 1;
-    }
-    tovrel::Pictures(folder).drawAll();
-    return 0;
+    return tovrel::runPictureProgram(argc, argv,
+                                     [](const QDir& folder) { tovrel::Pictures(folder).drawAll(); });
 }
