@@ -45,7 +45,7 @@ std::string inSeconds(std::chrono::milliseconds time) {
 }
 
 std::optional<MenuReadShortfall> shortfallOf(const MenuReadReport& report, const std::string& name,
-                                             const AtspiLimits& limits, bool isEnabled) {
+                                             const MenuReadLimits& limits, bool isEnabled) {
     const bool isPartial = report.nodes > 1; // more than the bar itself
     switch (report.outcome) {
     case MenuReadOutcome::completed:
@@ -81,14 +81,10 @@ MenuSource liveMenuSource(const command_line::MenuSourceOptions& options) {
     const auto bus = std::make_shared<AtspiBus>([windows] { return windows->accessibilityBusAddress(); });
     const auto workspace = std::make_shared<LinuxWorkspace>(
         windows, bus, std::make_shared<DesktopEntries>(DesktopEntries::ofEnvironment()));
-    const AtspiLimits limits;
+    const MenuReadLimits limits;
     const auto accessibility = std::make_shared<LinuxAccessibility>(
-        bus,
-        [windows](std::int32_t processIdentifier) -> std::optional<Text> {
-            const auto window = windows->frontWindow(processIdentifier);
-            return window ? std::optional(window->title) : std::nullopt;
-        },
-        limits);
+        MenuBuses{bus, std::make_shared<SessionBus>()},
+        [windows](std::int32_t processIdentifier) { return windows->windowsOf(processIdentifier); }, limits);
     const std::shared_ptr<RunningApplication> application = runningApplication(options, *workspace, *windows);
     return {.application = application,
             .accessibility = accessibility,

@@ -192,6 +192,9 @@ std::optional<AtspiMenuBar> findAtspiMenuBar(AtspiCalls& calls, const std::strin
     Search search(calls, isTooLarge);
     AtspiToolkit toolkit = AtspiToolkit::other;
     for (const Window& window : search.windows(root, windowTitle, toolkit)) {
+        if (toolkit == AtspiToolkit::gtk4) {
+            break;
+        }
         if (auto bar = search.barBelow(window.path)) {
             bar->toolkit = toolkit;
             return bar;

@@ -24,8 +24,9 @@ struct AtspiMenuBar {
 /// entering objects that hold content instead of window parts. LibreOffice has two: the nearer one, taken
 /// here, has current states and presses, while its key bindings are partly wrong.
 ///
-/// Absent when there is none, or when the calls were stopped: `calls.stopped()` tells. `isTooLarge` is set
-/// when a search ended at the limit of objects.
+/// Absent when there is none, in GTK 4 (whose bar is without entries until they are opened), or when the
+/// calls were stopped: `calls.stopped()` tells. `isTooLarge` is set when a search ended at the limit of
+/// objects.
 std::optional<AtspiMenuBar> findAtspiMenuBar(AtspiCalls& calls, const std::string& root,
                                              const std::optional<Text>& windowTitle, bool& isTooLarge);
 

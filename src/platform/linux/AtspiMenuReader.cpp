@@ -42,7 +42,8 @@ class TreeReader {
             return;
         }
         for (const std::string& path : paths) {
-            if (tree_.nodes.size() >= calls_.limits().nodes) {
+            if (tree_.nodes.size() >= calls_.limits().nodes ||
+                tree_.nodes[parent].children.size() >= calls_.limits().entriesPerMenu) {
                 isTooLarge_ = true;
                 return;
             }
@@ -209,7 +210,7 @@ bool readDirectly(AtspiCalls& callsOverBus, const std::string& root, const Atspi
 
 AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& busName,
                                 const std::string& root, const std::optional<Text>& windowTitle,
-                                const AtspiLimits& limits, SteadyTime started) {
+                                const MenuReadLimits& limits, SteadyTime started) {
     AtspiMenuReading reading;
     AtspiCalls calls(connection, busName, limits, started);
     bool isTooLarge = false;

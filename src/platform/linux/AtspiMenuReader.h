@@ -22,6 +22,6 @@ struct AtspiMenuReading {
 /// is when the caller began, which the total time counts from.
 AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& busName,
                                 const std::string& root, const std::optional<Text>& windowTitle,
-                                const AtspiLimits& limits, SteadyTime started);
+                                const MenuReadLimits& limits, SteadyTime started);
 
 } // namespace tovrel

@@ -70,6 +70,7 @@ inline bool holds(AtspiStates states, AtspiState state) {
 enum class AtspiToolkit {
     gtk,   ///< GTK 2 and 3, and what imitates them through ATK (LibreOffice).
     qt,    ///< Qt 5 and 6.
+    gtk4,  ///< Its menus are not on the accessibility bus until they are opened.
     gecko, ///< Firefox and its relatives.
     other,
 };
