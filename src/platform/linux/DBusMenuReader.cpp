@@ -198,7 +198,7 @@ class Reader {
         MenuNode node;
         node.title = titleOfLabel(item->label);
         if (item->isSeparator || !item->isVisible || node.title.empty()) {
-            return sd_bus_message_skip(message, "av") >= 0 && leaveChild(message);
+            return sd_bus_message_skip(message, "av") >= 0 && leaveContainers(message, 2);
         }
         node.isEnabled = item->isEnabled && tree_[parent].isEnabled == true;
         node.isChecked = item->isChecked;
@@ -210,17 +210,13 @@ class Reader {
         tree_.push_back(std::move(node));
         depths_.push_back(depths_[parent] + 1);
         tree_[parent].children.push_back(index);
-        if (!addChildren(message, index) || !leaveChild(message)) {
+        if (!addChildren(message, index) || !leaveContainers(message, 2)) {
             return false;
         }
         if (item->hasSubmenu && tree_[index].children.empty()) {
             fill(item->identifier, index);
         }
         return true;
-    }
-
-    static bool leaveChild(sd_bus_message* message) {
-        return sd_bus_message_exit_container(message) >= 0 && sd_bus_message_exit_container(message) >= 0;
     }
 
     BoundedCalls& calls_;

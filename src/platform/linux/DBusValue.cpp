@@ -185,4 +185,11 @@ bool appendVariant(sd_bus_message* message, const DBusValue& value) {
            appendValue(message, value) && sd_bus_message_close_container(message) >= 0;
 }
 
+bool leaveContainers(sd_bus_message* message, int levels) {
+    while (levels > 0 && sd_bus_message_exit_container(message) >= 0) {
+        --levels;
+    }
+    return levels == 0;
+}
+
 } // namespace tovrel

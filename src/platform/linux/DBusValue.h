@@ -28,4 +28,7 @@ std::optional<DBusValue> readVariant(sd_bus_message* message);
 /// Appends the value within a variant; false when the message does not take it.
 bool appendVariant(sd_bus_message* message, const DBusValue& value);
 
+/// Leaves so many containers, each of which has been read to its end. False when that is not so.
+bool leaveContainers(sd_bus_message* message, int levels);
+
 } // namespace tovrel

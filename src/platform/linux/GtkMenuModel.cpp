@@ -241,7 +241,7 @@ bool readGtkMenus(DBusMessage& answer, std::size_t entriesPerMenu, GtkMenuModel&
             }
             entries.push_back(std::move(*entry));
         }
-        if (sd_bus_message_exit_container(message) < 0 || sd_bus_message_exit_container(message) < 0) {
+        if (!leaveContainers(message, 2)) {
             break;
         }
     }
@@ -270,8 +270,7 @@ std::map<std::string, GtkActionDescription, std::less<>> readGtkActions(DBusMess
         if (sd_bus_message_at_end(message, 0) == 0) {
             action.state = readVariant(message);
         }
-        if (sd_bus_message_exit_container(message) < 0 || sd_bus_message_exit_container(message) < 0 ||
-            sd_bus_message_exit_container(message) < 0) {
+        if (!leaveContainers(message, 3)) {
             break;
         }
     }
