@@ -103,6 +103,10 @@ class Node:
         return self._bus.call(self._name, self._path, "org.a11y.atspi.Text", "GetCharacterExtents",
                               GLib.Variant("(iu)", (offset, ON_SCREEN)))
 
+    def act(self):
+        """Does the first thing that it offers: presses a button, opens a menu or closes it."""
+        self._bus.call(self._name, self._path, "org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
+
     def walk(self, below=lambda node: True):
         """This node and all below it, depth first; `below` says whether a node's children are visited."""
         yield self
@@ -110,13 +114,13 @@ class Node:
             for child in self.children:
                 yield from child.walk(below)
 
-    def find(self, role, name=None, showing=True):
-        """The first node outside the menus with this role, or None. A node that vanishes meanwhile is not
-        there."""
+    def find(self, role, name=None, showing=True, beginning=""):
+        """The first node outside the menus with this role, this name and this beginning of the name, or None.
+        A node that vanishes meanwhile is not there."""
         try:
             for node in self.walk(lambda node: node.role not in ("menu bar", "menu", "text")):
                 if (node.role == role and (name is None or node.name.strip() == name)
-                        and (not showing or "showing" in node.states)):
+                        and (not beginning or node.name.startswith(beginning)) and (not showing or "showing" in node.states)):
                     return node
         except GLib.Error:
             pass

@@ -7,6 +7,8 @@ from collections.abc import Callable
 from dataclasses import dataclass, field
 from pathlib import Path
 
+from harness.waiting import wait_until
+
 Path_ = tuple[str, ...]
 
 
@@ -27,6 +29,17 @@ class Toggle:
 
     path: Path_
     is_on: Callable[["Running"], bool]
+    # What makes the application tell the change, where it does not at once; why is in `no_mark`.
+    refresh: Callable[["Running"], None] | None = None
+    no_mark: str = ""
+
+
+@dataclass(frozen=True)
+class Choice:
+    """Commands of which one is marked; `chosen` asks the application for its path, by another way than its menu."""
+
+    paths: tuple[Path_, ...]
+    chosen: Callable[["Running"], Path_]
     no_mark: str = ""
 
 
@@ -39,6 +52,8 @@ class Conditional:
     what: str
     allow: Callable[["Running"], None]
     forbid: Callable[["Running"], None]
+    # As in Toggle; why is in `no_state`.
+    refresh: Callable[["Running"], None] | None = None
     no_state: str = ""
 
 
@@ -60,11 +75,17 @@ class Description:
     # Writes the document into the directory and returns the command line.
     command: Callable[[Path], list]
     menus: Path_
-    known: Known
+    known: tuple[Known, ...]
     toggle: Toggle
     conditional: Conditional
     effect: Effect
+    # A command that is gone, rather than disabled, when it was read and then forbidden.
+    stale: Conditional | None = None
+    # Where the application has one that can be seen to change outside its menu.
+    choice: Choice | None = None
     more_packages: Path_ = ()
+    # Run to its end before, with the same directory.
+    first_command: Callable[[Path], list] | None = None
     environment: dict = field(default_factory=dict)
     # What is to be done before the menus can be read, and why.
     prepare: Callable[["Running"], None] | None = None
@@ -91,6 +112,24 @@ class Running:
 
     def text(self):
         return self.application.text()
+
+    def find_beginning(self, role, beginning):
+        """The first such node that shows, by the beginning of its name, or None."""
+        return self.tree.find(role, beginning=beginning)
+
+    def wait_until(self, condition, what):
+        return wait_until(condition, what)
+
+    def look_into(self, *titles):
+        """Opens the menu of the bar, then the menus below it, and closes them, as a person does who looks."""
+        menu = self.find("menu bar")
+        for title in titles:
+            menu = next(child for child in menu.children if child.name == title and child.role == "menu")
+            menu.act()
+            self.wait_until(lambda node=menu: any("showing" in child.states for child in node.children),
+                            f"the menu {title} to open")
+        self.press_keys(*["Escape"] * len(titles))
+        self.wait_until(lambda: not any("showing" in child.states for child in menu.children), "the menus to close")
 
     def press_keys(self, *keys):
         self.desktop.windows.press_keys(*keys)

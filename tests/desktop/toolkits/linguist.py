@@ -30,7 +30,7 @@ DESCRIPTION = Description(
     package="linguist-qt6",
     command=command,
     menus=("File", "Edit", "Translation", "Validation", "Phrases", "View", "Help"),
-    known=Known("next unfinished", ("Translation", "Next Unfinished"), "⌘J"),
+    known=(Known("next unfinished", ("Translation", "Next Unfinished"), "⌘J"),),
     toggle=Toggle(("View", "Toolbars", "Help"), lambda running: running.find("tool bar", "Help") is not None),
     conditional=Conditional(("Edit", "Undo"), "a translation has been typed", allow=translate,
                             forbid=lambda running: running.press_keys("ctrl+z")),

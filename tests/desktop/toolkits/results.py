@@ -33,13 +33,19 @@ class Results:
             "versions": {package: _version(package) for package in (description.package, *description.more_packages)},
             "checks": self._checks,
             "measured": self._measured,
-            "missing": {check: reason for check, reason in (
-                ("menus", description.no_menus_before), ("search", description.known.no_shortcut),
-                ("check_mark", description.toggle.no_mark), ("disabled", description.conditional.no_state)) if reason},
+            "missing": {check: reason for check, reason in _missing(description) if reason},
             "notes": description.notes,
         }
         file = Path(directory) / f"{description.name.lower().replace(' ', '-')}.json"
         file.write_text(json.dumps(document, indent=2, ensure_ascii=False) + "\n", encoding="utf-8")
+
+
+def _missing(description):
+    yield "menus", description.no_menus_before
+    yield "search", " ".join(known.no_shortcut for known in description.known if known.no_shortcut)
+    yield "check_mark", description.toggle.no_mark
+    yield "choice", description.choice.no_mark if description.choice else ""
+    yield "disabled", description.conditional.no_state
 
 
 def _version(package):
