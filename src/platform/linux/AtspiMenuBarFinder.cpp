@@ -64,8 +64,11 @@ constexpr std::array contentRoles{AtspiRole::checkBox,
                                   AtspiRole::documentEmail,
                                   AtspiRole::listBox};
 
-bool mayHoldMenuBar(std::optional<AtspiRole> role) {
-    return role && std::find(contentRoles.begin(), contentRoles.end(), *role) == contentRoles.end();
+/// GTK itself has no root pane. LibreOffice has one, with a second menu bar: a press there leaves the office
+/// in its menus, so that the document gets no more keys, and the next one ends it.
+bool mayHoldMenuBar(std::optional<AtspiRole> role, AtspiToolkit toolkit) {
+    return role && !(toolkit == AtspiToolkit::gtk && role == AtspiRole::rootPane) &&
+           std::find(contentRoles.begin(), contentRoles.end(), *role) == contentRoles.end();
 }
 
 class Search {
@@ -108,7 +111,7 @@ class Search {
     }
 
     /// The nearest menu bar with anything in it below a window.
-    std::optional<AtspiMenuBar> barBelow(const std::string& window) {
+    std::optional<AtspiMenuBar> barBelow(const std::string& window, AtspiToolkit toolkit) {
         std::vector<std::string> level{window};
         for (std::size_t depth = 0; depth < calls_.limits().searchedDepth && !level.empty(); ++depth) {
             const std::vector<std::string> met = childrenOf(level, calls_.limits().searchedNodes);
@@ -125,9 +128,9 @@ class Search {
                 if (roles[index] == AtspiRole::menuBar) {
                     std::vector<std::string> entries = entriesOf(met[index]);
                     if (!entries.empty()) {
-                        return AtspiMenuBar{met[index], std::move(entries)};
+                        return AtspiMenuBar{met[index], std::move(entries), toolkit};
                     }
-                } else if (mayHoldMenuBar(roles[index])) {
+                } else if (mayHoldMenuBar(roles[index], toolkit)) {
                     level.push_back(met[index]);
                 }
             }
@@ -195,8 +198,7 @@ std::optional<AtspiMenuBar> findAtspiMenuBar(AtspiCalls& calls, const std::strin
         if (toolkit == AtspiToolkit::gtk4) {
             break;
         }
-        if (auto bar = search.barBelow(window.path)) {
-            bar->toolkit = toolkit;
+        if (auto bar = search.barBelow(window.path, toolkit)) {
             return bar;
         }
         if (calls.stopped()) {

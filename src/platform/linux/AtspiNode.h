@@ -31,6 +31,7 @@ enum class AtspiRole : std::uint32_t {
     pushButton = 43,
     radioButton = 44,
     radioMenuItem = 45,
+    rootPane = 46,
     scrollBar = 48,
     separator = 50,
     slider = 51,

@@ -7,6 +7,8 @@ from .bus_connection import BusConnection
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 APPLICATIONS = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
+NULL_OBJECT = "/org/a11y/atspi/null"  # What Qt answers for a child that it cannot tell.
+ON_SCREEN = 0  # The coordinates that extents are asked in.
 STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "sensitive": 24, "showing": 25, "visible": 30}
 
 
@@ -82,12 +84,28 @@ class Node:
     @property
     def children(self):
         return [Node(self._bus, name, path)
-                for name, path in self._bus.call(self._name, self._path, ACCESSIBLE, "GetChildren")[0]]
+                for name, path in self._bus.call(self._name, self._path, ACCESSIBLE, "GetChildren")[0]
+                if path != NULL_OBJECT]
 
     @property
     def text(self):
         return self._bus.call(self._name, self._path, "org.a11y.atspi.Text", "GetText",
                               GLib.Variant("(ii)", (0, -1)))[0]
+
+    @property
+    def extents(self):
+        """Left, top, width and height on the screen, in pixels."""
+        return self._bus.call(self._name, self._path, "org.a11y.atspi.Component", "GetExtents",
+                              GLib.Variant("(u)", (ON_SCREEN,)))[0]
+
+    def character_extents(self, offset):
+        """Left, top, width and height of a character of its text, as `extents`."""
+        return self._bus.call(self._name, self._path, "org.a11y.atspi.Text", "GetCharacterExtents",
+                              GLib.Variant("(iu)", (offset, ON_SCREEN)))
+
+    def act(self):
+        """Does the first thing that it offers: presses a button, opens a menu or closes it."""
+        self._bus.call(self._name, self._path, "org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
 
     def walk(self, below=lambda node: True):
         """This node and all below it, depth first; `below` says whether a node's children are visited."""
@@ -96,13 +114,13 @@ class Node:
             for child in self.children:
                 yield from child.walk(below)
 
-    def find(self, role, name=None, showing=True):
-        """The first node outside the menus with this role, or None. A node that vanishes meanwhile is not
-        there."""
+    def find(self, role, name=None, showing=True, beginning=""):
+        """The first node outside the menus with this role, this name and this beginning of the name, or None.
+        A node that vanishes meanwhile is not there."""
         try:
             for node in self.walk(lambda node: node.role not in ("menu bar", "menu", "text")):
                 if (node.role == role and (name is None or node.name.strip() == name)
-                        and (not showing or "showing" in node.states)):
+                        and (not beginning or node.name.startswith(beginning)) and (not showing or "showing" in node.states)):
                     return node
         except GLib.Error:
             pass

@@ -196,7 +196,7 @@ TEST_F(LinuxAccessibilityTest, TrustNeedsTheBusAndTheSwitch) {
 
 TEST_F(LinuxAccessibilityTest, TakesTheActiveWindowsBarElseTheTitledOnesAndNoneOfContent) {
     // Windows 1 to 3: an active dialog without a bar, one window and the titled one; the bar of the last
-    // lies behind a filler, and one in its document is not a bar of the window.
+    // lies behind a filler, and ones in its document and in a root pane are not what the user sees.
     const auto nodes = [](std::size_t number) -> FakeNode {
         const std::map<std::size_t, FakeNode> known{
             {0, {75, "fake", 0, "", {1, 2, 3}, true}},
@@ -205,14 +205,17 @@ TEST_F(LinuxAccessibilityTest, TakesTheActiveWindowsBarElseTheTitledOnesAndNoneO
             {3, {role(AtspiRole::frame), "Two", 0, "", {5, 6}, true}},
             {4, {role(AtspiRole::menuBar), "", 0, "", {10}, true}},
             {5, {role(AtspiRole::documentWeb), "", 0, "", {7}, true}},
-            {6, {filler, "", 0, "", {8}, true}},
+            {6, {filler, "", 0, "", {13, 8}, true}},
             {7, {role(AtspiRole::menuBar), "", 0, "", {11}, true}},
             {8, {filler, "", 0, "", {9, 14}, true}},
             {9, {role(AtspiRole::menuBar), "an empty one", 0, "", {}, true}},
             {10, menu("Of One", {})},
             {11, menu("Of a page", {})},
             {12, menu("Of Two", {})},
+            {13, {role(AtspiRole::rootPane), "", 0, "", {15}, true}},
             {14, {role(AtspiRole::menuBar), "", 0, "", {12}, true}},
+            {15, {role(AtspiRole::menuBar), "", 0, "", {16}, true}},
+            {16, menu("Of a root pane", {})},
         };
         return known.at(number);
     };

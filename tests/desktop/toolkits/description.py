@@ -1,0 +1,147 @@
+"""What the checks of the matrix know of one application.
+
+Wherever something is missing, the description says why in a field whose name begins with `no_`. The checks then
+prove that it is missing indeed, so that the description cannot outlive its reason."""
+
+from collections.abc import Callable
+from dataclasses import dataclass, field
+from pathlib import Path
+
+from harness.waiting import wait_until
+
+Path_ = tuple[str, ...]
+
+
+@dataclass(frozen=True)
+class Known:
+    """A command that a search must find first."""
+
+    query: str
+    path: Path_
+    # In the glyphs that are stored: Ctrl reads ⌘, Alt ⌥, Super ⌃.
+    shortcut: str | None
+    no_shortcut: str = ""
+
+
+@dataclass(frozen=True)
+class Toggle:
+    """A command with a check mark. `is_on` asks the application, by another way than its menu."""
+
+    path: Path_
+    is_on: Callable[["Running"], bool]
+    # What makes the application tell the change, where it does not at once; why is in `no_mark`.
+    refresh: Callable[["Running"], None] | None = None
+    no_mark: str = ""
+
+
+@dataclass(frozen=True)
+class Choice:
+    """Commands of which one is marked; `chosen` asks the application for its path, by another way than its menu."""
+
+    paths: tuple[Path_, ...]
+    chosen: Callable[["Running"], Path_]
+    no_mark: str = ""
+
+
+@dataclass(frozen=True)
+class Conditional:
+    """A command that can be chosen only at times. It cannot at first; `allow` and `forbid` change that as a
+    person would, by keys."""
+
+    path: Path_
+    what: str
+    allow: Callable[["Running"], None]
+    forbid: Callable[["Running"], None]
+    # As in Toggle; why is in `no_state`.
+    refresh: Callable[["Running"], None] | None = None
+    no_state: str = ""
+
+
+@dataclass(frozen=True)
+class Effect:
+    """A command whose press shows outside the menus; `is_there` is false before and true after it."""
+
+    path: Path_
+    what: str
+    is_there: Callable[["Running"], bool]
+
+
+@dataclass(frozen=True)
+class Description:
+    name: str
+    toolkit: str
+    # The Debian package whose version is reported, and the others that it takes.
+    package: str
+    # Writes the document into the directory and returns the command line.
+    command: Callable[[Path], list]
+    menus: Path_
+    known: tuple[Known, ...]
+    toggle: Toggle
+    conditional: Conditional
+    effect: Effect
+    # A command that is gone, rather than disabled, when it was read and then forbidden.
+    stale: Conditional | None = None
+    # Where the application has one that can be seen to change outside its menu.
+    choice: Choice | None = None
+    more_packages: Path_ = ()
+    # Run to its end before, with the same directory.
+    first_command: Callable[[Path], list] | None = None
+    environment: dict = field(default_factory=dict)
+    # What is to be done before the menus can be read, and why.
+    prepare: Callable[["Running"], None] | None = None
+    no_menus_before: str = ""
+    # How the application was found to be, for the report.
+    notes: str = ""
+
+
+class Running:
+    """The application while the checks run: what descriptions may ask and do."""
+
+    def __init__(self, application, desktop, directory):
+        self.application = application
+        self.desktop = desktop
+        self.directory = directory
+
+    @property
+    def tree(self):
+        return self.application.tree
+
+    def find(self, role, name=None, showing=True):
+        """The first such node of the application's windows outside the menus, or None."""
+        return self.tree.find(role, name, showing)
+
+    def text(self):
+        return self.application.text()
+
+    def find_beginning(self, role, beginning):
+        """The first such node that shows, by the beginning of its name, or None."""
+        return self.tree.find(role, beginning=beginning)
+
+    def wait_until(self, condition, what):
+        return wait_until(condition, what)
+
+    def look_into(self, *titles):
+        """Opens the menu of the bar, then the menus below it, and closes them, as a person does who looks."""
+        menu = self.find("menu bar")
+        for title in titles:
+            menu = next(child for child in menu.children if child.name == title and child.role == "menu")
+            menu.act()
+            self.wait_until(lambda node=menu: any("showing" in child.states for child in node.children),
+                            f"the menu {title} to open")
+        self.press_keys(*["Escape"] * len(titles))
+        self.wait_until(lambda: not any("showing" in child.states for child in menu.children), "the menus to close")
+
+    def press_keys(self, *keys):
+        self.desktop.windows.press_keys(*keys)
+
+    def type_text(self, text):
+        self.desktop.windows.type_text(text)
+
+    def titles(self):
+        """Of all its visible windows."""
+        windows = self.desktop.windows
+        return sorted(windows.title(window) for window in windows.of_process(self.application.pid))
+
+    def files(self):
+        """What the files of the directory hold, by name."""
+        return {file.name: file.read_bytes() for file in sorted(self.directory.iterdir()) if file.is_file()}

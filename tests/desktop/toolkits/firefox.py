@@ -1,0 +1,67 @@
+"""Firefox ESR: Gecko."""
+
+import json
+
+from .description import Conditional, Description, Effect, Known, Toggle
+
+# Without pages of welcome and questions to servers.
+PREFERENCES = {
+    "app.normandy.enabled": False,
+    "browser.aboutwelcome.enabled": False,
+    "browser.shell.checkDefaultBrowser": False,
+    "browser.startup.homepage_override.mstone": "ignore",
+    "datareporting.policy.dataSubmissionEnabled": False,
+    "extensions.update.enabled": False,
+    "network.captive-portal-service.enabled": False,
+    "network.connectivity-service.enabled": False,
+    "toolkit.telemetry.reportingpolicy.firstRun": False,
+}
+# It is hidden at first, and kept hidden by an attribute that must be there.
+MENU_BAR_SHOWN = {"chrome://browser/content/browser.xhtml": {"toolbar-menubar": {"autohide": "-moz-missing\n"}}}
+
+
+def command(directory):
+    profile = directory.parent / "profile"
+    profile.mkdir()
+    (profile / "user.js").write_text("".join(f"user_pref({json.dumps(name)}, {json.dumps(value)});\n"
+                                             for name, value in PREFERENCES.items()), encoding="utf-8")
+    (profile / "xulstore.json").write_text(json.dumps(MENU_BAR_SHOWN), encoding="utf-8")
+    page = directory / "page.html"
+    page.write_text("<title>A page</title><p>the quick brown fox</p>\n", encoding="utf-8")
+    return ["/usr/lib/firefox-esr/firefox-esr", "--no-remote", "--profile", profile, page]
+
+
+def look_into_all(running):
+    running.wait_until(lambda: any("A page" in title for title in running.titles()), "the page")
+    for menu in running.find("menu bar").children:
+        running.look_into(menu.name)
+    for menu in ("Toolbars", "Zoom"):
+        running.look_into("View", menu)
+
+
+def zoom(running, key, is_zoomed):
+    running.press_keys(key)
+    running.wait_until(lambda: (running.find_beginning("push button", "Reset zoom level") is not None) == is_zoomed,
+                       "the page to be zoomed" if is_zoomed else "the page not to be zoomed")
+
+
+DESCRIPTION = Description(
+    name="Firefox ESR",
+    toolkit="Gecko",
+    package="firefox-esr",
+    environment={"GNOME_ACCESSIBILITY": "1"},
+    command=command,
+    menus=("File", "Edit", "View", "History", "Bookmarks", "Tools", "Help"),
+    prepare=look_into_all,
+    no_menus_before="Menus are empty until they are opened for the first time; the checks open them.",
+    known=(Known("page info", ("Tools", "Page Info"), "⌘I"),
+           Known("full screen", ("View", "Full Screen"), None, no_shortcut="The key F11 is not published.")),
+    toggle=Toggle(("View", "Toolbars", "Menu Bar"), lambda running: running.find("menu bar") is not None),
+    conditional=Conditional(("View", "Zoom", "Actual Size"), "the page is zoomed",
+                            allow=lambda running: zoom(running, "ctrl+plus", True),
+                            forbid=lambda running: zoom(running, "ctrl+0", False),
+                            refresh=lambda running: running.look_into("View", "Zoom"),
+                            no_state="Whether items are enabled is brought up to date only when their menu is opened."),
+    effect=Effect(("Tools", "Page Info"), "the window about the page",
+                  lambda running: any("Page Info" in title for title in running.titles())),
+)

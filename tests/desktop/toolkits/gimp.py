@@ -1,0 +1,39 @@
+"""GIMP: GTK 2."""
+
+from .description import Choice, Conditional, Description, Effect, Known, Toggle
+
+MODE = ("Image", "Mode")
+
+
+def command(directory):
+    file = directory / "gimp.ppm"
+    file.write_bytes(b"P6 4 4 255\n" + bytes(range(48)))
+    return ["gimp-2.10", "--no-splash", "--new-instance", file]
+
+
+def mode(running):
+    """As the title of the image window tells."""
+    return (*MODE, "Grayscale" if any("Grayscale" in title for title in running.titles()) else "RGB")
+
+
+select = Conditional(("Select", "None"), "there is a selection",
+                     allow=lambda running: running.press_keys("ctrl+a"),
+                     forbid=lambda running: running.press_keys("ctrl+shift+a"))
+
+DESCRIPTION = Description(
+    name="GIMP",
+    toolkit="GTK 2",
+    package="gimp",
+    more_packages=("libgtk2.0-0", "libatk-adaptor"),
+    environment={"GTK_MODULES": "gail:atk-bridge"},
+    command=command,
+    menus=("File", "Edit", "Select", "View", "Image", "Layer", "Colors", "Tools", "Filters", "Windows", "Help"),
+    known=(Known("duplicate", ("Image", "Duplicate"), "⌘D"),),
+    toggle=Toggle(("View", "Show Statusbar"), lambda running: running.find("statusbar") is not None),
+    choice=Choice(((*MODE, "RGB"), (*MODE, "Grayscale")), mode),
+    conditional=select,
+    # The item is renamed with what there is to undo.
+    stale=Conditional(("Edit", "Undo Select All"), "that was done last", select.allow, select.forbid),
+    effect=Effect(("Image", "Duplicate"), "a window with the copy",
+                  lambda running: any("Untitled" in title for title in running.titles())),
+)
