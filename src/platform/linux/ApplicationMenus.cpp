@@ -60,11 +60,14 @@ MenuReading ApplicationMenus::read() {
     if (isUnreachable(published.report.outcome)) {
         return published;
     }
-    MenuReading reading = readAccessible(windows, started);
+    MenuReading reading = readAccessible(
+        windows, hasEntries(published) ? AtspiRootPanes::entered : AtspiRootPanes::passedBy, started);
     std::size_t calls = published.report.calls + reading.report.calls;
     const bool isWhole = hasEntries(reading) && !isUnreachable(reading.report.outcome);
     if (!isWhole && hasEntries(published)) {
         reading = std::move(published);
+    } else if (reading.isForReadingOnly) {
+        reading.tree = withLiveStates(published.tree, reading.tree);
     } else {
         joinMenus(reading.tree, published.tree);
     }
@@ -93,7 +96,8 @@ bool ApplicationMenus::press(const MenuTree& tree, std::size_t node) {
                                                         : pressAccessible(tree, node);
 }
 
-MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windows, SteadyTime started) {
+MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windows, AtspiRootPanes rootPanes,
+                                             SteadyTime started) {
     MenuReading reading;
     auto applications = buses_.accessibility->applications();
     reading.report.outcome =
@@ -106,9 +110,9 @@ MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windo
         if (application.processIdentifier != processIdentifier_ || connection == nullptr) {
             continue;
         }
-        AtspiMenuReading answered =
-            readAtspiMenus(*connection, application.busName, application.root, title, limits_, started);
-        reading = {menuTreeOf(answered.tree), answered.report};
+        AtspiMenuReading answered = readAtspiMenus(*connection, application.busName, application.root, title,
+                                                   rootPanes, limits_, started);
+        reading = {menuTreeOf(answered.tree), answered.report, answered.tree.isInRootPane};
         forgetIfAbandoned(*buses_.accessibility, reading.report.outcome);
         if (!reading.tree.empty() || isUnreachable(reading.report.outcome)) {
             break;
@@ -158,7 +162,8 @@ bool ApplicationMenus::pressAccessible(const MenuTree& tree, std::size_t node) {
     if (result != PressResult::itemGone) {
         return result == PressResult::accepted;
     }
-    const MenuReading now = readAccessible(windows(), std::chrono::steady_clock::now());
+    const MenuReading now =
+        readAccessible(windows(), AtspiRootPanes::passedBy, std::chrono::steady_clock::now());
     const auto found = counterpart(tree, node, now.tree);
     connection = buses_.accessibility->connection();
     return found && connection != nullptr &&

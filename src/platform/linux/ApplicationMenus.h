@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/linux/AtspiBus.h"
+#include "platform/linux/AtspiMenuBarFinder.h"
 #include "platform/linux/DBusMenuReader.h"
 #include "platform/linux/MenuReadLimits.h"
 #include "platform/linux/MenuReading.h"
@@ -29,8 +30,9 @@ struct MenuBuses {
 ///   as the user sees it, and its items are pressed there.
 /// - What the front window publishes as org.gtk.Menus is the whole menu bar where the accessibility bus has
 ///   none, as with GTK 4, or did not get to the end. Otherwise it is joined, by the titles that lead to an
-///   item: it knows check marks that GTK 3 keeps from the accessibility bus, and the true shortcuts of
-///   LibreOffice.
+///   item: it knows check marks that GTK 3 keeps from the accessibility bus. With LibreOffice it is the other
+///   way round: what it publishes is what the user sees, can be pressed and has the true shortcuts, and only
+///   the states are taken from the accessibility bus.
 /// - com.canonical.dbusmenu is asked only where the desktop runs the registrar of application menus, and only
 ///   when the others gave nothing or left menus without entries: those that are filled when they open.
 ///
@@ -54,7 +56,8 @@ class ApplicationMenus {
     bool press(const MenuTree& tree, std::size_t node);
 
   private:
-    MenuReading readAccessible(const std::vector<X11Window>& windows, SteadyTime started);
+    MenuReading readAccessible(const std::vector<X11Window>& windows, AtspiRootPanes rootPanes,
+                               SteadyTime started);
     MenuReading readPublished(const GtkMenuAddress& address, SteadyTime started);
     MenuReading readRegistered(const DBusMenuAddress& address, SteadyTime started);
     std::optional<DBusMenuAddress> registeredMenu(const std::vector<X11Window>& windows, SteadyTime started);

@@ -96,7 +96,9 @@ struct AtspiNode {
 /// An application's menu bar, a plain value.
 struct AtspiMenuTree {
     AtspiToolkit toolkit = AtspiToolkit::other;
-    std::string busName;          ///< Of the application on the accessibility bus.
+    bool isInRootPane =
+        false;           ///< It is the one of LibreOffice's two that tells its states, not its visibility.
+    std::string busName; ///< Of the application on the accessibility bus.
     std::vector<AtspiNode> nodes; ///< The menu bar first; empty when there is none.
 };
 

@@ -35,6 +35,8 @@ void take(GtkMenuEntry& entry, std::string_view attribute, std::optional<DBusVal
         entry.hiddenWhen = stringIn(value);
     } else if (attribute == "action-namespace") {
         entry.actionNamespace = stringIn(value);
+    } else if (attribute == "submenu-action") {
+        entry.submenuAction = stringIn(value);
     } else if (attribute == ":section") {
         entry.section = referenceIn(value);
     } else if (attribute == ":submenu") {
@@ -164,7 +166,9 @@ class TreeBuilder {
         MenuNode node;
         node.title = titleOfLabel(entry.label);
         node.parent = menu.node;
-        if (node.title.empty()) {
+        const bool isRepeated =
+            !entry.submenuAction.empty() && !submenuActions_.emplace(menu.node, entry.submenuAction).second;
+        if (node.title.empty() || isRepeated) {
             return;
         }
         const FoundAction found =
@@ -201,7 +205,8 @@ class TreeBuilder {
     const MenuReadLimits& limits_;
     MenuTree tree_;
     std::deque<Menu> waiting_;
-    std::size_t lists_ = 0; ///< Menus and sections gone through.
+    std::set<std::pair<std::size_t, std::string>> submenuActions_; ///< Met so far, with the menu's node.
+    std::size_t lists_ = 0;                                        ///< Menus and sections gone through.
     bool isTooLarge_ = false;
 };
 

@@ -28,6 +28,7 @@ struct GtkMenuEntry {
     std::string actionNamespace;             ///< Put before the actions of the linked menu.
     std::optional<GtkMenuReference> section; ///< Its entries stand in place of this one.
     std::optional<GtkMenuReference> submenu;
+    std::string submenuAction; ///< "submenu-action": told of the submenu's opening and closing.
 };
 
 using GtkMenuModel = std::map<GtkMenuReference, std::vector<GtkMenuEntry>>;
@@ -58,6 +59,9 @@ std::map<std::string, GtkActionDescription, std::less<>> readGtkActions(DBusMess
 /// marks taken off, entries enabled and checked as their actions are. An entry without a known action is
 /// disabled, as is one whose target is not of the type that the action takes. Checked is an action whose
 /// state is true, or, for one of several choices, equal to the entry's target.
+///
+/// A submenu that stands twice in one menu, with one action for its opening, is one: LibreOffice publishes
+/// its whole bar in two forms.
 ///
 /// Built level by level; `isTooLarge` is set when the limits cut something off.
 MenuTree gtkMenuTree(const GtkMenuModel& model, const std::vector<GtkActionGroup>& groups,

@@ -9,6 +9,7 @@ namespace tovrel {
 struct MenuReading {
     MenuTree tree;
     MenuReadReport report;
+    bool isForReadingOnly = false; ///< Its items are not to be pressed.
 };
 
 } // namespace tovrel

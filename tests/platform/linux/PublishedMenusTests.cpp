@@ -155,8 +155,9 @@ void fillGtkMenus(sd_bus_message* call, sd_bus_message* reply) {
     if (isFirst) {
         sd_bus_message_append(
             reply, "a(uuaa{sv})", 4,                                                                      //
-            0, 0, 2,                                                                                      //
-            2, "label", "s", "_File", ":submenu", "(uu)", 0, 1,                                           //
+            0, 0, 3,                                                                                      //
+            3, "label", "s", "_File", ":submenu", "(uu)", 0, 1, "submenu-action", "s", "win.file",        //
+            3, "label", "s", "_File", ":submenu", "(uu)", 0, 1, "submenu-action", "s", "win.file",        //
             2, "label", "s", "_View", ":submenu", "(uu)", 3, 0,                                           //
             0, 1, 2,                                                                                      //
             1, ":section", "(uu)", 0, 2,                                                                  //
@@ -390,6 +391,29 @@ TEST(MenuJoin, AddsWhatOnlyTheOtherSourceKnows) {
     EXPECT_EQ(tree[tree[5].children.front()].title, Text("notes"));
     EXPECT_EQ(tree[0].children.size(), 2U) << "a menu that only the other source has may be stale";
     EXPECT_FALSE(hasEmptyMenu(tree));
+}
+
+TEST(MenuJoin, TakesStatesFromTheFormThatIsCurrent) {
+    MenuTree shown = treeOf({{"Edit", "Undo", "Copy", "Gone"}, {"Recent", "stale.txt"}, {"Styles", "Bold"}});
+    MenuTree live = treeOf({{"Edit", "Copy", "Never shown", "Undo: Typing"}, {"Recent"}, {"Styles", "Bold"}});
+    for (MenuNode& node : live) {
+        node.isEnabled = true;
+    }
+    live[2].isEnabled = false;
+    live.back().isChecked = true;
+    const MenuTree joined = withLiveStates(shown, live);
+    const auto titles = [&](std::size_t menu) {
+        std::string text;
+        for (const std::size_t entry : joined[menu].children) {
+            const MenuNode& node = joined[entry];
+            text += node.title.utf8() + (node.isEnabled == true ? "" : "!") +
+                    (node.isChecked == true ? "*" : "") + " ";
+        }
+        return text;
+    };
+    EXPECT_EQ(titles(0), "Edit Styles ");
+    EXPECT_EQ(titles(joined[0].children.front()), "Undo Copy! ");
+    EXPECT_EQ(titles(joined[0].children.back()), "Bold* ");
 }
 
 } // namespace
