@@ -18,8 +18,6 @@ def tab_size(running):
     return ("Document", "Tab Size", str(round((letter - tab) / column)))
 
 
-NO_MARK = "The accessible items of menus made from a menu model never carry a check mark."
-
 DESCRIPTION = Description(
     name="Mousepad",
     toolkit="GTK 3",
@@ -27,15 +25,16 @@ DESCRIPTION = Description(
     command=command,
     menus=("File", "Edit", "Search", "View", "Document", "Help"),
     known=(Known("select all", ("Edit", "Select All"), "⌘A"),),
-    toggle=Toggle(("View", "Statusbar"), lambda running: running.find("statusbar") is not None,
-                  no_mark=NO_MARK),
-    choice=Choice((("Document", "Tab Size", "2"), ("Document", "Tab Size", "8")), tab_size, no_mark=NO_MARK),
+    toggle=Toggle(("View", "Statusbar"), lambda running: running.find("statusbar") is not None),
+    choice=Choice((("Document", "Tab Size", "2"), ("Document", "Tab Size", "8")), tab_size),
     conditional=Conditional(("Edit", "Cut"), "there is a selection",
                             allow=lambda running: running.press_keys("ctrl+a"),
                             forbid=lambda running: running.press_keys("ctrl+Home")),
     effect=Effect(("Edit", "Duplicate Line / Selection"), "the line is there twice",
                   lambda running: running.text().count(TEXT) == 2),
-    notes="""Nothing has to be done: items, shortcuts and states come over the accessibility bus as soon as the window is there.
+    notes="""Nothing has to be done: items and shortcuts come over the accessibility bus as soon as the window is there. There the
+items carry no check marks, as in all menus made from a menu model; those come from the actions that the application
+publishes on the session bus.
 Cut, Copy, Paste and Select All are disabled while the window has no keyboard focus, so menus are read before the palette
 takes it.""",
 )
