@@ -107,7 +107,7 @@ int main(int argc, char** argv) {
     }
 
     const auto own = [&] {
-        LinuxAccessibility accessibility(std::make_shared<AtspiBus>());
+        LinuxAccessibility accessibility({std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()});
         return readWith(accessibility, processIdentifier);
     };
     const auto library = [&] { return Measurement{0, walkMenusWithLibatspi(processIdentifier), 0}; };
@@ -125,7 +125,7 @@ int main(int argc, char** argv) {
         libraryRounds.push_back(*theirs);
     }
 
-    LinuxAccessibility accessibility(std::make_shared<AtspiBus>());
+    LinuxAccessibility accessibility({std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()});
     std::vector<Measurement> connectedRounds;
     connectedRounds.reserve(rounds);
     for (int round = 0; round < rounds; ++round) {

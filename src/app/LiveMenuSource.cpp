@@ -5,6 +5,7 @@
 #include "app/MenuSource.h"
 #include "platform/linux/LinuxAccessibility.h"
 #include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/MenuObstacle.h"
 
 namespace tovrel {
 namespace {
@@ -44,8 +45,36 @@ std::string inSeconds(std::chrono::milliseconds time) {
     return text.str();
 }
 
-std::optional<MenuReadShortfall> shortfallOf(const MenuReadReport& report, const std::string& name,
-                                             const AtspiLimits& limits, bool isEnabled) {
+/// Why an application gives no menus, and what its user can do, as the end of a sentence about it.
+std::string adviceOn(MenuObstacle obstacle, bool isRegistered, bool isEnabled) {
+    switch (obstacle) {
+    case MenuObstacle::switchedOff:
+        return "; restart it without NO_AT_BRIDGE and GTK_A11Y in its environment, which keep it off the "
+               "accessibility bus";
+    case MenuObstacle::browserEngine:
+        return "; it is built on a browser engine that has to be started with --force-renderer-accessibility";
+    case MenuObstacle::java:
+        return "; it runs on Java: install libatk-wrapper-java and restart it";
+    case MenuObstacle::gtk2WithoutBridge:
+        return "; it uses GTK 2: install libatk-adaptor and log in again, or restart it with "
+               "GTK_MODULES=gail:atk-bridge";
+    case MenuObstacle::sandbox:
+        return "; it runs in a sandbox: allow it to talk to org.a11y.Bus and restart it";
+    case MenuObstacle::none:
+        break;
+    }
+    if (isRegistered) {
+        return "";
+    }
+    return isEnabled
+               ? "; restart it if it was started before accessibility was switched on"
+               : "; accessibility is switched off for toolkits: switch it on and restart the application";
+}
+
+std::optional<MenuReadShortfall> shortfallOf(const MenuReadReport& report,
+                                             const RunningApplication& application,
+                                             const MenuReadLimits& limits, bool isEnabled) {
+    const std::string name = nameOf(application);
     const bool isPartial = report.nodes > 1; // more than the bar itself
     switch (report.outcome) {
     case MenuReadOutcome::completed:
@@ -59,18 +88,16 @@ std::optional<MenuReadShortfall> shortfallOf(const MenuReadReport& report, const
         return MenuReadShortfall{name + " has more menu items than are read at once", isPartial};
     case MenuReadOutcome::applicationGone:
         return MenuReadShortfall{name + " quit while its menus were read", isPartial};
-    case MenuReadOutcome::noMenuBar:
-        return MenuReadShortfall{name + " shows no menu bar", false};
     case MenuReadOutcome::noAccessibilityBus:
         return MenuReadShortfall{"the accessibility bus cannot be reached", false};
+    case MenuReadOutcome::noMenuBar:
     case MenuReadOutcome::notRegistered:
         break;
     }
+    const bool isRegistered = report.outcome == MenuReadOutcome::noMenuBar;
     return MenuReadShortfall{
-        name + " is not on the accessibility bus; " +
-            (isEnabled
-                 ? "restart it if it was started before accessibility was switched on"
-                 : "accessibility is switched off for toolkits: switch it on and restart the application"),
+        name + (isRegistered ? " shows no menu bar" : " is not on the accessibility bus") +
+            adviceOn(menuObstacleOf(application.processIdentifier()), isRegistered, isEnabled),
         false};
 }
 
@@ -81,33 +108,28 @@ MenuSource liveMenuSource(const command_line::MenuSourceOptions& options) {
     const auto bus = std::make_shared<AtspiBus>([windows] { return windows->accessibilityBusAddress(); });
     const auto workspace = std::make_shared<LinuxWorkspace>(
         windows, bus, std::make_shared<DesktopEntries>(DesktopEntries::ofEnvironment()));
-    const AtspiLimits limits;
+    const MenuReadLimits limits;
     const auto accessibility = std::make_shared<LinuxAccessibility>(
-        bus,
-        [windows](std::int32_t processIdentifier) -> std::optional<Text> {
-            const auto window = windows->frontWindow(processIdentifier);
-            return window ? std::optional(window->title) : std::nullopt;
-        },
-        limits);
+        MenuBuses{bus, std::make_shared<SessionBus>()},
+        [windows](std::int32_t processIdentifier) { return windows->windowsOf(processIdentifier); }, limits);
     const std::shared_ptr<RunningApplication> application = runningApplication(options, *workspace, *windows);
-    return {.application = application,
-            .accessibility = accessibility,
-            .isRecording = false,
-            .shortfall =
-                [=] {
-                    const auto report = accessibility->lastReport();
-                    return report ? shortfallOf(*report, nameOf(*application), limits, bus->isEnabled())
-                                  : std::nullopt;
-                },
-            .bringToFront =
-                [=] {
-                    constexpr std::chrono::milliseconds patience{500}; // a window manager takes a few
-                    const auto front = workspace->frontApplication();
-                    const bool isFront =
-                        front && front->processIdentifier() == application->processIdentifier();
-                    return !isFront && workspace->activate(*application) &&
-                           workspace->waitUntilFront(*application, patience);
-                }};
+    return {
+        .application = application,
+        .accessibility = accessibility,
+        .isRecording = false,
+        .shortfall =
+            [=] {
+                const auto report = accessibility->lastReport();
+                return report ? shortfallOf(*report, *application, limits, bus->isEnabled()) : std::nullopt;
+            },
+        .bringToFront =
+            [=] {
+                constexpr std::chrono::milliseconds patience{500}; // a window manager takes a few
+                const auto front = workspace->frontApplication();
+                const bool isFront = front && front->processIdentifier() == application->processIdentifier();
+                return !isFront && workspace->activate(*application) &&
+                       workspace->waitUntilFront(*application, patience);
+            }};
 }
 
 } // namespace tovrel

@@ -14,13 +14,6 @@
 namespace tovrel {
 namespace {
 
-std::function<std::optional<Text>(std::int32_t)> windowTitles(std::shared_ptr<X11Windows> windows) {
-    return [windows = std::move(windows)](std::int32_t processIdentifier) -> std::optional<Text> {
-        const auto window = windows->frontWindow(processIdentifier);
-        return window ? std::optional(window->title) : std::nullopt;
-    };
-}
-
 /// X servers number the keys of the Linux input layer from 8 on.
 std::optional<std::uint32_t> keyCodeFromEvdev(std::uint32_t evdev) {
     constexpr std::uint32_t firstKey = 8;
@@ -42,7 +35,10 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
           std::make_shared<AtspiBus>([windows = windows_] { return windows->accessibilityBusAddress(); })),
       workspace_(std::make_shared<LinuxWorkspace>(
           windows_, accessibilityBus_, std::make_shared<DesktopEntries>(DesktopEntries::ofEnvironment()))),
-      accessibility_(accessibilityBus_, windowTitles(windows_), AtspiLimits()),
+      accessibility_({accessibilityBus_, std::make_shared<SessionBus>()},
+                     [windows = windows_](std::int32_t processIdentifier) {
+                         return windows->windowsOf(processIdentifier);
+                     }),
       toolkitAccessibility_(accessibilityBus_, workspace_),
       hotKeys_(queue_, [this] { return keyDestination(); }), translations_(invocation.localeIdentifier),
       userInterface_(views_, windowSystem()),

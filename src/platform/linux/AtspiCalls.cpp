@@ -1,6 +1,5 @@
 #include "platform/linux/AtspiCalls.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace tovrel {
@@ -19,56 +18,22 @@ DBusMessage withArguments(DBusMessage call, const char* first, const char* secon
 
 } // namespace
 
-AtspiCalls::AtspiCalls(DBusConnection& connection, std::string busName, const AtspiLimits& limits,
+AtspiCalls::AtspiCalls(DBusConnection& connection, std::string busName, const MenuReadLimits& limits,
                        SteadyTime started)
-    : connection_(connection), busName_(std::move(busName)), limits_(limits), started_(started),
-      lastAnswer_(std::chrono::steady_clock::now()), window_(connection, limits.callsInFlight) {}
+    : busName_(std::move(busName)), calls_(connection, limits, started) {}
 
 void AtspiCalls::ask(std::string path, Question question, Handler handler) {
-    queue_.push_back({std::move(path), question, std::move(handler)});
+    calls_.ask([this, path = std::move(path),
+                question](const DBusConnection& connection) { return callFor(connection, path, question); },
+               std::move(handler));
 }
 
-bool AtspiCalls::run() {
-    lastAnswer_ = std::chrono::steady_clock::now(); // It can only be silent when it is asked.
-    while (!stopped_) {
-        while (window_.hasRoom() && !queue_.empty()) {
-            sendNext();
-        }
-        if (window_.isIdle()) {
-            break;
-        }
-        waitForAnswer();
-    }
-    return !stopped_;
-}
-
-void AtspiCalls::sendNext() {
-    Asked asked = std::move(queue_.front());
-    queue_.pop_front();
-    // A path the application gave is well formed, since the bus checks it; a call that cannot be built or
-    // sent is then one that the connection refuses, which the next wait finds out.
-    const DBusMessage call = callFor(asked);
-    const bool sent = window_.send(call, [this, handler = std::move(asked.handler)](DBusMessage& answer) {
-        lastAnswer_ = std::chrono::steady_clock::now();
-        if (saysApplicationIsGone(answer.errorName())) {
-            stopped_ =
-                connection_.isOpen() ? MenuReadOutcome::applicationGone : MenuReadOutcome::noAccessibilityBus;
-        } else {
-            handler(answer);
-        }
-    });
-    if (sent) {
-        ++calls_;
-    } else if (!connection_.isOpen()) {
-        stopped_ = MenuReadOutcome::noAccessibilityBus;
-    }
-}
-
-DBusMessage AtspiCalls::callFor(const Asked& asked) const {
+DBusMessage AtspiCalls::callFor(const DBusConnection& connection, const std::string& path,
+                                Question question) const {
     const auto call = [&](const char* interface, const char* member) {
-        return connection_.methodCall(busName_.c_str(), asked.path.c_str(), interface, member);
+        return connection.methodCall(busName_.c_str(), path.c_str(), interface, member);
     };
-    switch (asked.question) {
+    switch (question) {
     case Question::role:
         return call(accessibleInterface, "GetRole");
     case Question::states:
@@ -91,30 +56,6 @@ DBusMessage AtspiCalls::callFor(const Asked& asked) const {
     }
     }
     return {};
-}
-
-void AtspiCalls::waitForAnswer() {
-    const SteadyTime end = started_ + limits_.total;
-    const SteadyTime silentAt = lastAnswer_ + limits_.silence;
-    const bool answered = window_.wait(std::min(end, silentAt));
-    if (stopped_) {
-        return;
-    }
-    if (answered) {
-        const bool done = window_.isIdle() && queue_.empty();
-        if (!done && std::chrono::steady_clock::now() >= end) {
-            stopped_ = MenuReadOutcome::tooSlow;
-        }
-    } else if (!connection_.isOpen()) {
-        stopped_ = MenuReadOutcome::noAccessibilityBus;
-    } else {
-        stopped_ = silentAt <= end ? MenuReadOutcome::applicationSilent : MenuReadOutcome::tooSlow;
-    }
-}
-
-bool saysApplicationIsGone(std::string_view errorName) {
-    return errorName == SD_BUS_ERROR_SERVICE_UNKNOWN || errorName == SD_BUS_ERROR_NAME_HAS_NO_OWNER ||
-           errorName == SD_BUS_ERROR_NO_REPLY || errorName == SD_BUS_ERROR_DISCONNECTED;
 }
 
 std::optional<std::vector<std::string>> readChildren(DBusMessage& answer, std::string_view busName,

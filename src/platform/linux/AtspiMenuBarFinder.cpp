@@ -64,16 +64,14 @@ constexpr std::array contentRoles{AtspiRole::checkBox,
                                   AtspiRole::documentEmail,
                                   AtspiRole::listBox};
 
-/// GTK itself has no root pane. LibreOffice has one, with a second menu bar: a press there leaves the office
-/// in its menus, so that the document gets no more keys, and the next one ends it.
-bool mayHoldMenuBar(std::optional<AtspiRole> role, AtspiToolkit toolkit) {
-    return role && !(toolkit == AtspiToolkit::gtk && role == AtspiRole::rootPane) &&
-           std::find(contentRoles.begin(), contentRoles.end(), *role) == contentRoles.end();
+bool mayHoldMenuBar(std::optional<AtspiRole> role) {
+    return role && std::find(contentRoles.begin(), contentRoles.end(), *role) == contentRoles.end();
 }
 
 class Search {
   public:
-    Search(AtspiCalls& calls, bool& isTooLarge) : calls_(calls), isTooLarge_(isTooLarge) {}
+    Search(AtspiCalls& calls, AtspiRootPanes rootPanes, bool& isTooLarge)
+        : calls_(calls), rootPanes_(rootPanes), isTooLarge_(isTooLarge) {}
 
     /// The application's windows, the front one first as far as states and title tell; empty when stopped.
     std::vector<Window> windows(const std::string& root, const std::optional<Text>& title,
@@ -130,7 +128,14 @@ class Search {
                     if (!entries.empty()) {
                         return AtspiMenuBar{met[index], std::move(entries), toolkit};
                     }
-                } else if (mayHoldMenuBar(roles[index], toolkit)) {
+                } else if (toolkit == AtspiToolkit::gtk && roles[index] == AtspiRole::rootPane) {
+                    // GTK itself has none; LibreOffice has.
+                    if (auto bar = rootPanes_ == AtspiRootPanes::entered ? barBelow(met[index], toolkit)
+                                                                         : std::nullopt) {
+                        bar->isInRootPane = true;
+                        return bar;
+                    }
+                } else if (mayHoldMenuBar(roles[index])) {
                     level.push_back(met[index]);
                 }
             }
@@ -184,6 +189,7 @@ class Search {
     }
 
     AtspiCalls& calls_;
+    AtspiRootPanes rootPanes_;
     bool& isTooLarge_;
     std::unordered_set<std::string> visited_;
 };
@@ -191,10 +197,14 @@ class Search {
 } // namespace
 
 std::optional<AtspiMenuBar> findAtspiMenuBar(AtspiCalls& calls, const std::string& root,
-                                             const std::optional<Text>& windowTitle, bool& isTooLarge) {
-    Search search(calls, isTooLarge);
+                                             const std::optional<Text>& windowTitle, AtspiRootPanes rootPanes,
+                                             bool& isTooLarge) {
+    Search search(calls, rootPanes, isTooLarge);
     AtspiToolkit toolkit = AtspiToolkit::other;
     for (const Window& window : search.windows(root, windowTitle, toolkit)) {
+        if (toolkit == AtspiToolkit::gtk4) {
+            break;
+        }
         if (auto bar = search.barBelow(window.path, toolkit)) {
             return bar;
         }

@@ -5,8 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "platform/linux/AtspiMenuBarFinder.h"
-
 namespace tovrel {
 namespace {
 
@@ -42,7 +40,8 @@ class TreeReader {
             return;
         }
         for (const std::string& path : paths) {
-            if (tree_.nodes.size() >= calls_.limits().nodes) {
+            if (tree_.nodes.size() >= calls_.limits().nodes ||
+                tree_.nodes[parent].children.size() >= calls_.limits().entriesPerMenu) {
                 isTooLarge_ = true;
                 return;
             }
@@ -209,14 +208,15 @@ bool readDirectly(AtspiCalls& callsOverBus, const std::string& root, const Atspi
 
 AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& busName,
                                 const std::string& root, const std::optional<Text>& windowTitle,
-                                const AtspiLimits& limits, SteadyTime started) {
+                                AtspiRootPanes rootPanes, const MenuReadLimits& limits, SteadyTime started) {
     AtspiMenuReading reading;
     AtspiCalls calls(connection, busName, limits, started);
     bool isTooLarge = false;
-    const auto bar = findAtspiMenuBar(calls, root, windowTitle, isTooLarge);
+    const auto bar = findAtspiMenuBar(calls, root, windowTitle, rootPanes, isTooLarge);
     const auto startTree = [&] {
         reading.tree = {};
         reading.tree.busName = busName;
+        reading.tree.isInRootPane = bar && bar->isInRootPane;
         reading.tree.toolkit = bar ? bar->toolkit : AtspiToolkit::other;
     };
     startTree();

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/linux/AtspiCalls.h"
+#include "platform/linux/AtspiMenuBarFinder.h"
 #include "support/Text.h"
 
 namespace tovrel {
@@ -22,6 +23,6 @@ struct AtspiMenuReading {
 /// is when the caller began, which the total time counts from.
 AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& busName,
                                 const std::string& root, const std::optional<Text>& windowTitle,
-                                const AtspiLimits& limits, SteadyTime started);
+                                AtspiRootPanes rootPanes, const MenuReadLimits& limits, SteadyTime started);
 
 } // namespace tovrel

@@ -6,6 +6,9 @@ AtspiToolkit atspiToolkit(std::string_view toolkitName) {
     if (toolkitName == "gtk" || toolkitName == "GAIL") {
         return AtspiToolkit::gtk;
     }
+    if (toolkitName == "GTK") {
+        return AtspiToolkit::gtk4;
+    }
     if (toolkitName == "Qt") {
         return AtspiToolkit::qt;
     }

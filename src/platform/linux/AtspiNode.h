@@ -71,6 +71,7 @@ inline bool holds(AtspiStates states, AtspiState state) {
 enum class AtspiToolkit {
     gtk,   ///< GTK 2 and 3, and what imitates them through ATK (LibreOffice).
     qt,    ///< Qt 5 and 6.
+    gtk4,  ///< Its menus are not on the accessibility bus until they are opened.
     gecko, ///< Firefox and its relatives.
     other,
 };
@@ -95,7 +96,9 @@ struct AtspiNode {
 /// An application's menu bar, a plain value.
 struct AtspiMenuTree {
     AtspiToolkit toolkit = AtspiToolkit::other;
-    std::string busName;          ///< Of the application on the accessibility bus.
+    bool isInRootPane =
+        false;           ///< It is the one of LibreOffice's two that tells its states, not its visibility.
+    std::string busName; ///< Of the application on the accessibility bus.
     std::vector<AtspiNode> nodes; ///< The menu bar first; empty when there is none.
 };
 

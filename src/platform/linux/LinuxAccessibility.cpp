@@ -1,9 +1,8 @@
 #include "platform/linux/LinuxAccessibility.h"
 
 #include <utility>
-#include <vector>
 
-#include "platform/linux/AtspiElement.h"
+#include "platform/linux/MenuElement.h"
 
 namespace tovrel {
 namespace {
@@ -11,7 +10,7 @@ namespace {
 /// An application. Its menus are read when its menu bar is first asked for.
 class ApplicationElement : public AccessibilityElement {
   public:
-    ApplicationElement(std::shared_ptr<AtspiApplicationMenus> menus,
+    ApplicationElement(std::shared_ptr<ApplicationMenus> menus,
                        std::shared_ptr<std::optional<MenuReadReport>> report)
         : menus_(std::move(menus)), report_(std::move(report)) {}
 
@@ -21,11 +20,11 @@ class ApplicationElement : public AccessibilityElement {
         }
         if (!isRead_) {
             isRead_ = true;
-            MenuReadReport report;
-            snapshot_ = menus_->read(report);
-            *report_ = report;
+            MenuReading reading = menus_->read();
+            *report_ = reading.report;
+            tree_ = std::make_shared<const MenuTree>(std::move(reading.tree));
         }
-        return snapshot_ ? std::make_shared<AtspiElement>(menus_, snapshot_, 0) : nullptr;
+        return tree_->empty() ? nullptr : std::make_shared<MenuElement>(menus_, tree_, 0);
     }
     [[nodiscard]] std::optional<std::vector<std::shared_ptr<AccessibilityElement>>>
     elements(std::string_view /*attribute*/) override {
@@ -41,40 +40,26 @@ class ApplicationElement : public AccessibilityElement {
     bool perform(std::string_view /*action*/) override { return false; }
 
   private:
-    std::shared_ptr<AtspiApplicationMenus> menus_;
+    std::shared_ptr<ApplicationMenus> menus_;
     std::shared_ptr<std::optional<MenuReadReport>> report_;
     bool isRead_ = false;
-    std::shared_ptr<const AtspiMenuSnapshot> snapshot_;
+    std::shared_ptr<const MenuTree> tree_ = std::make_shared<const MenuTree>();
 };
 
 } // namespace
 
-LinuxAccessibility::LinuxAccessibility(std::shared_ptr<AtspiBus> bus,
-                                       AtspiApplicationMenus::WindowTitle windowTitle,
-                                       const AtspiLimits& limits)
-    : bus_(std::move(bus)), windowTitle_(std::move(windowTitle)), limits_(limits),
+LinuxAccessibility::LinuxAccessibility(MenuBuses buses, ApplicationMenus::Windows windows,
+                                       const MenuReadLimits& limits)
+    : buses_(std::move(buses)), windows_(std::move(windows)), limits_(limits),
       report_(std::make_shared<std::optional<MenuReadReport>>()) {}
 
 bool LinuxAccessibility::isTrusted() {
-    return bus_->isEnabled() && bus_->answers();
+    return buses_.accessibility->isEnabled() && buses_.accessibility->answers();
 }
 
 std::shared_ptr<AccessibilityElement> LinuxAccessibility::applicationElement(std::int32_t processIdentifier) {
-    auto applications = bus_->applications();
-    MenuReadReport report;
-    report.outcome = applications ? MenuReadOutcome::notRegistered : MenuReadOutcome::noAccessibilityBus;
-    std::vector<AtspiApplication> connections =
-        std::move(applications).value_or(std::vector<AtspiApplication>());
-    std::erase_if(connections, [&](const AtspiApplication& application) {
-        return application.processIdentifier != processIdentifier;
-    });
-    if (connections.empty()) {
-        *report_ = report;
-        return nullptr;
-    }
     return std::make_shared<ApplicationElement>(
-        std::make_shared<AtspiApplicationMenus>(bus_, std::move(connections), windowTitle_, limits_),
-        report_);
+        std::make_shared<ApplicationMenus>(buses_, windows_, limits_, processIdentifier), report_);
 }
 
 } // namespace tovrel

@@ -14,7 +14,7 @@ enum class MenuReadOutcome {
     treeTooLarge,       ///< It has more objects or more levels than one read takes.
     applicationGone,    ///< It left the bus meanwhile.
     noMenuBar,          ///< It shows no menu bar with anything in it.
-    notRegistered,      ///< No application of this process identifier is on the accessibility bus.
+    notRegistered,      ///< No application of this process identifier publishes menus in a way that is known.
     noAccessibilityBus, ///< The bus cannot be reached or does not answer.
 };
 

@@ -99,15 +99,31 @@ std::vector<X11Window> X11Windows::windows() {
     return described;
 }
 
+std::vector<xcb_window_t> X11Windows::activeFirst() {
+    std::vector<xcb_window_t> identifiers = topmostFirst();
+    if (const xcb_window_t active = activeWindowIdentifier(); active != 0) {
+        std::erase(identifiers, active);
+        identifiers.insert(identifiers.begin(), active);
+    }
+    return identifiers;
+}
+
 std::optional<X11Window> X11Windows::frontWindow(std::int32_t processIdentifier) {
-    std::vector<xcb_window_t> candidates = topmostFirst();
-    candidates.insert(candidates.begin(), activeWindowIdentifier());
-    for (const xcb_window_t window : candidates) {
-        if (window != 0 && processOf(window) == processIdentifier) {
-            return describe(window);
+    const auto identifiers = activeFirst();
+    const auto found = std::find_if(identifiers.begin(), identifiers.end(), [&](xcb_window_t window) {
+        return processOf(window) == processIdentifier;
+    });
+    return found == identifiers.end() ? std::nullopt : std::optional(describe(*found));
+}
+
+std::vector<X11Window> X11Windows::windowsOf(std::int32_t processIdentifier) {
+    std::vector<X11Window> found;
+    for (const xcb_window_t window : activeFirst()) {
+        if (processOf(window) == processIdentifier) {
+            found.push_back(describe(window));
         }
     }
-    return std::nullopt;
+    return found;
 }
 
 std::optional<X11Rectangle> X11Windows::activeWindowFrame() {
@@ -185,7 +201,19 @@ X11Window X11Windows::describe(xcb_window_t window) {
         application = connection_.bytes(window, "_KDE_NET_WM_DESKTOP_FILE");
     }
     described.applicationIdentifier = application.value_or("");
+    described.gtkMenus = gtkMenusOf(window);
     return described;
+}
+
+std::optional<GtkMenuAddress> X11Windows::gtkMenusOf(xcb_window_t window) {
+    auto menuBar = connection_.bytes(window, "_GTK_MENUBAR_OBJECT_PATH");
+    auto busName = connection_.bytes(window, "_GTK_UNIQUE_BUS_NAME");
+    if (!menuBar || !busName) {
+        return std::nullopt;
+    }
+    return GtkMenuAddress{std::move(*busName), std::move(*menuBar),
+                          connection_.bytes(window, "_GTK_APPLICATION_OBJECT_PATH").value_or(""),
+                          connection_.bytes(window, "_GTK_WINDOW_OBJECT_PATH").value_or("")};
 }
 
 } // namespace tovrel

@@ -11,6 +11,14 @@
 
 namespace tovrel {
 
+/// The D-Bus objects in which GTK publishes a window's menu bar and the actions it refers to.
+struct GtkMenuAddress {
+    std::string busName;         ///< On the session bus (_GTK_UNIQUE_BUS_NAME).
+    std::string menuBarPath;     ///< org.gtk.Menus (_GTK_MENUBAR_OBJECT_PATH).
+    std::string applicationPath; ///< org.gtk.Actions of "app." (_GTK_APPLICATION_OBJECT_PATH); may be empty.
+    std::string windowPath;      ///< org.gtk.Actions of "win." (_GTK_WINDOW_OBJECT_PATH); may be empty.
+};
+
 /// What an application window says of itself (EWMH 1.5, ICCCM 2.0, and what GTK and KDE add).
 struct X11Window {
     xcb_window_t identifier = 0;
@@ -19,6 +27,7 @@ struct X11Window {
     std::string instanceName;                      ///< First part of WM_CLASS.
     std::string className;                         ///< Second part of WM_CLASS.
     std::string applicationIdentifier;             ///< _GTK_APPLICATION_ID, else _KDE_NET_WM_DESKTOP_FILE.
+    std::optional<GtkMenuAddress> gtkMenus;        ///< Absent when it publishes no menu bar.
 };
 
 /// A rectangle of an X screen, in physical pixels from the top left corner of the root window.
@@ -46,8 +55,10 @@ class X11Windows {
 
     /// All application windows, the topmost first.
     [[nodiscard]] std::vector<X11Window> windows();
-    /// The active window of this process if it has it, else its topmost.
+    /// The first of `windowsOf`.
     [[nodiscard]] std::optional<X11Window> frontWindow(std::int32_t processIdentifier);
+    /// The windows of a process: the active one if it has it, then the others, the topmost first.
+    [[nodiscard]] std::vector<X11Window> windowsOf(std::int32_t processIdentifier);
 
     [[nodiscard]] X11Window describe(xcb_window_t window);
 
@@ -69,7 +80,9 @@ class X11Windows {
     [[nodiscard]] xcb_window_t activeWindowIdentifier();
     [[nodiscard]] xcb_window_t focusedWindow();
     [[nodiscard]] std::vector<xcb_window_t> topmostFirst();
+    [[nodiscard]] std::vector<xcb_window_t> activeFirst();
     [[nodiscard]] std::optional<std::int32_t> processOf(xcb_window_t window);
+    [[nodiscard]] std::optional<GtkMenuAddress> gtkMenusOf(xcb_window_t window);
 
     std::optional<std::string> display_;
     X11Connection connection_;

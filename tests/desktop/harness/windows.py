@@ -41,6 +41,9 @@ class Windows:
         answer = self._run("xprop", "-root", "_NET_CLIENT_LIST_STACKING").stdout
         return [int(number, 16) for number in answer.rpartition("#")[2].split(",") if number.strip()]
 
+    def remove_root_property(self, name):
+        self._run("xprop", "-root", "-remove", name)
+
     def minimize(self, window):
         self._xdotool("windowminimize", str(window))
 

@@ -11,6 +11,7 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
+#include "platform/linux/AtspiNode.h"
 #include "platform/linux/FakeAccessibility.h"
 
 namespace tovrel {
@@ -104,8 +105,10 @@ class LinuxAccessibilityTest : public testing::Test {
 
     MenuReadOutcome outcome() { return linux_.lastReport().value().outcome; }
 
-    static AtspiLimits limits() {
-        AtspiLimits small;
+    static MenuBuses buses() { return {std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()}; }
+
+    static MenuReadLimits limits() {
+        MenuReadLimits small;
         small.silence = 100ms;
         small.total = 400ms;
         small.nodes = 500;
@@ -113,7 +116,7 @@ class LinuxAccessibilityTest : public testing::Test {
     }
 
     FakeAccessibility accessibility_;
-    LinuxAccessibility linux_{std::make_shared<AtspiBus>(), {}, limits()};
+    LinuxAccessibility linux_{buses(), {}, limits()};
     std::shared_ptr<AccessibilityElement> root_;
     std::unique_ptr<FakeApplication> application_;
 };
@@ -181,13 +184,13 @@ TEST_F(LinuxAccessibilityTest, TrustNeedsTheBusAndTheSwitch) {
     EXPECT_TRUE(linux_.isTrusted());
     accessibility_.isEnabled = false;
     EXPECT_FALSE(linux_.isTrusted());
-    EXPECT_EQ(linux_.applicationElement(getpid()), nullptr);
+    EXPECT_EQ(menuBar(), nullptr);
     EXPECT_EQ(outcome(), MenuReadOutcome::notRegistered);
 
     setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent", 1);
-    LinuxAccessibility unreachable(std::make_shared<AtspiBus>());
+    LinuxAccessibility unreachable(buses());
     EXPECT_FALSE(unreachable.isTrusted());
-    EXPECT_EQ(unreachable.applicationElement(getpid()), nullptr);
+    EXPECT_EQ(unreachable.applicationElement(getpid())->element("AXMenuBar"), nullptr);
     EXPECT_EQ(unreachable.lastReport()->outcome, MenuReadOutcome::noAccessibilityBus);
 }
 
@@ -221,7 +224,11 @@ TEST_F(LinuxAccessibilityTest, TakesTheActiveWindowsBarElseTheTitledOnesAndNoneO
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(titles(*first), std::vector<std::string>{"Of One"});
 
-    LinuxAccessibility titled(std::make_shared<AtspiBus>(), [](std::int32_t) { return Text("Two"); });
+    LinuxAccessibility titled(buses(), [](std::int32_t) {
+        X11Window window;
+        window.title = Text("Two");
+        return std::vector<X11Window>{window};
+    });
     const auto element = titled.applicationElement(getpid());
     ASSERT_NE(element, nullptr);
     EXPECT_EQ(titles(*element->element("AXMenuBar")), std::vector<std::string>{"Of Two"});
@@ -255,9 +262,9 @@ TEST_F(LinuxAccessibilityTest, HugeFamiliesEndAtTheLimits) {
     start(application({3}, [crowd](std::size_t number) {
         return number == 3 ? menu("Crowd", crowd) : item("One of many", "");
     }));
-    AtspiLimits patient = limits();
+    MenuReadLimits patient = limits();
     patient.silence = patient.total = 20s;
-    LinuxAccessibility linux(std::make_shared<AtspiBus>(), {}, patient);
+    LinuxAccessibility linux(buses(), {}, patient);
     const auto element = linux.applicationElement(getpid());
     ASSERT_NE(element, nullptr);
     const auto bar = element->element("AXMenuBar");
@@ -314,10 +321,10 @@ TEST_F(LinuxAccessibilityTest, ASlowApplicationHasTheWholeTimeAndNoMore) {
     }
     start(application(entries, [](std::size_t number) { return menu("Menu " + std::to_string(number), {}); }),
           manners);
-    AtspiLimits tight = limits();
+    MenuReadLimits tight = limits();
     tight.silence = 500ms;
     tight.total = 1000ms;
-    LinuxAccessibility linux(std::make_shared<AtspiBus>(), {}, tight);
+    LinuxAccessibility linux(buses(), {}, tight);
     const auto element = linux.applicationElement(getpid());
     ASSERT_NE(element, nullptr);
     (void)element->element("AXMenuBar");

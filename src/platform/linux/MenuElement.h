@@ -4,16 +4,16 @@
 #include <memory>
 
 #include "platform/AccessibilityElement.h"
-#include "platform/linux/AtspiApplicationMenus.h"
+#include "platform/linux/ApplicationMenus.h"
 
 namespace tovrel {
 
-/// A menu bar, menu or menu item. Reads are answered from the snapshot it belongs to and cost no message;
+/// A menu bar, menu or menu item. Reads are answered from the tree it belongs to and cost no message;
 /// "AXPress" goes to the application.
-class AtspiElement : public AccessibilityElement {
+class MenuElement : public AccessibilityElement {
   public:
-    AtspiElement(std::shared_ptr<AtspiApplicationMenus> menus,
-                 std::shared_ptr<const AtspiMenuSnapshot> snapshot, std::size_t node);
+    MenuElement(std::shared_ptr<ApplicationMenus> menus, std::shared_ptr<const MenuTree> tree,
+                std::size_t node);
 
     /// Always null: menus have no attribute that is one element.
     [[nodiscard]] std::shared_ptr<AccessibilityElement> element(std::string_view attribute) override;
@@ -25,10 +25,10 @@ class AtspiElement : public AccessibilityElement {
     bool perform(std::string_view action) override;
 
   private:
-    [[nodiscard]] const AtspiAttributes& attributes() const { return snapshot_->attributes[node_]; }
+    [[nodiscard]] const MenuNode& node() const { return (*tree_)[node_]; }
 
-    std::shared_ptr<AtspiApplicationMenus> menus_;
-    std::shared_ptr<const AtspiMenuSnapshot> snapshot_;
+    std::shared_ptr<ApplicationMenus> menus_;
+    std::shared_ptr<const MenuTree> tree_;
     std::size_t node_;
 };
 

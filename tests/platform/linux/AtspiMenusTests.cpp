@@ -1,4 +1,4 @@
-#include "platform/linux/AtspiAttributes.h"
+#include "platform/linux/AtspiMenus.h"
 
 #include <string>
 #include <vector>
@@ -35,19 +35,21 @@ class Tree {
         return tree_.nodes.size() - 1;
     }
 
+    void putIntoRootPane() { tree_.isInRootPane = true; }
+
     AtspiNode& node(std::size_t index) { return tree_.nodes[index]; }
     [[nodiscard]] const AtspiMenuTree& tree() const { return tree_; }
-    [[nodiscard]] std::vector<AtspiAttributes> attributes() const { return atspiAttributes(tree_); }
+    [[nodiscard]] MenuTree menus() const { return menuTreeOf(tree_); }
 
     /// "title", with "!" when disabled, "?" when unknown, "*" when checked, and the children in brackets.
-    [[nodiscard]] std::string shown() const { return shown(attributes(), 0); }
+    [[nodiscard]] std::string shown() const { return shown(menus(), 0); }
 
   private:
-    static std::string shown(const std::vector<AtspiAttributes>& all, std::size_t index) {
-        const AtspiAttributes& node = all[index];
+    static std::string shown(const MenuTree& all, std::size_t index) {
+        const MenuNode& node = all[index];
         std::string text = node.title.utf8();
         text += !node.isEnabled ? "?" : *node.isEnabled ? "" : "!";
-        text += node.isChecked ? "*" : "";
+        text += node.isChecked == true ? "*" : "";
         for (const std::size_t child : node.children) {
             text += (child == node.children.front() ? "[" : ",") + shown(all, child);
         }
@@ -57,7 +59,7 @@ class Tree {
     AtspiMenuTree tree_;
 };
 
-TEST(AtspiAttributes, Gtk) {
+TEST(AtspiMenus, Gtk) {
     Tree gtk(AtspiToolkit::gtk);
     const std::size_t file = gtk.add(0, AtspiRole::menu, "File", sensitive | visible, "<Alt>f;<Alt>f;");
     gtk.add(file, AtspiRole::tearOffMenuItem, "", visible);
@@ -73,18 +75,22 @@ TEST(AtspiAttributes, Gtk) {
     const std::size_t gone = gtk.add(0, AtspiRole::menu, "Hidden menu", sensitive);
     gtk.add(gone, AtspiRole::menuItem, "Inside", sensitive | visible);
     EXPECT_EQ(gtk.shown(), "[File[New,Save!,Open Recent![Empty!,Sort!*]]]");
-    EXPECT_EQ(gtk.attributes()[fresh].shortcut, (MenuShortcut{Text("n"), 0}));
-    EXPECT_EQ(atspiMenuPath(gtk.tree(), gtk.attributes(), fresh), (std::vector<Text>{"File", "New"}));
+    EXPECT_EQ(gtk.menus()[fresh].shortcut, (MenuShortcut{Text("n"), 0}));
+    EXPECT_EQ(menuPath(gtk.menus(), fresh), (std::vector<Text>{"File", "New"}));
 }
 
-TEST(AtspiAttributes, AnApplicationThatTellsNoVisibilityShowsEverything) {
+TEST(AtspiMenus, AnApplicationThatTellsNoVisibilityShowsEverything) {
     Tree office(AtspiToolkit::gtk);
     const std::size_t edit = office.add(0, AtspiRole::menu, "Edit", sensitive);
     office.add(edit, AtspiRole::menuItem, "Copy", sensitive, "y;<Alt>ey;<Control>c");
     EXPECT_EQ(office.shown(), "[Edit[Copy]]");
+    office.node(edit).states = sensitive | visible; // as of the menus in the bar, whatever is in them
+    EXPECT_EQ(office.shown(), "[Edit]");
+    office.putIntoRootPane();
+    EXPECT_EQ(office.shown(), "[Edit[Copy]]");
 }
 
-TEST(AtspiAttributes, Qt) {
+TEST(AtspiMenus, Qt) {
     Tree qt(AtspiToolkit::qt);
     const std::size_t file = qt.add(0, AtspiRole::menuItem, "File", sensitive | visible, "Alt+F");
     const std::size_t list = qt.add(file, AtspiRole::popupMenu, "", std::nullopt);
@@ -100,12 +106,12 @@ TEST(AtspiAttributes, Qt) {
     const std::size_t recentList = qt.add(recent, AtspiRole::popupMenu, "", std::nullopt);
     qt.add(recentList, AtspiRole::menuItem, "", sensitive);
     EXPECT_EQ(qt.shown(), "[File[[Tabbed,Disabled!,Encoding![![UTF-8!*]],Recent]]]");
-    EXPECT_EQ(qt.attributes()[tabbed].shortcut, (MenuShortcut{Text("t"), 0}));
-    EXPECT_EQ(qt.attributes()[file].shortcut, std::nullopt);
-    EXPECT_EQ(atspiMenuPath(qt.tree(), qt.attributes(), tabbed), (std::vector<Text>{"File", "Tabbed"}));
+    EXPECT_EQ(qt.menus()[tabbed].shortcut, (MenuShortcut{Text("t"), 0}));
+    EXPECT_EQ(qt.menus()[file].shortcut, std::nullopt);
+    EXPECT_EQ(menuPath(qt.menus(), tabbed), (std::vector<Text>{"File", "Tabbed"}));
 }
 
-TEST(AtspiAttributes, GeckoShowsWhatIsNotVisible) {
+TEST(AtspiMenus, GeckoShowsWhatIsNotVisible) {
     Tree gecko(AtspiToolkit::gecko);
     const std::size_t view = gecko.add(0, AtspiRole::menu, "View", sensitive | visible, "<Alt>V;");
     gecko.add(view, AtspiRole::menuItem, "Actual Size", 0, "A;<Alt>V:Z:A;<Control>0");
@@ -113,7 +119,7 @@ TEST(AtspiAttributes, GeckoShowsWhatIsNotVisible) {
     EXPECT_EQ(gecko.shown(), "[View[Actual Size!,Basic Page Style*]]");
 }
 
-TEST(AtspiAttributes, WhatWasNotReadIsUnknownOrLeftOut) {
+TEST(AtspiMenus, WhatWasNotReadIsUnknownOrLeftOut) {
     Tree partial(AtspiToolkit::gtk);
     const std::size_t file = partial.add(0, AtspiRole::menu, "File", std::nullopt);
     partial.add(file, AtspiRole::menuItem, "Known", sensitive | visible);

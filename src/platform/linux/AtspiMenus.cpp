@@ -1,7 +1,10 @@
-#include "platform/linux/AtspiAttributes.h"
+#include "platform/linux/AtspiMenus.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
+
+#include "platform/linux/AtspiKeyBinding.h"
 
 namespace tovrel {
 namespace {
@@ -42,30 +45,42 @@ std::optional<bool> isEnabled(const AtspiNode& node, std::optional<bool> parentI
     return is(node, AtspiState::sensitive);
 }
 
+std::optional<bool> isChecked(const AtspiNode& node) {
+    if (is(node, AtspiState::checked)) {
+        return true;
+    }
+    const bool isCheckable = node.role == AtspiRole::checkMenuItem || node.role == AtspiRole::radioMenuItem;
+    return isCheckable && node.states ? std::optional(false) : std::nullopt;
+}
+
 } // namespace
 
-std::vector<AtspiAttributes> atspiAttributes(const AtspiMenuTree& tree) {
+MenuTree menuTreeOf(const AtspiMenuTree& tree) {
     const bool visibilityIsTold =
-        std::any_of(tree.nodes.begin(), tree.nodes.end(),
-                    [](const AtspiNode& node) { return is(node, AtspiState::visible); });
-    std::vector<AtspiAttributes> all(tree.nodes.size());
+        !tree.isInRootPane && std::any_of(tree.nodes.begin(), tree.nodes.end(), [](const AtspiNode& node) {
+            return is(node, AtspiState::visible);
+        });
+    MenuTree all(tree.nodes.size());
     // A node stands behind its parent, so that one pass forwards sees parents first, one backwards children.
     for (std::size_t index = 0; index < all.size(); ++index) {
         const AtspiNode& node = tree.nodes[index];
-        AtspiAttributes& attributes = all[index];
+        MenuNode& shown = all[index];
         const std::string_view name = node.name ? std::string_view(*node.name) : std::string_view();
         const std::size_t tab = name.find('\t');
-        attributes.title = trimmed(Text(name.substr(0, tab)));
-        attributes.shortcut = menuShortcut(node.keyBinding, tree.toolkit,
-                                           tab == std::string_view::npos ? "" : name.substr(tab + 1));
-        attributes.isChecked = is(node, AtspiState::checked);
-        if (index > 0) {
-            attributes.isEnabled = isEnabled(node, all[node.parent].isEnabled);
-        } else {
-            attributes.isEnabled = true;
-        }
+        shown.title = trimmed(Text(name.substr(0, tab)));
+        shown.shortcut = menuShortcut(node.keyBinding, tree.toolkit,
+                                      tab == std::string_view::npos ? "" : name.substr(tab + 1));
+        shown.isChecked = isChecked(node);
+        shown.isEnabled = index > 0 ? isEnabled(node, all[node.parent].isEnabled) : true;
+        shown.isMenu = node.role == AtspiRole::menu || node.role == AtspiRole::menuBar;
+        shown.parent = node.parent;
+        shown.source = AtspiObject{tree.busName, node.path};
     }
     for (std::size_t index = all.size(); index-- > 0;) {
+        // Qt tells a menu from a plain item by the container of its entries only.
+        if (tree.nodes[index].role == AtspiRole::popupMenu) {
+            all[tree.nodes[index].parent].isMenu = true;
+        }
         std::vector<std::size_t>& children = all[index].children;
         std::copy_if(tree.nodes[index].children.begin(), tree.nodes[index].children.end(),
                      std::back_inserter(children), [&](std::size_t child) {
@@ -75,18 +90,6 @@ std::vector<AtspiAttributes> atspiAttributes(const AtspiMenuTree& tree) {
                      });
     }
     return all;
-}
-
-std::vector<Text> atspiMenuPath(const AtspiMenuTree& tree, const std::vector<AtspiAttributes>& attributes,
-                                std::size_t node) {
-    std::vector<Text> path;
-    for (; node != 0; node = tree.nodes[node].parent) {
-        if (!attributes[node].title.empty()) {
-            path.push_back(attributes[node].title);
-        }
-    }
-    std::reverse(path.begin(), path.end());
-    return path;
 }
 
 } // namespace tovrel

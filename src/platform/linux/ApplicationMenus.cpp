@@ -1,0 +1,200 @@
+#include "platform/linux/ApplicationMenus.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "platform/linux/AtspiMenuReader.h"
+#include "platform/linux/AtspiMenus.h"
+#include "platform/linux/DBusMenuReader.h"
+#include "platform/linux/GtkMenuReader.h"
+#include "platform/linux/MenuJoin.h"
+#include "platform/linux/MenuPress.h"
+
+namespace tovrel {
+namespace {
+
+/// Nothing that lies behind a silent application is worth another wait, and nothing behind one that has gone.
+bool isUnreachable(MenuReadOutcome outcome) {
+    return outcome == MenuReadOutcome::applicationSilent || outcome == MenuReadOutcome::tooSlow ||
+           outcome == MenuReadOutcome::applicationGone;
+}
+
+bool hasEntries(const MenuReading& reading) {
+    return !reading.tree.empty() && !reading.tree.front().children.empty();
+}
+
+MenuReading nothing() {
+    MenuReading reading;
+    reading.report.outcome = MenuReadOutcome::noMenuBar;
+    return reading;
+}
+
+/// A dialog in front of the window has no menu bar of its own.
+std::optional<GtkMenuAddress> publishedMenu(const std::vector<X11Window>& windows) {
+    const auto window = std::find_if(windows.begin(), windows.end(),
+                                     [](const X11Window& candidate) { return candidate.gtkMenus; });
+    return window == windows.end() ? std::nullopt : window->gtkMenus;
+}
+
+/// Late answers of an application that was given up would else be kept account of by the bus.
+template <typename Bus>
+void forgetIfAbandoned(Bus& bus, MenuReadOutcome outcome) {
+    if (outcome == MenuReadOutcome::applicationSilent || outcome == MenuReadOutcome::tooSlow) {
+        bus.disconnect();
+    }
+}
+
+} // namespace
+
+ApplicationMenus::ApplicationMenus(MenuBuses buses, Windows windows, const MenuReadLimits& limits,
+                                   std::int32_t processIdentifier)
+    : buses_(std::move(buses)), windows_(std::move(windows)), limits_(limits),
+      processIdentifier_(processIdentifier) {}
+
+MenuReading ApplicationMenus::read() {
+    const SteadyTime started = std::chrono::steady_clock::now();
+    const std::vector<X11Window> windows = this->windows();
+    const auto address = publishedMenu(windows);
+    MenuReading published = address ? readPublished(*address, started) : nothing();
+    if (isUnreachable(published.report.outcome)) {
+        return published;
+    }
+    MenuReading reading = readAccessible(
+        windows, hasEntries(published) ? AtspiRootPanes::entered : AtspiRootPanes::passedBy, started);
+    std::size_t calls = published.report.calls + reading.report.calls;
+    const bool isWhole = hasEntries(reading) && !isUnreachable(reading.report.outcome);
+    if (!isWhole && hasEntries(published)) {
+        reading = std::move(published);
+    } else if (reading.isForReadingOnly) {
+        reading.tree = withLiveStates(published.tree, reading.tree);
+    } else {
+        joinMenus(reading.tree, published.tree);
+    }
+    if (!isUnreachable(reading.report.outcome) && (!hasEntries(reading) || hasEmptyMenu(reading.tree))) {
+        const auto menu = registeredMenu(windows, started);
+        MenuReading registered = menu ? readRegistered(*menu, started) : nothing();
+        calls += registered.report.calls;
+        if (!hasEntries(reading) && hasEntries(registered)) {
+            reading = std::move(registered);
+        } else {
+            joinMenus(reading.tree, registered.tree);
+        }
+    }
+    reading.report.calls = calls;
+    reading.report.elapsed =
+        std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - started);
+    return reading;
+}
+
+bool ApplicationMenus::press(const MenuTree& tree, std::size_t node) {
+    const MenuItemSource& source = tree[node].source;
+    if (std::holds_alternative<GtkAction>(source)) {
+        return pressPublished(tree, node);
+    }
+    return std::holds_alternative<DBusMenuItem>(source) ? pressRegistered(tree, node)
+                                                        : pressAccessible(tree, node);
+}
+
+MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windows, AtspiRootPanes rootPanes,
+                                             SteadyTime started) {
+    MenuReading reading;
+    auto applications = buses_.accessibility->applications();
+    reading.report.outcome =
+        applications ? MenuReadOutcome::notRegistered : MenuReadOutcome::noAccessibilityBus;
+    const auto title = windows.empty() ? std::nullopt : std::optional(windows.front().title);
+    // A process with two toolkits in it has two connections.
+    for (const AtspiApplication& application :
+         std::move(applications).value_or(std::vector<AtspiApplication>())) {
+        DBusConnection* connection = buses_.accessibility->connection();
+        if (application.processIdentifier != processIdentifier_ || connection == nullptr) {
+            continue;
+        }
+        AtspiMenuReading answered = readAtspiMenus(*connection, application.busName, application.root, title,
+                                                   rootPanes, limits_, started);
+        reading = {menuTreeOf(answered.tree), answered.report, answered.tree.isInRootPane};
+        forgetIfAbandoned(*buses_.accessibility, reading.report.outcome);
+        if (!reading.tree.empty() || isUnreachable(reading.report.outcome)) {
+            break;
+        }
+    }
+    return reading;
+}
+
+MenuReading ApplicationMenus::readPublished(const GtkMenuAddress& address, SteadyTime started) {
+    DBusConnection* connection = buses_.session->connection();
+    if (connection == nullptr) {
+        return nothing();
+    }
+    MenuReading reading = readGtkMenuBar(*connection, address, limits_, started);
+    forgetIfAbandoned(*buses_.session, reading.report.outcome);
+    return reading;
+}
+
+MenuReading ApplicationMenus::readRegistered(const DBusMenuAddress& address, SteadyTime started) {
+    DBusConnection* connection = buses_.session->connection();
+    if (connection == nullptr) {
+        return nothing();
+    }
+    MenuReading reading = readDBusMenuBar(*connection, address, limits_, started);
+    forgetIfAbandoned(*buses_.session, reading.report.outcome);
+    return reading;
+}
+
+std::optional<DBusMenuAddress> ApplicationMenus::registeredMenu(const std::vector<X11Window>& windows,
+                                                                SteadyTime started) {
+    DBusConnection* connection = windows.empty() ? nullptr : buses_.session->connection();
+    return connection == nullptr
+               ? std::nullopt
+               : tovrel::registeredMenu(*connection, windows.front().identifier, limits_, started);
+}
+
+std::vector<X11Window> ApplicationMenus::windows() const {
+    return windows_ ? windows_(processIdentifier_) : std::vector<X11Window>();
+}
+
+bool ApplicationMenus::pressAccessible(const MenuTree& tree, std::size_t node) {
+    DBusConnection* connection = buses_.accessibility->connection();
+    if (connection == nullptr) {
+        return false;
+    }
+    const PressResult result = pressItem(*connection, std::get<AtspiObject>(tree[node].source));
+    if (result != PressResult::itemGone) {
+        return result == PressResult::accepted;
+    }
+    const MenuReading now =
+        readAccessible(windows(), AtspiRootPanes::passedBy, std::chrono::steady_clock::now());
+    const auto found = counterpart(tree, node, now.tree);
+    connection = buses_.accessibility->connection();
+    return found && connection != nullptr &&
+           pressItem(*connection, std::get<AtspiObject>(now.tree[*found].source)) == PressResult::accepted;
+}
+
+bool ApplicationMenus::pressPublished(const MenuTree& tree, std::size_t node) {
+    const auto address = publishedMenu(windows());
+    if (!address) {
+        return false;
+    }
+    const MenuReading now = readPublished(*address, std::chrono::steady_clock::now());
+    const auto found = counterpart(tree, node, now.tree);
+    DBusConnection* connection = buses_.session->connection();
+    return found && connection != nullptr &&
+           pressItem(*connection, address->busName, std::get<GtkAction>(now.tree[*found].source)) ==
+               PressResult::accepted;
+}
+
+bool ApplicationMenus::pressRegistered(const MenuTree& tree, std::size_t node) {
+    const SteadyTime started = std::chrono::steady_clock::now();
+    const auto address = registeredMenu(windows(), started);
+    if (!address) {
+        return false;
+    }
+    const MenuReading now = readRegistered(*address, started);
+    const auto found = counterpart(tree, node, now.tree);
+    DBusConnection* connection = buses_.session->connection();
+    return found && connection != nullptr &&
+           pressItem(*connection, address->busName, address->path,
+                     std::get<DBusMenuItem>(now.tree[*found].source)) == PressResult::accepted;
+}
+
+} // namespace tovrel

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/linux/AtspiBus.h"
+#include "platform/linux/AtspiMenuBarFinder.h"
+#include "platform/linux/DBusMenuReader.h"
+#include "platform/linux/MenuReadLimits.h"
+#include "platform/linux/MenuReading.h"
+#include "platform/linux/SessionBus.h"
+#include "platform/linux/X11Windows.h"
+
+namespace tovrel {
+
+/// What the menus of applications are read from. The buses are never null.
+struct MenuBuses {
+    std::shared_ptr<AtspiBus> accessibility;
+    std::shared_ptr<SessionBus> session;
+};
+
+/// Access to the menus of one running application, shared by the elements read from it: the one place that
+/// knows which source is taken for what.
+///
+/// - The accessibility bus is asked always. What it has of GTK 2 and 3, Qt, Gecko and others is the menu bar
+///   as the user sees it, and its items are pressed there.
+/// - What the front window publishes as org.gtk.Menus is the whole menu bar where the accessibility bus has
+///   none, as with GTK 4, or did not get to the end. Otherwise it is joined, by the titles that lead to an
+///   item: it knows check marks that GTK 3 keeps from the accessibility bus. With LibreOffice it is the other
+///   way round: what it publishes is what the user sees, can be pressed and has the true shortcuts, and only
+///   the states are taken from the accessibility bus.
+/// - com.canonical.dbusmenu is asked only where the desktop runs the registrar of application menus, and only
+///   when the others gave nothing or left menus without entries: those that are filled when they open.
+///
+/// An application that does not answer one source is not asked for the next.
+class ApplicationMenus {
+  public:
+    /// The windows of a process, the front one first; empty where they are not known.
+    using Windows = std::function<std::vector<X11Window>(std::int32_t processIdentifier)>;
+
+    ApplicationMenus(MenuBuses buses, Windows windows, const MenuReadLimits& limits,
+                     std::int32_t processIdentifier);
+
+    /// Reads everything anew, within the limits. The report is that of the source the menus are taken from,
+    /// with the calls of all; where the tree is empty it says why.
+    MenuReading read();
+
+    /// Presses a node of a tree that was read before. When the application no longer knows it, its menus are
+    /// read once more and the node with the same titles is pressed instead, if exactly as many nodes have
+    /// these titles as before. Items that only a number or an action stands for are always looked up anew:
+    /// the same one may mean something else by now.
+    bool press(const MenuTree& tree, std::size_t node);
+
+  private:
+    MenuReading readAccessible(const std::vector<X11Window>& windows, AtspiRootPanes rootPanes,
+                               SteadyTime started);
+    MenuReading readPublished(const GtkMenuAddress& address, SteadyTime started);
+    MenuReading readRegistered(const DBusMenuAddress& address, SteadyTime started);
+    std::optional<DBusMenuAddress> registeredMenu(const std::vector<X11Window>& windows, SteadyTime started);
+    [[nodiscard]] std::vector<X11Window> windows() const;
+
+    bool pressAccessible(const MenuTree& tree, std::size_t node);
+    bool pressPublished(const MenuTree& tree, std::size_t node);
+    bool pressRegistered(const MenuTree& tree, std::size_t node);
+
+    MenuBuses buses_;
+    Windows windows_;
+    MenuReadLimits limits_;
+    std::int32_t processIdentifier_;
+};
+
+} // namespace tovrel

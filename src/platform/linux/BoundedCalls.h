@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include "platform/linux/DBusCallWindow.h"
+#include "platform/linux/MenuReadLimits.h"
+#include "platform/linux/MenuReadReport.h"
+
+namespace tovrel {
+
+/// Calls to one application, many at a time, within the limits of one read of its menus.
+class BoundedCalls {
+  public:
+    /// Makes the call when its turn has come; an empty message is left out.
+    using Call = std::function<DBusMessage(const DBusConnection&)>;
+    /// Gets the answer, which may be an error or of any type.
+    using Handler = DBusCallWindow::Handler;
+
+    /// `started` is when the read began, which `limits.total` counts from.
+    BoundedCalls(DBusConnection& connection, const MenuReadLimits& limits, SteadyTime started);
+
+    /// Notes the call for `run`, which sends in this order, so that what a slow application has answered by
+    /// the end is from the front. Handlers may note further ones.
+    void ask(Call call, Handler handler);
+
+    /// Sends until every call is answered. False when that was cut short, now or in an earlier run: `stopped`
+    /// says why.
+    bool run();
+
+    [[nodiscard]] std::optional<MenuReadOutcome> stopped() const { return stopped_; }
+    [[nodiscard]] const MenuReadLimits& limits() const { return limits_; }
+    [[nodiscard]] std::size_t calls() const { return calls_; }
+
+  private:
+    struct Asked {
+        Call call;
+        Handler handler;
+    };
+
+    void sendNext();
+    void waitForAnswer();
+
+    DBusConnection& connection_;
+    MenuReadLimits limits_;
+    SteadyTime started_;
+    SteadyTime lastAnswer_;
+    std::deque<Asked> queue_;
+    std::size_t calls_ = 0;
+    std::optional<MenuReadOutcome> stopped_;
+    DBusCallWindow window_;
+};
+
+/// Whether this error says that the application is no longer on the bus.
+bool saysApplicationIsGone(std::string_view errorName);
+
+} // namespace tovrel

@@ -1,0 +1,287 @@
+#include "platform/linux/DBusMenuReader.h"
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/linux/BoundedCalls.h"
+
+namespace tovrel {
+namespace {
+
+constexpr const char* registrarName = "com.canonical.AppMenu.Registrar";
+constexpr const char* registrarPath = "/com/canonical/AppMenu/Registrar";
+constexpr const char* menuInterface = "com.canonical.dbusmenu";
+
+/// The properties of one item, each with the protocol's default.
+struct Item {
+    std::int32_t identifier = 0;
+    std::string label;
+    bool isSeparator = false;
+    bool isEnabled = true;
+    bool isVisible = true;
+    bool hasSubmenu = false;
+    bool isChecked = false;
+    std::optional<MenuShortcut> shortcut;
+};
+
+bool isText(const DBusValue& value, std::string_view text) {
+    const auto* content = std::get_if<std::string>(&value.content);
+    return content != nullptr && *content == text;
+}
+
+bool isInteger(const DBusValue& value, std::int64_t integer) {
+    const auto* content = std::get_if<std::int64_t>(&value.content);
+    return content != nullptr && *content == integer;
+}
+
+/// An aas: keys of one stroke after the other.
+std::optional<MenuShortcut> shortcutIn(const DBusValue& value) {
+    if (value.signature != "aas") {
+        return std::nullopt;
+    }
+    const auto& strokes = std::get<std::vector<DBusValue>>(value.content);
+    if (strokes.size() != 1) {
+        return std::nullopt;
+    }
+    std::vector<std::string> names;
+    for (const DBusValue& name : std::get<std::vector<DBusValue>>(strokes.front().content)) {
+        names.push_back(std::get<std::string>(name.content));
+    }
+    return shortcutOfKeyNames(names);
+}
+
+void take(Item& item, std::string_view property, const DBusValue& value) {
+    if (property == "label") {
+        if (const auto* label = std::get_if<std::string>(&value.content)) {
+            item.label = *label;
+        }
+    } else if (property == "type") {
+        item.isSeparator = isText(value, "separator");
+    } else if (property == "enabled") {
+        item.isEnabled = !isInteger(value, 0);
+    } else if (property == "visible") {
+        item.isVisible = !isInteger(value, 0);
+    } else if (property == "children-display") {
+        item.hasSubmenu = isText(value, "submenu");
+    } else if (property == "toggle-state") {
+        item.isChecked = isInteger(value, 1);
+    } else if (property == "shortcut") {
+        item.shortcut = shortcutIn(value);
+    }
+}
+
+/// The number and the properties of an item (ia{sv}…), which the message stands within.
+std::optional<Item> readItem(sd_bus_message* message) {
+    Item item;
+    if (sd_bus_message_read_basic(message, SD_BUS_TYPE_INT32, &item.identifier) <= 0 ||
+        sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
+        return std::nullopt;
+    }
+    while (sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "sv") > 0) {
+        const char* property = nullptr;
+        if (sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &property) <= 0) {
+            return std::nullopt;
+        }
+        const auto value = readVariant(message);
+        if (!value || sd_bus_message_exit_container(message) < 0) {
+            return std::nullopt;
+        }
+        take(item, property, *value);
+    }
+    return sd_bus_message_exit_container(message) < 0 ? std::nullopt : std::optional(std::move(item));
+}
+
+class Reader {
+  public:
+    Reader(BoundedCalls& calls, const DBusMenuAddress& address) : calls_(calls), address_(address) {}
+
+    void read() {
+        MenuNode bar;
+        bar.isEnabled = true;
+        tree_.push_back(std::move(bar));
+        depths_.push_back(0);
+        askForLayout(0, 0);
+        calls_.run();
+    }
+
+    [[nodiscard]] bool isTooLarge() const { return isTooLarge_; }
+    [[nodiscard]] MenuTree takeTree() {
+        return tree_.front().children.empty() ? MenuTree() : std::move(tree_);
+    }
+
+  private:
+    [[nodiscard]] DBusMessage call(const DBusConnection& connection, const char* member) const {
+        return connection.methodCall(address_.busName.c_str(), address_.path.c_str(), menuInterface, member);
+    }
+
+    /// Asks for what is below an item, which is the tree's node of that position.
+    void askForLayout(std::int32_t identifier, std::size_t node) {
+        calls_.ask(
+            [this, identifier](const DBusConnection& connection) {
+                DBusMessage layout = call(connection, "GetLayout");
+                constexpr int allLevels = -1;
+                return layout && sd_bus_message_append(layout.handle(), "iias", identifier, allLevels, 7,
+                                                       "type", "label", "enabled", "visible",
+                                                       "children-display", "toggle-state", "shortcut") >= 0
+                           ? std::move(layout)
+                           : DBusMessage();
+            },
+            [this, node](DBusMessage& answer) {
+                sd_bus_message* message = answer.handle();
+                std::uint32_t revision = 0;
+                if (sd_bus_message_read_basic(message, SD_BUS_TYPE_UINT32, &revision) > 0 &&
+                    sd_bus_message_enter_container(message, SD_BUS_TYPE_STRUCT, "ia{sv}av") > 0 &&
+                    readItem(message)) {
+                    addChildren(message, node);
+                }
+            });
+    }
+
+    /// Some applications fill a menu when it is announced, some when it is told to be open.
+    void fill(std::int32_t identifier, std::size_t node) {
+        tellOf(identifier, "opened");
+        calls_.ask(
+            [this, identifier](const DBusConnection& connection) {
+                DBusMessage aboutToShow = call(connection, "AboutToShow");
+                return aboutToShow && sd_bus_message_append(aboutToShow.handle(), "i", identifier) >= 0
+                           ? std::move(aboutToShow)
+                           : DBusMessage();
+            },
+            [](DBusMessage&) {});
+        askForLayout(identifier, node);
+        tellOf(identifier, "closed");
+    }
+
+    void tellOf(std::int32_t identifier, const char* event) {
+        calls_.ask(
+            [this, identifier, event](const DBusConnection& connection) {
+                DBusMessage message = call(connection, "Event");
+                constexpr std::uint32_t now = 0;
+                return message && sd_bus_message_append(message.handle(), "isvu", identifier, event, "i", 0,
+                                                        now) >= 0
+                           ? std::move(message)
+                           : DBusMessage();
+            },
+            [](DBusMessage&) {});
+    }
+
+    /// Reads the items of the av at which the message stands. False when it makes no sense from there on.
+    bool addChildren(sd_bus_message* message, std::size_t parent) {
+        if (depths_[parent] >= calls_.limits().depth) {
+            isTooLarge_ = true;
+            return sd_bus_message_skip(message, "av") >= 0;
+        }
+        if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "v") <= 0) {
+            return false;
+        }
+        while (sd_bus_message_at_end(message, 0) == 0) {
+            const bool isFull = tree_.size() >= calls_.limits().nodes ||
+                                tree_[parent].children.size() >= calls_.limits().entriesPerMenu;
+            isTooLarge_ = isTooLarge_ || isFull;
+            if (isFull ? sd_bus_message_skip(message, "v") < 0 : !addChild(message, parent)) {
+                return false;
+            }
+        }
+        return sd_bus_message_exit_container(message) >= 0;
+    }
+
+    bool addChild(sd_bus_message* message, std::size_t parent) {
+        if (sd_bus_message_enter_container(message, SD_BUS_TYPE_VARIANT, "(ia{sv}av)") <= 0 ||
+            sd_bus_message_enter_container(message, SD_BUS_TYPE_STRUCT, "ia{sv}av") <= 0) {
+            return false;
+        }
+        auto item = readItem(message);
+        if (!item) {
+            return false;
+        }
+        MenuNode node;
+        node.title = titleOfLabel(item->label);
+        if (item->isSeparator || !item->isVisible || node.title.empty()) {
+            return sd_bus_message_skip(message, "av") >= 0 && leaveContainers(message, 2);
+        }
+        node.isEnabled = item->isEnabled && tree_[parent].isEnabled == true;
+        node.isChecked = item->isChecked;
+        node.isMenu = item->hasSubmenu;
+        node.shortcut = std::move(item->shortcut);
+        node.parent = parent;
+        node.source = DBusMenuItem{item->identifier};
+        const std::size_t index = tree_.size();
+        tree_.push_back(std::move(node));
+        depths_.push_back(depths_[parent] + 1);
+        tree_[parent].children.push_back(index);
+        if (!addChildren(message, index) || !leaveContainers(message, 2)) {
+            return false;
+        }
+        if (item->hasSubmenu && tree_[index].children.empty()) {
+            fill(item->identifier, index);
+        }
+        return true;
+    }
+
+    BoundedCalls& calls_;
+    const DBusMenuAddress& address_;
+    MenuTree tree_;
+    std::vector<std::size_t> depths_; ///< Of the tree's nodes.
+    bool isTooLarge_ = false;
+};
+
+} // namespace
+
+std::optional<DBusMenuAddress> registeredMenu(DBusConnection& connection, std::uint32_t window,
+                                              const MenuReadLimits& limits, SteadyTime started) {
+    BoundedCalls calls(connection, limits, started);
+    bool isRunning = false;
+    calls.ask(
+        [](const DBusConnection& bus) {
+            DBusMessage question = bus.methodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                                  "org.freedesktop.DBus", "NameHasOwner");
+            return question && sd_bus_message_append(question.handle(), "s", registrarName) >= 0
+                       ? std::move(question)
+                       : DBusMessage();
+        },
+        [&](DBusMessage& answer) { isRunning = answer.readBoolean().value_or(false); });
+    calls.run();
+    if (!isRunning) {
+        return std::nullopt;
+    }
+    std::optional<DBusMenuAddress> address;
+    calls.ask(
+        [window](const DBusConnection& bus) {
+            DBusMessage question =
+                bus.methodCall(registrarName, registrarPath, registrarName, "GetMenuForWindow");
+            return question && sd_bus_message_set_auto_start(question.handle(), 0) >= 0 &&
+                           sd_bus_message_append(question.handle(), "u", window) >= 0
+                       ? std::move(question)
+                       : DBusMessage();
+        },
+        [&](DBusMessage& answer) {
+            const char* busName = nullptr;
+            const char* path = nullptr;
+            if (sd_bus_message_read(answer.handle(), "so", &busName, &path) > 0 && *busName != '\0') {
+                address = {busName, path};
+            }
+        });
+    calls.run();
+    return address;
+}
+
+MenuReading readDBusMenuBar(DBusConnection& connection, const DBusMenuAddress& address,
+                            const MenuReadLimits& limits, SteadyTime started) {
+    BoundedCalls calls(connection, limits, started);
+    Reader reader(calls, address);
+    reader.read();
+    MenuReading reading;
+    reading.tree = reader.takeTree();
+    const auto complete = reading.tree.empty()  ? MenuReadOutcome::noMenuBar
+                          : reader.isTooLarge() ? MenuReadOutcome::treeTooLarge
+                                                : MenuReadOutcome::completed;
+    reading.report.outcome = calls.stopped().value_or(complete);
+    reading.report.nodes = reading.tree.size();
+    reading.report.calls = calls.calls();
+    reading.report.elapsed =
+        std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - started);
+    return reading;
+}
+
+} // namespace tovrel
