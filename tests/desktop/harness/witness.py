@@ -114,13 +114,13 @@ class Node:
             for child in self.children:
                 yield from child.walk(below)
 
-    def find(self, role, name=None, showing=True, beginning=""):
-        """The first node outside the menus with this role, this name and this beginning of the name, or None.
-        A node that vanishes meanwhile is not there."""
+    def find(self, role, name=None, showing=True):
+        """The first node outside the menus with this role, or None. A node that vanishes meanwhile is not
+        there."""
         try:
             for node in self.walk(lambda node: node.role not in ("menu bar", "menu", "text")):
                 if (node.role == role and (name is None or node.name.strip() == name)
-                        and (not beginning or node.name.startswith(beginning)) and (not showing or "showing" in node.states)):
+                        and (not showing or "showing" in node.states)):
                     return node
         except GLib.Error:
             pass

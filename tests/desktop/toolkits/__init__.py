@@ -2,9 +2,6 @@
 
 import importlib
 
-LIGHT = ("mousepad", "featherpad", "linguist")
-HEAVY = ("writer", "gimp", "firefox")
-
 
 def description(name):
     """The description of the application with this name."""

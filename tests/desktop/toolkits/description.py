@@ -40,6 +40,8 @@ class Choice:
 
     paths: tuple[Path_, ...]
     chosen: Callable[["Running"], Path_]
+    # As in Toggle.
+    refresh: Callable[["Running"], None] | None = None
     no_mark: str = ""
 
 
@@ -87,6 +89,8 @@ class Description:
     # Run to its end before, with the same directory.
     first_command: Callable[[Path], list] | None = None
     environment: dict = field(default_factory=dict)
+    # Whether it has read the document.
+    is_ready: Callable[["Running"], bool] = lambda running: True
     # What is to be done before the menus can be read, and why.
     prepare: Callable[["Running"], None] | None = None
     no_menus_before: str = ""
@@ -113,23 +117,21 @@ class Running:
     def text(self):
         return self.application.text()
 
-    def find_beginning(self, role, beginning):
-        """The first such node that shows, by the beginning of its name, or None."""
-        return self.tree.find(role, beginning=beginning)
-
     def wait_until(self, condition, what):
         return wait_until(condition, what)
 
     def look_into(self, *titles):
         """Opens the menu of the bar, then the menus below it, and closes them, as a person does who looks."""
         menu = self.find("menu bar")
-        for title in titles:
+        before = self._windows()
+        for number, title in enumerate(titles, 1):
             menu = next(child for child in menu.children if child.name == title and child.role == "menu")
             menu.act()
-            self.wait_until(lambda node=menu: any("showing" in child.states for child in node.children),
+            self.wait_until(lambda count=number: len(self._windows()) >= len(before) + count,
                             f"the menu {title} to open")
-        self.press_keys(*["Escape"] * len(titles))
-        self.wait_until(lambda: not any("showing" in child.states for child in menu.children), "the menus to close")
+        for number in range(len(titles) - 1, -1, -1):
+            self.press_keys("Escape")
+            self.wait_until(lambda count=number: len(self._windows()) <= len(before) + count, "the menu to close")
 
     def press_keys(self, *keys):
         self.desktop.windows.press_keys(*keys)
@@ -139,9 +141,11 @@ class Running:
 
     def titles(self):
         """Of all its visible windows."""
-        windows = self.desktop.windows
-        return sorted(windows.title(window) for window in windows.of_process(self.application.pid))
+        return sorted(self.desktop.windows.title(window) for window in self._windows())
 
     def files(self):
         """What the files of the directory hold, by name."""
         return {file.name: file.read_bytes() for file in sorted(self.directory.iterdir()) if file.is_file()}
+
+    def _windows(self):
+        return self.desktop.windows.of_process(self.application.pid)

@@ -19,6 +19,9 @@ PREFERENCES = {
 # It is hidden at first, and kept hidden by an attribute that must be there.
 MENU_BAR_SHOWN = {"chrome://browser/content/browser.xhtml": {"toolbar-menubar": {"autohide": "-moz-missing\n"}}}
 
+# The button beside the address after one step.
+ZOOMED = "110%, Reset zoom level"
+
 
 def command(directory):
     profile = directory.parent / "profile"
@@ -32,7 +35,6 @@ def command(directory):
 
 
 def look_into_all(running):
-    running.wait_until(lambda: any("A page" in title for title in running.titles()), "the page")
     for menu in running.find("menu bar").children:
         running.look_into(menu.name)
     for menu in ("Toolbars", "Zoom"):
@@ -41,7 +43,7 @@ def look_into_all(running):
 
 def zoom(running, key, is_zoomed):
     running.press_keys(key)
-    running.wait_until(lambda: (running.find_beginning("push button", "Reset zoom level") is not None) == is_zoomed,
+    running.wait_until(lambda: (running.find("push button", ZOOMED) is not None) == is_zoomed,
                        "the page to be zoomed" if is_zoomed else "the page not to be zoomed")
 
 
@@ -51,6 +53,7 @@ DESCRIPTION = Description(
     package="firefox-esr",
     environment={"GNOME_ACCESSIBILITY": "1"},
     command=command,
+    is_ready=lambda running: any("A page" in title for title in running.titles()),
     menus=("File", "Edit", "View", "History", "Bookmarks", "Tools", "Help"),
     prepare=look_into_all,
     no_menus_before="Menus are empty until they are opened for the first time; the checks open them.",
@@ -64,4 +67,7 @@ DESCRIPTION = Description(
                             no_state="Whether items are enabled is brought up to date only when their menu is opened."),
     effect=Effect(("Tools", "Page Info"), "the window about the page",
                   lambda running: any("Page Info" in title for title in running.titles())),
+    notes="""Items have to be made before they can be read. A menu that has been opened once stays readable, and its items can be
+pressed, while it is closed; the program does not open menus itself, since they would flash up before the user. A submenu
+that was never opened is listed as a command, whose press does nothing. The bar is there too while Firefox hides it.""",
 )

@@ -1,14 +1,21 @@
 """Mousepad: GTK 3, with menus made from a menu model."""
 
-from .description import Conditional, Description, Effect, Known, Toggle
+from .description import Choice, Conditional, Description, Effect, Known, Toggle
 
-TEXT = "the quick brown fox\n"
+TEXT = "\tthe quick brown fox\n"
 
 
 def command(directory):
     file = directory / "mousepad.txt"
     file.write_text(TEXT, encoding="utf-8")
     return ["mousepad", file]
+
+
+def tab_size(running):
+    """As the distance of the first two characters shows; the second, like all, is as wide as a column."""
+    text = running.find("text")
+    (tab, *_), (letter, _, column, _) = text.character_extents(0), text.character_extents(1)
+    return ("Document", "Tab Size", str(round((letter - tab) / column)))
 
 
 DESCRIPTION = Description(
@@ -18,11 +25,16 @@ DESCRIPTION = Description(
     command=command,
     menus=("File", "Edit", "Search", "View", "Document", "Help"),
     known=(Known("select all", ("Edit", "Select All"), "⌘A"),),
-    toggle=Toggle(("View", "Statusbar"), lambda running: running.find("statusbar") is not None,
-                  no_mark="The accessible items of menus made from a menu model never carry a check mark."),
+    toggle=Toggle(("View", "Statusbar"), lambda running: running.find("statusbar") is not None),
+    choice=Choice((("Document", "Tab Size", "2"), ("Document", "Tab Size", "8")), tab_size),
     conditional=Conditional(("Edit", "Cut"), "there is a selection",
                             allow=lambda running: running.press_keys("ctrl+a"),
                             forbid=lambda running: running.press_keys("ctrl+Home")),
     effect=Effect(("Edit", "Duplicate Line / Selection"), "the line is there twice",
                   lambda running: running.text().count(TEXT) == 2),
+    notes="""Nothing has to be done: items and shortcuts come over the accessibility bus as soon as the window is there. There the
+items carry no check marks, as in all menus made from a menu model; those come from the actions that the application
+publishes on the session bus.
+Cut, Copy, Paste and Select All are disabled while the window has no keyboard focus, so menus are read before the palette
+takes it.""",
 )

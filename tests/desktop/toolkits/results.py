@@ -34,6 +34,8 @@ class Results:
             "checks": self._checks,
             "measured": self._measured,
             "missing": {check: reason for check, reason in _missing(description) if reason},
+            "never_told": [check for check, mark in (("check_mark", description.toggle), ("choice", description.choice))
+                           if mark and mark.no_mark and not mark.refresh],
             "notes": description.notes,
         }
         file = Path(directory) / f"{description.name.lower().replace(' ', '-')}.json"

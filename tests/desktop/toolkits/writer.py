@@ -31,8 +31,8 @@ DESCRIPTION = Description(
     first_command=first_command,
     command=command,
     menus=("File", "Edit", "View", "Insert", "Format", "Styles", "Table", "Form", "Tools", "Window", "Help"),
-    known=(Known("select all", ("Edit", "Select All"), "⌘A"), Known("navigator", ("View", "Navigator"), "F5")),
-    toggle=Toggle(("View", "Status Bar"), lambda running: running.find("status bar") is not None,
+    known=(Known("select all", ("Edit", "Select All"), "⌘A"), Known("spelling", ("Tools", "Spelling..."), "F7")),
+    toggle=Toggle(("View", "Status Bar"), lambda running: running.find("statusbar") is not None,
                   refresh=lambda running: running.look_into("View"), no_mark=STALE),
     conditional=Conditional(("Edit", "Copy"), "there is a selection",
                             allow=lambda running: running.press_keys("ctrl+a"),
@@ -40,4 +40,7 @@ DESCRIPTION = Description(
                             refresh=lambda running: running.look_into("Edit"), no_state=STALE),
     effect=Effect(("Tools", "Word Count..."), "the dialog with the count",
                   lambda running: "Word Count" in running.titles()),
+    notes="""Two menu bars are on the accessibility bus. The one that the user sees is read. The other knows at any time what is
+enabled and checked, and was tried: several keys in it are wrong, and after an item has been pressed there the document gets
+no more keys, and the next press ends the office.""",
 )

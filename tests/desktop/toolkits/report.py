@@ -1,0 +1,76 @@
+#!/usr/bin/env python3
+"""Writes docs/toolkits.md from what a run of the matrix of toolkits found.
+
+usage: report.py DIRECTORY > docs/toolkits.md     DIRECTORY is what TOVREL_TOOLKIT_REPORT named"""
+
+import json
+import sys
+from pathlib import Path
+
+INTRODUCTION = """# Toolkits
+
+How the menus of applications come through, toolkit by toolkit. This page is written by a program from a run of the tests
+on Debian 12 with X11:
+
+    scripts/test --all
+    TOVREL_TOOLKIT_REPORT="$PWD/build/toolkits" ctest --preset release -C heavy -L toolkit
+    tests/desktop/toolkits/report.py build/toolkits > docs/toolkits.md
+
+The same checks run over every application; `tests/desktop/toolkits` has them and a description of each application.
+"""
+CHECKS = {
+    "menus": ("Menus", "every menu of the bar is found, with items in it"),
+    "search": ("Search", "known commands are found first, with their shortcuts"),
+    "check_mark": ("Check mark", "it follows the application when the command is pressed, and again"),
+    "choice": ("Choice", "of several commands the chosen one is marked"),
+    "disabled": ("Disabled", "a command is disabled and enabled with the state of the document"),
+    "press": ("Press", "it does in the application what the menu does"),
+    "stale": ("Stale", "a command that has been disabled or renamed since it was read is refused, and nothing happens"),
+    "killed": ("Killed", "the application has been killed since: one line says so, exit status 1"),
+}
+
+
+def main(directory):
+    found = [json.loads(file.read_text(encoding="utf-8")) for file in sorted(Path(directory).glob("*.json"))]
+    if not found:
+        sys.exit(f"there are no results in {directory}")
+    found.sort(key=lambda one: (one["toolkit"], one["name"]))
+    print(INTRODUCTION)
+    print("\n".join(f"- {title}: {meaning}." for title, meaning in CHECKS.values()))
+    print("\n**yes** holds; **no** failed in this run; **not told** by the application at all; **partly** holds, with something missing that is named below; "
+          "**–** was not tried, for want of a command whose effect can be seen.\n")
+    print_table(["Application", "Toolkit", *(title for title, _ in CHECKS.values())],
+                [[one["name"], one["toolkit"], *(verdict(one, check) for check in CHECKS)] for one in found])
+    start = min(one["measured"].get("start_ms", 0) for one in found)
+    print(f"\n`tovrel menus` is timed from the start of the process to its end, the median of several runs; "
+          f"{start} ms of it is the start of the program alone (`tovrel --version`).\n")
+    print_table(["Application", "Packages", "Menu items", "`tovrel menus`"],
+                [[one["name"], ", ".join(f"{name} {version}" for name, version in one["versions"].items()),
+                  one["measured"].get("items", "–"), f"{one['measured'].get('menus_ms', '–')} ms"] for one in found])
+    for one in found:
+        print(f"\n## {one['name']} ({one['toolkit']})\n\n{one['notes']}")
+        if one["missing"]:
+            print()
+        for check, reason in one["missing"].items():
+            print(f"- {CHECKS[check][0]}: {reason}")
+
+
+def verdict(one, check):
+    if check not in one["checks"]:
+        return "–"
+    if not one["checks"][check]:
+        return "no"
+    if check in one["never_told"]:
+        return "not told"
+    return "partly" if check in one["missing"] else "yes"
+
+
+def print_table(head, rows):
+    for row in (head, ["---"] * len(head), *rows):
+        print(f"| {' | '.join(map(str, row))} |")
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
+    main(sys.argv[1])
