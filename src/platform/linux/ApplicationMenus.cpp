@@ -62,9 +62,7 @@ MenuReading ApplicationMenus::read() {
     }
     MenuReading reading = readAccessible(windows, published.tree, started);
     std::size_t calls = published.report.calls + reading.report.calls;
-    if (reading.isForReadingOnly && !isUnreachable(reading.report.outcome)) {
-        reading.tree = withLiveStates(published.tree, reading.tree);
-    } else if (hasEntries(published)) {
+    if (hasEntries(published)) {
         reading = std::move(published);
     }
     if (!isUnreachable(reading.report.outcome) && (!hasEntries(reading) || hasEmptyMenu(reading.tree))) {
@@ -108,7 +106,7 @@ MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windo
         }
         AtspiMenuReading answered = readAtspiMenus(*connection, application.busName, application.root, title,
                                                    published, limits_, started);
-        reading = {menuTreeOf(answered.tree), answered.report, answered.tree.isInRootPane};
+        reading = {menuTreeOf(answered.tree), answered.report};
         forgetIfAbandoned(*buses_.accessibility, reading.report.outcome);
         if (!reading.tree.empty() || isUnreachable(reading.report.outcome)) {
             break;

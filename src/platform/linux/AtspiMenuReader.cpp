@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/linux/AtspiAccelerators.h"
+#include "platform/linux/AtspiAdditions.h"
 #include "platform/linux/AtspiMenuBarFinder.h"
 
 namespace tovrel {
@@ -202,7 +202,6 @@ void readBelow(AtspiCalls& callsOverBus, const std::string& root, const AtspiMen
 bool readTree(AtspiCalls& calls, const AtspiMenuBar& bar, AtspiMenuTree& tree, bool& isTooLarge) {
     tree = {};
     tree.busName = calls.busName();
-    tree.isInRootPane = bar.isInRootPane;
     tree.toolkit = bar.toolkit;
     TreeReader reader(calls, tree);
     reader.read(bar);
@@ -224,9 +223,11 @@ AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& b
         findAtspiMenuBar(calls, root, windowTitle,
                          published.empty() ? AtspiRootPanes::passedBy : AtspiRootPanes::entered, isTooLarge);
     reading.report.outcome = calls.stopped().value_or(MenuReadOutcome::noMenuBar);
-    if (bar && !published.empty() && !bar->isInRootPane) {
-        readBelow(calls, root, *bar, started, reading.report,
-                  [&](AtspiCalls& asked) { return addAtspiAccelerators(asked, bar->children, published); });
+    if (bar && !published.empty()) {
+        readBelow(calls, root, *bar, started, reading.report, [&](AtspiCalls& asked) {
+            return bar->isInRootPane ? replaceAtspiStates(asked, bar->children, published)
+                                     : addAtspiAccelerators(asked, bar->children, published);
+        });
     } else if (bar) {
         readBelow(calls, root, *bar, started, reading.report,
                   [&](AtspiCalls& asked) { return readTree(asked, *bar, reading.tree, isTooLarge); });

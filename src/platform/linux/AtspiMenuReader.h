@@ -18,9 +18,10 @@ struct AtspiMenuReading {
 /// Reads the menu bar of the front window of the application that owns `busName`, whose application object is
 /// at `root`; `windowTitle` helps to tell its windows apart (see `findAtspiMenuBar`).
 ///
-/// `published` is what the window is known to have in its menu bar by another source, empty if nothing. Then
-/// GTK is only asked for the shortcuts of its items, which are added there, and the tree is empty;
-/// LibreOffice is read in the form that has current states (see `AtspiRootPanes`).
+/// `published` is what the window is known to have in its menu bar by another source, empty if nothing.
+/// Otherwise only what it lacks is read and added to it (see AtspiAdditions.h): the shortcuts in GTK, the
+/// current states in LibreOffice, whose other menu bar then is asked (see `AtspiRootPanes`); and the tree is
+/// empty.
 ///
 /// Whatever the application does, the read ends within the limits: it asks nothing of objects of other
 /// applications, meets no object twice and stops at the stated time, number of objects and depth. `started`

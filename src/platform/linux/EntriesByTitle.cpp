@@ -1,9 +1,6 @@
 #include "platform/linux/EntriesByTitle.h"
 
-#include <algorithm>
-#include <iterator>
 #include <string>
-#include <string_view>
 
 namespace tovrel {
 namespace {
@@ -26,9 +23,9 @@ std::vector<std::size_t> entriesOf(const MenuTree& tree, std::size_t menu) {
     return entries;
 }
 
-EntriesByTitle::EntriesByTitle(const MenuTree& tree, std::size_t menu)
-    : tree_(&tree), entries_(entriesOf(tree, menu)) {
-    for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
+EntriesByTitle::EntriesByTitle(const MenuTree& tree, std::size_t menu) {
+    const std::vector<std::size_t> entries = entriesOf(tree, menu);
+    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
         byTitle_[tree[*entry].title].push_back(*entry); // The first one is taken off the end first.
     }
 }
@@ -43,15 +40,9 @@ std::optional<std::size_t> EntriesByTitle::take(const Text& title) {
     return entry;
 }
 
-std::optional<std::size_t> EntriesByTitle::takeContinued(const Text& title) {
-    const std::string beginning = title.utf8() + ":";
-    const auto continues = [&](std::size_t entry) {
-        return std::string_view((*tree_)[entry].title.utf8()).starts_with(beginning);
-    };
-    const auto found = std::find_if(entries_.begin(), entries_.end(), continues);
-    const bool isOnly = found != entries_.end() &&
-                        std::find_if(std::next(found), entries_.end(), continues) == entries_.end();
-    return isOnly ? take((*tree_)[*found].title) : std::nullopt;
+std::optional<std::size_t> EntriesByTitle::takeBeginning(const Text& title) {
+    const std::size_t colon = title.utf8().find(':');
+    return colon == std::string::npos ? std::nullopt : take(Text(title.utf8().substr(0, colon)));
 }
 
 } // namespace tovrel

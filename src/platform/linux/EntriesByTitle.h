@@ -15,17 +15,14 @@ std::vector<std::size_t> entriesOf(const MenuTree& tree, std::size_t menu);
 /// Gives out the entries of a menu by their titles, each once: of several with one title the first one first.
 class EntriesByTitle {
   public:
-    /// The tree's titles must outlive this and stay as they are.
     EntriesByTitle(const MenuTree& tree, std::size_t menu);
 
     std::optional<std::size_t> take(const Text& title);
 
-    /// The only entry left whose title goes on after this one with a colon.
-    std::optional<std::size_t> takeContinued(const Text& title);
+    /// The entry whose title this one begins with, before a colon.
+    std::optional<std::size_t> takeBeginning(const Text& title);
 
   private:
-    const MenuTree* tree_;
-    std::vector<std::size_t> entries_;
     std::unordered_map<Text, std::vector<std::size_t>> byTitle_;
 };
 

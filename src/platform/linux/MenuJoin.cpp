@@ -59,57 +59,6 @@ class Join {
     const MenuTree& other_;
 };
 
-class LiveStates {
-  public:
-    LiveStates(const MenuTree& shown, const MenuTree& live) : shown_(shown), live_(live) {}
-
-    MenuTree joined() {
-        tree_.push_back(withoutEntries(shown_.front()));
-        addEntries(0, 0, 0);
-        return std::move(tree_);
-    }
-
-  private:
-    static MenuNode withoutEntries(const MenuNode& node) {
-        MenuNode copy = node;
-        copy.children.clear();
-        return copy;
-    }
-
-    void addEntries(std::size_t shownMenu, std::size_t liveMenu, std::size_t menu) {
-        EntriesByTitle live(live_, liveMenu);
-        const std::vector<std::size_t> shown = entriesOf(shown_, shownMenu);
-        std::vector<std::optional<std::size_t>> matches;
-        for (const std::size_t entry : shown) {
-            matches.push_back(live.take(shown_[entry].title));
-        }
-        for (std::size_t index = 0; index < shown.size(); ++index) {
-            const auto match =
-                matches[index] ? matches[index] : live.takeContinued(shown_[shown[index]].title);
-            if (match) {
-                addEntry(shown[index], *match, menu);
-            }
-        }
-    }
-
-    void addEntry(std::size_t entry, std::size_t match, std::size_t menu) {
-        MenuNode node = withoutEntries(shown_[entry]);
-        node.parent = menu;
-        node.isEnabled = live_[match].isEnabled;
-        node.isChecked = live_[match].isChecked.value_or(false);
-        const std::size_t index = tree_.size();
-        tree_.push_back(std::move(node));
-        addEntries(entry, match, index);
-        if (!shown_[entry].isMenu || !tree_[index].children.empty()) {
-            tree_[menu].children.push_back(index);
-        }
-    }
-
-    const MenuTree& shown_;
-    const MenuTree& live_;
-    MenuTree tree_;
-};
-
 bool hasEmptyMenu(const MenuTree& tree, std::size_t menu) {
     if (tree[menu].isMenu && tree[menu].children.empty()) {
         return true;
@@ -124,10 +73,6 @@ void joinMenus(MenuTree& tree, const MenuTree& other) {
     if (!tree.empty() && !other.empty()) {
         Join(tree, other).menus(0, 0);
     }
-}
-
-MenuTree withLiveStates(const MenuTree& shown, const MenuTree& live) {
-    return shown.empty() || live.empty() ? MenuTree() : LiveStates(shown, live).joined();
 }
 
 bool hasEmptyMenu(const MenuTree& tree) {
