@@ -37,7 +37,7 @@ def main(directory):
     found.sort(key=lambda one: (one["toolkit"], one["name"]))
     print(INTRODUCTION)
     print("\n".join(f"- {title}: {meaning}." for title, meaning in CHECKS.values()))
-    print("\n**yes** holds; **no** failed in this run; **not told** by the application at all; **partly** holds, with something missing that is named below; "
+    print("\n**yes** holds; **no** failed in this run; **partly** holds, with something missing that is named below; "
           "**–** was not tried, for want of a command whose effect can be seen.\n")
     print_table(["Application", "Toolkit", *(title for title, _ in CHECKS.values())],
                 [[one["name"], one["toolkit"], *(verdict(one, check) for check in CHECKS)] for one in found])
@@ -60,8 +60,6 @@ def verdict(one, check):
         return "–"
     if not one["checks"][check]:
         return "no"
-    if check in one["never_told"]:
-        return "not told"
     return "partly" if check in one["missing"] else "yes"
 
 
