@@ -86,6 +86,9 @@ class ToolkitChecks:
             self._press(toggle.path)
             self.wait_until(lambda: toggle.is_on(self.running) == is_on, f"{toggle.path} to be {is_on}")
             self.wait_until(lambda: self._is_marked(toggle.path) == is_on, f"the mark to be {is_on}")
+        # There are applications that stop taking keys when their menus are pressed in the wrong way.
+        self.description.conditional.allow(self.running)
+        self._wait_for_state(self.description.conditional, True)
 
     def test_choice(self):
         choice = self.description.choice

@@ -9,8 +9,8 @@ from pathlib import Path
 
 INTRODUCTION = """# Toolkits
 
-How the menus of applications come through, toolkit by toolkit. This page is written by a program from a run of the tests
-on Debian 12 with X11:
+How the menus of applications come through, toolkit by toolkit. This page is written by a program from a run of
+the tests on Debian 12 with X11:
 
     scripts/test --all
     TOVREL_TOOLKIT_REPORT="$PWD/build/toolkits" ctest --preset release -C heavy -L toolkit
@@ -46,7 +46,8 @@ def main(directory):
           f"{start} ms of it is the start of the program alone (`tovrel --version`).\n")
     print_table(["Application", "Packages", "Menu items", "`tovrel menus`"],
                 [[one["name"], ", ".join(f"{name} {version}" for name, version in one["versions"].items()),
-                  one["measured"].get("items", "–"), f"{one['measured'].get('menus_ms', '–')} ms"] for one in found])
+                  one["measured"].get("items", "–"), f"{one['measured'].get('menus_ms', '–')} ms"]
+                 for one in found])
     for one in found:
         print(f"\n## {one['name']} ({one['toolkit']})\n\n{one['notes']}")
         if one["missing"]:

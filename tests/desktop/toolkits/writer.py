@@ -36,10 +36,11 @@ DESCRIPTION = Description(
                             forbid=lambda running: running.press_keys("Home")),
     effect=Effect(("Tools", "Word Count..."), "the dialog with the count",
                   lambda running: "Word Count" in running.titles()),
-    notes="""Two menu bars are on the accessibility bus, and a third description of the same menus on the session bus. Items and keys
-are those that the user sees, presses go to their actions on the session bus. Both tell what is enabled and checked as of the
-last time a menu was open; the other bar on the accessibility bus knows it at any time, so that states are taken from there.
-It is not used for more: several keys in it are wrong, and after a press there the document gets no more keys, and the next
-press ends the office. Titles are as of the last time too: the item reads Undo, and after a look into the menu with what it
-would undo.""",
+    notes="""\
+Two menu bars are on the accessibility bus, and a third description of the same menus on the session bus. Items and
+keys are those that the user sees, presses go to their actions on the session bus. Both tell what is enabled and
+checked as of the last time a menu was open; the other bar on the accessibility bus knows it at any time, so that
+states are taken from there. It is not used for more: several keys in it are wrong, and after a press there the
+document gets no more keys, and the next press ends the office. Titles are as of the last time too: the item reads
+Undo, and after a look into the menu with what it would undo.""",
 )
