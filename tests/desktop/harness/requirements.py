@@ -15,6 +15,9 @@ PACKAGE_OF = {
     "setpriv": "util-linux",
     "mousepad": "mousepad",
     "featherpad": "featherpad",
+    "/usr/lib/qt6/bin/linguist": "linguist-qt6",
+    "/usr/lib/libreoffice/program/soffice.bin": "libreoffice-writer",
+    "/usr/lib/firefox-esr/firefox-esr": "firefox-esr",
     "xterm": "xterm",
 }
 

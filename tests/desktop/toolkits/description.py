@@ -29,9 +29,6 @@ class Toggle:
 
     path: Path_
     is_on: Callable[["Running"], bool]
-    # What makes the application tell the change, where it does not at once; why is in `no_mark`.
-    refresh: Callable[["Running"], None] | None = None
-    no_mark: str = ""
 
 
 @dataclass(frozen=True)
@@ -40,9 +37,6 @@ class Choice:
 
     paths: tuple[Path_, ...]
     chosen: Callable[["Running"], Path_]
-    # As in Toggle.
-    refresh: Callable[["Running"], None] | None = None
-    no_mark: str = ""
 
 
 @dataclass(frozen=True)
@@ -54,7 +48,7 @@ class Conditional:
     what: str
     allow: Callable[["Running"], None]
     forbid: Callable[["Running"], None]
-    # As in Toggle; why is in `no_state`.
+    # What makes the application tell the change, where it does not at once; why is in `no_state`.
     refresh: Callable[["Running"], None] | None = None
     no_state: str = ""
 

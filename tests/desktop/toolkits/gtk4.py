@@ -40,7 +40,8 @@ DESCRIPTION = Description(
                             forbid=lambda running: running.press_keys("ctrl+s")),
     effect=Effect(("File", "Export", "As Text..."), "the export in the record",
                   lambda running: "export" in running.files()[RECORD].decode().splitlines()),
-    notes="""A sample of our own, since no packaged application in GTK 4 has a menu bar: they have buttons in their title bars.
-On the accessibility bus the menus of a bar are empty and cannot be pressed; its menu model and its actions are on the session
-bus.""",
+    notes="""\
+A sample of our own, since no packaged application in GTK 4 has a menu bar: they have buttons in their title bars.
+On the accessibility bus the menus of a bar are empty and cannot be pressed; its menu model and its actions are on
+the session bus.""",
 )

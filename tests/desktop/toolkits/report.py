@@ -9,8 +9,8 @@ from pathlib import Path
 
 INTRODUCTION = """# Toolkits
 
-How the menus of applications come through, toolkit by toolkit. This page is written by a program from a run of the tests
-on Debian 12 with X11:
+How the menus of applications come through, toolkit by toolkit. This page is written by a program from a run of
+the tests on Debian 12 with X11:
 
     scripts/test --all
     TOVREL_TOOLKIT_REPORT="$PWD/build/toolkits" ctest --preset release -C heavy -L toolkit
@@ -37,7 +37,7 @@ def main(directory):
     found.sort(key=lambda one: (one["toolkit"], one["name"]))
     print(INTRODUCTION)
     print("\n".join(f"- {title}: {meaning}." for title, meaning in CHECKS.values()))
-    print("\n**yes** holds; **no** failed in this run; **not told** by the application at all; **partly** holds, with something missing that is named below; "
+    print("\n**yes** holds; **no** failed in this run; **partly** holds, with something missing that is named below; "
           "**–** was not tried, for want of a command whose effect can be seen.\n")
     print_table(["Application", "Toolkit", *(title for title, _ in CHECKS.values())],
                 [[one["name"], one["toolkit"], *(verdict(one, check) for check in CHECKS)] for one in found])
@@ -46,7 +46,8 @@ def main(directory):
           f"{start} ms of it is the start of the program alone (`tovrel --version`).\n")
     print_table(["Application", "Packages", "Menu items", "`tovrel menus`"],
                 [[one["name"], ", ".join(f"{name} {version}" for name, version in one["versions"].items()),
-                  one["measured"].get("items", "–"), f"{one['measured'].get('menus_ms', '–')} ms"] for one in found])
+                  one["measured"].get("items", "–"), f"{one['measured'].get('menus_ms', '–')} ms"]
+                 for one in found])
     for one in found:
         print(f"\n## {one['name']} ({one['toolkit']})\n\n{one['notes']}")
         if one["missing"]:
@@ -60,8 +61,6 @@ def verdict(one, check):
         return "–"
     if not one["checks"][check]:
         return "no"
-    if check in one["never_told"]:
-        return "not told"
     return "partly" if check in one["missing"] else "yes"
 
 

@@ -34,8 +34,6 @@ class Results:
             "checks": self._checks,
             "measured": self._measured,
             "missing": {check: reason for check, reason in _missing(description) if reason},
-            "never_told": [check for check, mark in (("check_mark", description.toggle), ("choice", description.choice))
-                           if mark and mark.no_mark and not mark.refresh],
             "notes": description.notes,
         }
         file = Path(directory) / f"{description.name.lower().replace(' ', '-')}.json"
@@ -45,8 +43,6 @@ class Results:
 def _missing(description):
     yield "menus", description.no_menus_before
     yield "search", " ".join(known.no_shortcut for known in description.known if known.no_shortcut)
-    yield "check_mark", description.toggle.no_mark
-    yield "choice", description.choice.no_mark if description.choice else ""
     yield "disabled", description.conditional.no_state
 
 

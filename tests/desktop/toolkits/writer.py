@@ -4,8 +4,6 @@ from .description import Conditional, Description, Effect, Known, Toggle
 
 PROGRAM = "/usr/lib/libreoffice/program/soffice.bin"
 
-STALE = "The menu that the user sees tells of changes only when it is opened."
-
 
 def office(directory, *arguments):
     return [PROGRAM, f"-env:UserInstallation=file://{directory.parent}/profile", "--norestore", "--nologo", *arguments]
@@ -32,15 +30,17 @@ DESCRIPTION = Description(
     command=command,
     menus=("File", "Edit", "View", "Insert", "Format", "Styles", "Table", "Form", "Tools", "Window", "Help"),
     known=(Known("select all", ("Edit", "Select All"), "⌘A"), Known("spelling", ("Tools", "Spelling..."), "F7")),
-    toggle=Toggle(("View", "Status Bar"), lambda running: running.find("statusbar") is not None,
-                  refresh=lambda running: running.look_into("View"), no_mark=STALE),
+    toggle=Toggle(("View", "Status Bar"), lambda running: running.find("statusbar") is not None),
     conditional=Conditional(("Edit", "Copy"), "there is a selection",
                             allow=lambda running: running.press_keys("ctrl+a"),
-                            forbid=lambda running: running.press_keys("Home"),
-                            refresh=lambda running: running.look_into("Edit"), no_state=STALE),
+                            forbid=lambda running: running.press_keys("Home")),
     effect=Effect(("Tools", "Word Count..."), "the dialog with the count",
                   lambda running: "Word Count" in running.titles()),
-    notes="""Two menu bars are on the accessibility bus. The one that the user sees is read. The other knows at any time what is
-enabled and checked, and was tried: several keys in it are wrong, and after an item has been pressed there the document gets
-no more keys, and the next press ends the office.""",
+    notes="""\
+Two menu bars are on the accessibility bus, and a third description of the same menus on the session bus. Items and
+keys are those that the user sees, presses go to their actions on the session bus. Both tell what is enabled and
+checked as of the last time a menu was open; the other bar on the accessibility bus knows it at any time, so that
+states are taken from there. It is not used for more: several keys in it are wrong, and after a press there the
+document gets no more keys, and the next press ends the office. Titles are as of the last time too: the item reads
+Undo, and after a look into the menu with what it would undo.""",
 )
