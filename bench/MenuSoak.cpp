@@ -1,0 +1,66 @@
+// Reads the menu bar of a running application again and again in one process, as the resident program does
+// over a long time, and prints how the reads ended and what this process keeps in memory.
+
+#include <charconv>
+#include <cstdint>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/linux/LinuxAccessibility.h"
+
+namespace {
+
+using namespace tovrel;
+
+/// By then what is made once has been made.
+constexpr int warmUp = 100;
+
+/// kB that this process has written to and nobody else has (proc(5), smaps_rollup).
+long privateMemory() {
+    std::ifstream rollup("/proc/self/smaps_rollup");
+    std::string word;
+    long kilobytes = 0;
+    while (rollup >> word) {
+        if (word == "Private_Dirty:") {
+            rollup >> kilobytes;
+        }
+    }
+    return kilobytes;
+}
+
+int numberIn(std::string_view argument) {
+    int number = 0;
+    std::from_chars(argument.data(), argument.data() + argument.size(), number);
+    return number;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const int processIdentifier = argc == 3 ? numberIn(argv[1]) : 0;
+    const int reads = argc == 3 ? numberIn(argv[2]) : 0;
+    if (processIdentifier <= 0 || reads <= warmUp) {
+        std::cerr << "usage: tovrel_menu_soak PROCESS-IDENTIFIER READS (more than " << warmUp << ")\n";
+        return 2;
+    }
+    X11Windows windows;
+    LinuxAccessibility accessibility({std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()},
+                                     [&](std::int32_t process) { return windows.windowsOf(process); });
+    std::map<MenuReadOutcome, int> outcomes;
+    long memoryBefore = 0;
+    for (int read = 0; read < reads; ++read) {
+        if (read == warmUp) {
+            memoryBefore = privateMemory();
+        }
+        (void)accessibility.applicationElement(processIdentifier)->element("AXMenuBar");
+        ++outcomes[accessibility.lastReport().value().outcome];
+    }
+    std::cout << reads << " reads, " << outcomes[MenuReadOutcome::completed] << " of everything; "
+              << accessibility.lastReport()->nodes << " objects at last; own memory " << memoryBefore
+              << " kB, then " << privateMemory() << " kB\n";
+    return 0;
+}
