@@ -32,6 +32,7 @@ DESCRIPTION = Description(
                             forbid=lambda running: running.press_keys("ctrl+Home")),
     effect=Effect(("Edit", "Duplicate Line / Selection"), "the line is there twice",
                   lambda running: running.text().count(TEXT) == 2),
+    dialog=("File", "Open..."),
     notes="""\
 Nothing has to be done: items and shortcuts come over the accessibility bus as soon as the window is there. There
 the items carry no check marks, as in all menus made from a menu model; those come from the actions that the
