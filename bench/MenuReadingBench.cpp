@@ -1,13 +1,15 @@
-// Reads the menu bar of a running application with this program's reader and with the platform's client
-// library, alternately, each time in a fresh process with a connection of its own, and prints the medians.
+// Reads the menu bar of a running application as this program does, from each of its sources alone, and with
+// the platform's client library, in turn, each time in a fresh process with connections of its own, and
+// prints the medians.
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <chrono>
 #include <cstdint>
-#include <cstring>
+#include <functional>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <unistd.h>
@@ -16,6 +18,8 @@
 #include <sys/wait.h>
 
 #include "LibatspiWalk.h"
+#include "platform/linux/DBusMenuReader.h"
+#include "platform/linux/GtkMenuReader.h"
 #include "platform/linux/LinuxAccessibility.h"
 
 namespace {
@@ -45,16 +49,46 @@ std::size_t readEverything(AccessibilityElement& element) {
     return elements;
 }
 
+using Windows = std::vector<X11Window>;
+
+Measurement measured(const MenuReadReport& report) {
+    return {0, report.nodes, report.calls};
+}
+
+/// As the program does it; without windows from the accessibility bus alone.
 Measurement readWith(LinuxAccessibility& accessibility, std::int32_t processIdentifier) {
-    Measurement result;
-    if (const auto application = accessibility.applicationElement(processIdentifier)) {
-        if (const auto bar = application->element("AXMenuBar")) {
-            readEverything(*bar);
-            result.nodes = accessibility.lastReport()->nodes;
-            result.calls = accessibility.lastReport()->calls;
+    const auto bar = accessibility.applicationElement(processIdentifier)->element("AXMenuBar");
+    if (!bar) {
+        return {};
+    }
+    readEverything(*bar);
+    return measured(accessibility.lastReport().value());
+}
+
+LinuxAccessibility access(const Windows& windows) {
+    return LinuxAccessibility({std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()},
+                              [windows](std::int32_t) { return windows; });
+}
+
+Measurement readPublished(const Windows& windows) {
+    SessionBus bus;
+    for (const X11Window& window : windows) {
+        if (window.gtkMenus && bus.connection() != nullptr) {
+            return measured(
+                readGtkMenuBar(*bus.connection(), *window.gtkMenus, {}, std::chrono::steady_clock::now())
+                    .report);
         }
     }
-    return result;
+    return {};
+}
+
+Measurement readRegistered(const Windows& windows) {
+    SessionBus bus;
+    const auto now = std::chrono::steady_clock::now();
+    const auto menu = windows.empty() || bus.connection() == nullptr
+                          ? std::nullopt
+                          : registeredMenu(*bus.connection(), windows.front().identifier, {}, now);
+    return menu ? measured(readDBusMenuBar(*bus.connection(), *menu, {}, now).report) : Measurement();
 }
 
 template <typename Work>
@@ -106,41 +140,69 @@ int main(int argc, char** argv) {
         return 2;
     }
 
-    const auto own = [&] {
-        LinuxAccessibility accessibility({std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()});
-        return readWith(accessibility, processIdentifier);
+    const Windows windows = X11Windows().windowsOf(processIdentifier);
+    struct Reader {
+        const char* name;
+        std::function<Measurement()> read;
+        std::vector<Measurement> rounds;
     };
-    const auto library = [&] { return Measurement{0, walkMenusWithLibatspi(processIdentifier), 0}; };
-
-    std::vector<Measurement> ownRounds;
-    std::vector<Measurement> libraryRounds;
+    std::array readers{
+        Reader{"as the program reads",
+               [&] {
+                   LinuxAccessibility accessibility = access(windows);
+                   return readWith(accessibility, processIdentifier);
+               },
+               {}},
+        Reader{"accessibility bus",
+               [&] {
+                   LinuxAccessibility accessibility = access({});
+                   return readWith(accessibility, processIdentifier);
+               },
+               {}},
+        Reader{"org.gtk.Menus", [&] { return readPublished(windows); }, {}},
+        Reader{"com.canonical.dbusmenu", [&] { return readRegistered(windows); }, {}},
+        Reader{"libatspi",
+               [&] {
+                   return Measurement{0, walkMenusWithLibatspi(processIdentifier), 0};
+               },
+               {}},
+    };
     for (int round = 0; round < rounds; ++round) {
-        const auto ours = timedInChild(own);
-        const auto theirs = timedInChild(library);
-        if (!ours || !theirs || ours->nodes == 0 || theirs->nodes == 0) {
-            std::cerr << "no menu bar could be read of process " << processIdentifier << '\n';
-            return 1;
+        for (Reader& reader : readers) {
+            if (const auto measurement = timedInChild(reader.read)) {
+                reader.rounds.push_back(*measurement);
+            }
         }
-        ownRounds.push_back(*ours);
-        libraryRounds.push_back(*theirs);
+    }
+    const auto hasMenus = [](const Reader& reader) {
+        return reader.rounds.size() == rounds && median(reader.rounds).nodes > 1;
+    };
+    if (!hasMenus(readers.front())) {
+        std::cerr << "no menu bar could be read of process " << processIdentifier << '\n';
+        return 1;
+    }
+    std::cout << "medians of " << rounds << " rounds, each in a fresh process: ms, objects, calls\n";
+    for (const Reader& reader : readers) {
+        std::cout << reader.name << ": ";
+        if (hasMenus(reader)) {
+            const Measurement middle = median(reader.rounds);
+            std::cout << middle.milliseconds << ' ' << middle.nodes << ' ' << middle.calls << '\n';
+        } else {
+            std::cout << "none\n";
+        }
     }
 
-    LinuxAccessibility accessibility({std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()});
+    LinuxAccessibility accessibility = access(windows);
     std::vector<Measurement> connectedRounds;
     connectedRounds.reserve(rounds);
     for (int round = 0; round < rounds; ++round) {
         connectedRounds.push_back(timed([&] { return readWith(accessibility, processIdentifier); }));
     }
-
-    const Measurement ours = median(ownRounds);
-    const Measurement connected = median(connectedRounds);
-    const Measurement theirs = median(libraryRounds);
-    std::cout << "medians of " << rounds << " rounds\n"
-              << "this reader, fresh process:     " << ours.milliseconds << " ms, " << ours.nodes
-              << " objects, " << ours.calls << " calls\n"
-              << "this reader, already connected: " << connected.milliseconds << " ms\n"
-              << "libatspi, fresh process:        " << theirs.milliseconds << " ms, " << theirs.nodes
-              << " objects\n"
-              << "ratio (fresh processes):        " << theirs.milliseconds / ours.milliseconds << '\n';
+    std::cout << "as the program reads, already connected: " << median(connectedRounds).milliseconds << '\n';
+    if (hasMenus(readers.back())) {
+        std::cout << "libatspi / as the program reads: "
+                  << median(readers.back().rounds).milliseconds / median(readers.front().rounds).milliseconds
+                  << '\n';
+    }
     return 0;
 }

@@ -60,16 +60,10 @@ MenuReading ApplicationMenus::read() {
     if (isUnreachable(published.report.outcome)) {
         return published;
     }
-    MenuReading reading = readAccessible(
-        windows, hasEntries(published) ? AtspiRootPanes::entered : AtspiRootPanes::passedBy, started);
+    MenuReading reading = readAccessible(windows, published.tree, started);
     std::size_t calls = published.report.calls + reading.report.calls;
-    const bool isWhole = hasEntries(reading) && !isUnreachable(reading.report.outcome);
-    if (!isWhole && hasEntries(published)) {
+    if (hasEntries(published)) {
         reading = std::move(published);
-    } else if (reading.isForReadingOnly) {
-        reading.tree = withLiveStates(published.tree, reading.tree);
-    } else {
-        joinMenus(reading.tree, published.tree);
     }
     if (!isUnreachable(reading.report.outcome) && (!hasEntries(reading) || hasEmptyMenu(reading.tree))) {
         const auto menu = registeredMenu(windows, started);
@@ -96,7 +90,7 @@ bool ApplicationMenus::press(const MenuTree& tree, std::size_t node) {
                                                         : pressAccessible(tree, node);
 }
 
-MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windows, AtspiRootPanes rootPanes,
+MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windows, MenuTree& published,
                                              SteadyTime started) {
     MenuReading reading;
     auto applications = buses_.accessibility->applications();
@@ -111,8 +105,8 @@ MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windo
             continue;
         }
         AtspiMenuReading answered = readAtspiMenus(*connection, application.busName, application.root, title,
-                                                   rootPanes, limits_, started);
-        reading = {menuTreeOf(answered.tree), answered.report, answered.tree.isInRootPane};
+                                                   published, limits_, started);
+        reading = {menuTreeOf(answered.tree), answered.report};
         forgetIfAbandoned(*buses_.accessibility, reading.report.outcome);
         if (!reading.tree.empty() || isUnreachable(reading.report.outcome)) {
             break;
@@ -162,8 +156,8 @@ bool ApplicationMenus::pressAccessible(const MenuTree& tree, std::size_t node) {
     if (result != PressResult::itemGone) {
         return result == PressResult::accepted;
     }
-    const MenuReading now =
-        readAccessible(windows(), AtspiRootPanes::passedBy, std::chrono::steady_clock::now());
+    MenuTree nothingPublished;
+    const MenuReading now = readAccessible(windows(), nothingPublished, std::chrono::steady_clock::now());
     const auto found = counterpart(tree, node, now.tree);
     connection = buses_.accessibility->connection();
     return found && connection != nullptr &&

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "platform/linux/AtspiBus.h"
-#include "platform/linux/AtspiMenuBarFinder.h"
 #include "platform/linux/DBusMenuReader.h"
 #include "platform/linux/MenuReadLimits.h"
 #include "platform/linux/MenuReading.h"
@@ -26,13 +25,13 @@ struct MenuBuses {
 /// Access to the menus of one running application, shared by the elements read from it: the one place that
 /// knows which source is taken for what.
 ///
-/// - The accessibility bus is asked always. What it has of GTK 2 and 3, Qt, Gecko and others is the menu bar
-///   as the user sees it, and its items are pressed there.
-/// - What the front window publishes as org.gtk.Menus is the whole menu bar where the accessibility bus has
-///   none, as with GTK 4, or did not get to the end. Otherwise it is joined, by the titles that lead to an
-///   item: it knows check marks that GTK 3 keeps from the accessibility bus. With LibreOffice it is the other
-///   way round: what it publishes is what the user sees, can be pressed and has the true shortcuts, and only
-///   the states are taken from the accessibility bus.
+/// - What the front window publishes as org.gtk.Menus is its menu bar: all that the user sees there, with
+/// current
+///   states, at a hundredth of the calls that the accessibility bus takes, and pressed by its actions. That
+///   is so in GTK 4, in applications of GTK 3 that make their menus from a model, and in LibreOffice.
+/// - The accessibility bus adds what is not published: shortcuts in GTK 3, the current states in LibreOffice.
+/// Where
+///   nothing is published it is the source of everything: GTK 2, other applications of GTK 3, Qt, Gecko.
 /// - com.canonical.dbusmenu is asked only where the desktop runs the registrar of application menus, and only
 ///   when the others gave nothing or left menus without entries: those that are filled when they open.
 ///
@@ -56,7 +55,8 @@ class ApplicationMenus {
     bool press(const MenuTree& tree, std::size_t node);
 
   private:
-    MenuReading readAccessible(const std::vector<X11Window>& windows, AtspiRootPanes rootPanes,
+    /// Adds to what is published, or reads what is not.
+    MenuReading readAccessible(const std::vector<X11Window>& windows, MenuTree& published,
                                SteadyTime started);
     MenuReading readPublished(const GtkMenuAddress& address, SteadyTime started);
     MenuReading readRegistered(const DBusMenuAddress& address, SteadyTime started);

@@ -5,6 +5,9 @@
 #include <utility>
 #include <vector>
 
+#include "platform/linux/AtspiAdditions.h"
+#include "platform/linux/AtspiMenuBarFinder.h"
+
 namespace tovrel {
 namespace {
 
@@ -172,65 +175,65 @@ std::optional<DBusConnection> connectToApplication(AtspiCalls& calls, const std:
     return connection;
 }
 
-bool hasAnyAnswer(const AtspiMenuTree& tree) {
+/// Reads what is below the bar, over a connection to the application itself if it takes one, which spares the
+/// bus two messages of four. `read` gets the calls to ask with and answers whether any of them was answered.
+template <typename Read>
+void readBelow(AtspiCalls& callsOverBus, const std::string& root, const AtspiMenuBar& bar, SteadyTime started,
+               MenuReadReport& report, const Read& read) {
+    // Others than GTK have not been seen to offer it.
+    if (auto connection =
+            bar.toolkit == AtspiToolkit::gtk ? connectToApplication(callsOverBus, root) : std::nullopt) {
+        AtspiCalls calls(*connection, callsOverBus.busName(), callsOverBus.limits(), started);
+        const bool isAnswered = read(calls);
+        report.calls += calls.calls();
+        if (isAnswered) {
+            // What is closed is the application, and not the bus.
+            const auto stopped = calls.stopped() == MenuReadOutcome::noAccessibilityBus
+                                     ? MenuReadOutcome::applicationGone
+                                     : calls.stopped();
+            report.outcome = stopped.value_or(MenuReadOutcome::completed);
+            return;
+        }
+    }
+    read(callsOverBus);
+    report.outcome = callsOverBus.stopped().value_or(MenuReadOutcome::completed);
+}
+
+bool readTree(AtspiCalls& calls, const AtspiMenuBar& bar, AtspiMenuTree& tree, bool& isTooLarge) {
+    tree = {};
+    tree.busName = calls.busName();
+    tree.toolkit = bar.toolkit;
+    TreeReader reader(calls, tree);
+    reader.read(bar);
+    isTooLarge = reader.isTooLarge();
     // Of the menu bar itself it is known already what it is.
     return std::any_of(tree.nodes.begin() + 1, tree.nodes.end(),
                        [](const AtspiNode& node) { return node.role.has_value(); });
-}
-
-/// Reads what is below the bar from the application itself, which spares the bus two messages of four. False
-/// when it does not answer that way; otherwise `report` has how that went.
-bool readDirectly(AtspiCalls& callsOverBus, const std::string& root, const AtspiMenuBar& bar,
-                  SteadyTime started, AtspiMenuReading& reading) {
-    // Others have not been seen to offer it.
-    auto connection =
-        bar.toolkit == AtspiToolkit::gtk ? connectToApplication(callsOverBus, root) : std::nullopt;
-    if (!connection) {
-        return false;
-    }
-    AtspiCalls calls(*connection, callsOverBus.busName(), callsOverBus.limits(), started);
-    TreeReader reader(calls, reading.tree);
-    reader.read(bar);
-    reading.report.calls += calls.calls();
-    if (!hasAnyAnswer(reading.tree)) {
-        return false;
-    }
-    // What is closed is the application, and not the bus.
-    const auto stopped = calls.stopped() == MenuReadOutcome::noAccessibilityBus
-                             ? MenuReadOutcome::applicationGone
-                             : calls.stopped();
-    reading.report.outcome =
-        stopped.value_or(reader.isTooLarge() ? MenuReadOutcome::treeTooLarge : MenuReadOutcome::completed);
-    return true;
 }
 
 } // namespace
 
 AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& busName,
                                 const std::string& root, const std::optional<Text>& windowTitle,
-                                AtspiRootPanes rootPanes, const MenuReadLimits& limits, SteadyTime started) {
+                                MenuTree& published, const MenuReadLimits& limits, SteadyTime started) {
     AtspiMenuReading reading;
     AtspiCalls calls(connection, busName, limits, started);
     bool isTooLarge = false;
-    const auto bar = findAtspiMenuBar(calls, root, windowTitle, rootPanes, isTooLarge);
-    const auto startTree = [&] {
-        reading.tree = {};
-        reading.tree.busName = busName;
-        reading.tree.isInRootPane = bar && bar->isInRootPane;
-        reading.tree.toolkit = bar ? bar->toolkit : AtspiToolkit::other;
-    };
-    startTree();
-    if (!bar || !readDirectly(calls, root, *bar, started, reading)) {
-        startTree();
-        if (bar) {
-            TreeReader reader(calls, reading.tree);
-            reader.read(*bar);
-            isTooLarge = reader.isTooLarge();
-        }
-        const auto complete = isTooLarge ? MenuReadOutcome::treeTooLarge
-                              : bar      ? MenuReadOutcome::completed
-                                         : MenuReadOutcome::noMenuBar;
-        reading.report.outcome = calls.stopped().value_or(complete);
+    const auto bar =
+        findAtspiMenuBar(calls, root, windowTitle,
+                         published.empty() ? AtspiRootPanes::passedBy : AtspiRootPanes::entered, isTooLarge);
+    reading.report.outcome = calls.stopped().value_or(MenuReadOutcome::noMenuBar);
+    if (bar && !published.empty()) {
+        readBelow(calls, root, *bar, started, reading.report, [&](AtspiCalls& asked) {
+            return bar->isInRootPane ? replaceAtspiStates(asked, bar->children, published)
+                                     : addAtspiAccelerators(asked, bar->children, published);
+        });
+    } else if (bar) {
+        readBelow(calls, root, *bar, started, reading.report,
+                  [&](AtspiCalls& asked) { return readTree(asked, *bar, reading.tree, isTooLarge); });
+    }
+    if (isTooLarge && !calls.stopped()) {
+        reading.report.outcome = MenuReadOutcome::treeTooLarge;
     }
     reading.report.nodes = reading.tree.nodes.size();
     reading.report.calls += calls.calls();

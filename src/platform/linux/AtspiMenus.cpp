@@ -57,9 +57,8 @@ std::optional<bool> isChecked(const AtspiNode& node) {
 
 MenuTree menuTreeOf(const AtspiMenuTree& tree) {
     const bool visibilityIsTold =
-        !tree.isInRootPane && std::any_of(tree.nodes.begin(), tree.nodes.end(), [](const AtspiNode& node) {
-            return is(node, AtspiState::visible);
-        });
+        std::any_of(tree.nodes.begin(), tree.nodes.end(),
+                    [](const AtspiNode& node) { return is(node, AtspiState::visible); });
     MenuTree all(tree.nodes.size());
     // A node stands behind its parent, so that one pass forwards sees parents first, one backwards children.
     for (std::size_t index = 0; index < all.size(); ++index) {

@@ -9,7 +9,6 @@ namespace tovrel {
 struct MenuReading {
     MenuTree tree;
     MenuReadReport report;
-    bool isForReadingOnly = false; ///< Its items are not to be pressed.
 };
 
 } // namespace tovrel

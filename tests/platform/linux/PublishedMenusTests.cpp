@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/linux/AtspiNode.h"
 #include "platform/linux/FakeAccessibility.h"
 #include "platform/linux/LinuxAccessibility.h"
 #include "platform/linux/MenuJoin.h"
@@ -229,6 +230,55 @@ TEST_F(PublishedMenusTest, AWindowsMenusAndActionsAreItsMenuBar) {
     EXPECT_EQ(service_->notedOnceThereAre(2).size(), 2U);
 }
 
+constexpr std::uint64_t bit(AtspiState state) {
+    return std::uint64_t{1} << static_cast<unsigned>(state);
+}
+
+FakeNode accessible(AtspiRole role, const char* name, std::vector<std::size_t> children,
+                    const char* keys = "",
+                    std::uint64_t states = bit(AtspiState::sensitive) | bit(AtspiState::visible)) {
+    return {static_cast<std::uint32_t>(role), name, states, keys, std::move(children), true};
+}
+
+TEST_F(PublishedMenusTest, ShortcutsThatAreNotPublishedComeFromTheAccessibilityBus) {
+    serveGtk({{"Start", fillGtkMenus}, {"DescribeAll", fillGtkActions}, {"Activate", nullptr}});
+    const std::vector<FakeNode> nodes{accessible(AtspiRole::tree, "", {1}),
+                                      accessible(AtspiRole::frame, "", {2}),
+                                      accessible(AtspiRole::menuBar, "", {3, 4}),
+                                      accessible(AtspiRole::menu, "File  ", {5, 6, 7}),
+                                      accessible(AtspiRole::menu, "View", {8}),
+                                      accessible(AtspiRole::menuItem, "New  ", {}, "n;<Alt>f:n;<Primary>x"),
+                                      accessible(AtspiRole::separator, "", {}),
+                                      accessible(AtspiRole::menuItem, "Save _As…", {}, ";;<Primary><Shift>s"),
+                                      accessible(AtspiRole::menuItem, "Statusbar", {}, "s;<Alt>v:s;F7")};
+    const FakeApplication application(bus_, [&](std::size_t number) { return nodes.at(number); }, {});
+    const auto bar = menuBar();
+    ASSERT_NE(bar, nullptr);
+    EXPECT_EQ(shown(*bar), "[File[New@n0,Save _As…!@s1,Unknown!,Wrong target!,Quit],"
+                           "View[Statusbar*@\uF70A8,Size[Small,Large*]]]");
+    EXPECT_EQ(linux_.lastReport()->calls, 4 + application.calls());
+}
+
+TEST_F(PublishedMenusTest, StatesThatAreNotCurrentComeFromTheOtherMenuBar) {
+    serveGtk({{"Start", fillGtkMenus}, {"DescribeAll", fillGtkActions}, {"Activate", nullptr}});
+    const std::uint64_t sensitive = bit(AtspiState::sensitive);
+    const std::vector<FakeNode> nodes{
+        accessible(AtspiRole::tree, "", {1}),
+        accessible(AtspiRole::frame, "", {2}),
+        accessible(AtspiRole::rootPane, "", {3}),
+        accessible(AtspiRole::menuBar, "", {4, 5}),
+        accessible(AtspiRole::menu, "File", {6, 7, 8}, "", sensitive),
+        accessible(AtspiRole::menu, "View", {9}, "", 0),
+        accessible(AtspiRole::menuItem, "New", {}, "", 0),
+        accessible(AtspiRole::menuItem, "Save _As…: notes", {}, ";;<Control>v", sensitive),
+        accessible(AtspiRole::menuItem, "Never shown", {}, "", sensitive),
+        accessible(AtspiRole::checkMenuItem, "Statusbar", {}, "", sensitive | bit(AtspiState::checked))};
+    const FakeApplication application(bus_, [&](std::size_t number) { return nodes.at(number); }, {});
+    const auto bar = menuBar();
+    ASSERT_NE(bar, nullptr);
+    EXPECT_EQ(shown(*bar), "[File[New!@n0,Save _As…],View![Statusbar!*]]");
+}
+
 TEST_F(PublishedMenusTest, AWindowThatDoesNotAnswerIsAskedOnce) {
     serveGtk({{"Start", nullptr}, {"DescribeAll", fillGtkActions}});
     EXPECT_EQ(menuBar(), nullptr);
@@ -391,29 +441,6 @@ TEST(MenuJoin, AddsWhatOnlyTheOtherSourceKnows) {
     EXPECT_EQ(tree[tree[5].children.front()].title, Text("notes"));
     EXPECT_EQ(tree[0].children.size(), 2U) << "a menu that only the other source has may be stale";
     EXPECT_FALSE(hasEmptyMenu(tree));
-}
-
-TEST(MenuJoin, TakesStatesFromTheFormThatIsCurrent) {
-    MenuTree shown = treeOf({{"Edit", "Undo", "Copy", "Gone"}, {"Recent", "stale.txt"}, {"Styles", "Bold"}});
-    MenuTree live = treeOf({{"Edit", "Copy", "Never shown", "Undo: Typing"}, {"Recent"}, {"Styles", "Bold"}});
-    for (MenuNode& node : live) {
-        node.isEnabled = true;
-    }
-    live[2].isEnabled = false;
-    live.back().isChecked = true;
-    const MenuTree joined = withLiveStates(shown, live);
-    const auto titles = [&](std::size_t menu) {
-        std::string text;
-        for (const std::size_t entry : joined[menu].children) {
-            const MenuNode& node = joined[entry];
-            text += node.title.utf8() + (node.isEnabled == true ? "" : "!") +
-                    (node.isChecked == true ? "*" : "") + " ";
-        }
-        return text;
-    };
-    EXPECT_EQ(titles(0), "Edit Styles ");
-    EXPECT_EQ(titles(joined[0].children.front()), "Undo Copy! ");
-    EXPECT_EQ(titles(joined[0].children.back()), "Bold* ");
 }
 
 } // namespace
