@@ -31,5 +31,5 @@ DESCRIPTION = Description(
     notes="""\
 A sample of our own that publishes its menus on the accessibility bus only. Its dialogs run in a main loop of their own,
 in which it answers nothing. It was tried to ask applications over a connection of their own, which is twice as fast:
-those that have ever taken one hang for good when such a dialog closes.""",
+one that has taken such a connection can hang for good when a dialog closes that a press has opened.""",
 )
