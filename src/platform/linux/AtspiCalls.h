@@ -16,8 +16,8 @@ namespace tovrel {
 ///
 /// Only the calls that are known to harm no application are made: a Qt application dies of
 /// org.freedesktop.DBus.Properties.GetAll, Firefox of org.a11y.atspi.Action.GetActions. They go over the bus:
-/// a GTK 3 application that has ever taken a connection of its own (GetApplicationBusAddress), which would
-/// take half the time, hangs for good when a dialog closes that a press has opened in a main loop of its own.
+/// a GTK 3 application that has taken a connection of its own (GetApplicationBusAddress), which would take
+/// half the time, can hang for good when a dialog closes that a press has opened in a main loop of its own.
 class AtspiCalls {
   public:
     enum class Question { role, name, states, children, keyBinding, interfaces, toolkitName };

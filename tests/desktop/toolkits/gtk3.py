@@ -29,7 +29,7 @@ DESCRIPTION = Description(
     effect=Effect(("Edit", "Upper Case"), "the text in capitals", lambda running: running.text() == TEXT.upper()),
     dialog=("File", "Open..."),
     notes="""\
-A sample of our own that publishes its menus on the accessibility bus only. Its dialogs run in a main loop of their own,
-in which it answers nothing. It was tried to ask applications over a connection of their own, which is twice as fast:
-one that has taken such a connection can hang for good when a dialog closes that a press has opened.""",
+A sample of our own that publishes its menus on the accessibility bus only. Its dialogs run in a main loop of their
+own, in which it answers nothing. It was tried to ask applications over a connection of their own, which is twice as
+fast: one that has taken such a connection can hang for good when a dialog closes that a press has opened.""",
 )
