@@ -25,10 +25,9 @@ class Additions {
   public:
     Additions(AtspiCalls& calls, MenuTree& tree) : calls_(calls), tree_(tree), addition_(calls, tree) {}
 
-    bool add(const std::vector<std::string>& entries) {
+    void add(const std::vector<std::string>& entries) {
         read(0, entries);
         calls_.run();
-        return isAnswered_;
     }
 
   private:
@@ -41,7 +40,6 @@ class Additions {
         objects->missing = paths.size();
         for (std::size_t index = 0; index < paths.size(); ++index) {
             calls_.ask(paths[index], Question::name, [this, menu, objects, index](DBusMessage& answer) {
-                isAnswered_ = true;
                 objects->titles[index] = trimmed(Text(answer.readVariantString().value_or("")));
                 if (--objects->missing == 0) {
                     askAbout(addition_.match(menu, *objects), *objects);
@@ -73,7 +71,6 @@ class Additions {
     AtspiCalls& calls_;
     MenuTree& tree_;
     Addition addition_;
-    bool isAnswered_ = false;
 };
 
 class Accelerators {
@@ -154,14 +151,13 @@ void tidy(MenuTree& tree) {
 
 } // namespace
 
-bool addAtspiAccelerators(AtspiCalls& calls, const std::vector<std::string>& entries, MenuTree& tree) {
-    return Additions<Accelerators>(calls, tree).add(entries);
+void addAtspiAccelerators(AtspiCalls& calls, const std::vector<std::string>& entries, MenuTree& tree) {
+    Additions<Accelerators>(calls, tree).add(entries);
 }
 
-bool replaceAtspiStates(AtspiCalls& calls, const std::vector<std::string>& entries, MenuTree& tree) {
-    const bool isAnswered = Additions<States>(calls, tree).add(entries);
+void replaceAtspiStates(AtspiCalls& calls, const std::vector<std::string>& entries, MenuTree& tree) {
+    Additions<States>(calls, tree).add(entries);
     tidy(tree);
-    return isAnswered;
 }
 
 } // namespace tovrel

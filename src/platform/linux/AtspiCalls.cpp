@@ -47,8 +47,6 @@ DBusMessage AtspiCalls::callFor(const DBusConnection& connection, const std::str
     case Question::toolkitName:
         return withArguments(call("org.freedesktop.DBus.Properties", "Get"), "org.a11y.atspi.Application",
                              "ToolkitName");
-    case Question::ownAddress:
-        return call("org.a11y.atspi.Application", "GetApplicationBusAddress");
     case Question::keyBinding: {
         DBusMessage binding = call(actionInterface, "GetKeyBinding");
         return binding && sd_bus_message_append(binding.handle(), "i", 0) >= 0 ? std::move(binding)

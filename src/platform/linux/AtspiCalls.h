@@ -15,10 +15,12 @@ namespace tovrel {
 /// Questions to the objects of one application, asked many at a time within the limits of one read.
 ///
 /// Only the calls that are known to harm no application are made: a Qt application dies of
-/// org.freedesktop.DBus.Properties.GetAll, Firefox of org.a11y.atspi.Action.GetActions.
+/// org.freedesktop.DBus.Properties.GetAll, Firefox of org.a11y.atspi.Action.GetActions. They go over the bus:
+/// a GTK 3 application that has taken a connection of its own (GetApplicationBusAddress), which would take
+/// half the time, can hang for good when a dialog closes that a press has opened in a main loop of its own.
 class AtspiCalls {
   public:
-    enum class Question { role, name, states, children, keyBinding, interfaces, toolkitName, ownAddress };
+    enum class Question { role, name, states, children, keyBinding, interfaces, toolkitName };
     /// Gets the answer, which may be an error or of any type.
     using Handler = BoundedCalls::Handler;
 

@@ -1,6 +1,5 @@
 #include "platform/linux/AtspiMenuReader.h"
 
-#include <algorithm>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -99,7 +98,6 @@ class TreeReader {
             node.hasComponent = readHasComponent(answer);
             break;
         case Question::toolkitName:
-        case Question::ownAddress:
             break;
         }
     }
@@ -163,52 +161,12 @@ class TreeReader {
     bool isTooLarge_ = false;
 };
 
-/// Where the application takes calls without the bus in between; absent when it does not.
-std::optional<DBusConnection> connectToApplication(AtspiCalls& calls, const std::string& root) {
-    std::optional<DBusConnection> connection;
-    calls.ask(root, Question::ownAddress, [&](DBusMessage& answer) {
-        if (const auto address = answer.readString()) {
-            connection = DBusConnection::openProcess(*address);
-        }
-    });
-    calls.run();
-    return connection;
-}
-
-/// Reads what is below the bar, over a connection to the application itself if it takes one, which spares the
-/// bus two messages of four. `read` gets the calls to ask with and answers whether any of them was answered.
-template <typename Read>
-void readBelow(AtspiCalls& callsOverBus, const std::string& root, const AtspiMenuBar& bar, SteadyTime started,
-               MenuReadReport& report, const Read& read) {
-    // Others than GTK have not been seen to offer it.
-    if (auto connection =
-            bar.toolkit == AtspiToolkit::gtk ? connectToApplication(callsOverBus, root) : std::nullopt) {
-        AtspiCalls calls(*connection, callsOverBus.busName(), callsOverBus.limits(), started);
-        const bool isAnswered = read(calls);
-        report.calls += calls.calls();
-        if (isAnswered) {
-            // What is closed is the application, and not the bus.
-            const auto stopped = calls.stopped() == MenuReadOutcome::noAccessibilityBus
-                                     ? MenuReadOutcome::applicationGone
-                                     : calls.stopped();
-            report.outcome = stopped.value_or(MenuReadOutcome::completed);
-            return;
-        }
-    }
-    read(callsOverBus);
-    report.outcome = callsOverBus.stopped().value_or(MenuReadOutcome::completed);
-}
-
-bool readTree(AtspiCalls& calls, const AtspiMenuBar& bar, AtspiMenuTree& tree, bool& isTooLarge) {
-    tree = {};
+void readTree(AtspiCalls& calls, const AtspiMenuBar& bar, AtspiMenuTree& tree, bool& isTooLarge) {
     tree.busName = calls.busName();
     tree.toolkit = bar.toolkit;
     TreeReader reader(calls, tree);
     reader.read(bar);
     isTooLarge = reader.isTooLarge();
-    // Of the menu bar itself it is known already what it is.
-    return std::any_of(tree.nodes.begin() + 1, tree.nodes.end(),
-                       [](const AtspiNode& node) { return node.role.has_value(); });
 }
 
 } // namespace
@@ -222,21 +180,18 @@ AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& b
     const auto bar =
         findAtspiMenuBar(calls, root, windowTitle,
                          published.empty() ? AtspiRootPanes::passedBy : AtspiRootPanes::entered, isTooLarge);
-    reading.report.outcome = calls.stopped().value_or(MenuReadOutcome::noMenuBar);
     if (bar && !published.empty()) {
-        readBelow(calls, root, *bar, started, reading.report, [&](AtspiCalls& asked) {
-            return bar->isInRootPane ? replaceAtspiStates(asked, bar->children, published)
-                                     : addAtspiAccelerators(asked, bar->children, published);
-        });
+        (bar->isInRootPane ? replaceAtspiStates : addAtspiAccelerators)(calls, bar->children, published);
     } else if (bar) {
-        readBelow(calls, root, *bar, started, reading.report,
-                  [&](AtspiCalls& asked) { return readTree(asked, *bar, reading.tree, isTooLarge); });
+        readTree(calls, *bar, reading.tree, isTooLarge);
     }
+    reading.report.outcome =
+        calls.stopped().value_or(bar ? MenuReadOutcome::completed : MenuReadOutcome::noMenuBar);
     if (isTooLarge && !calls.stopped()) {
         reading.report.outcome = MenuReadOutcome::treeTooLarge;
     }
     reading.report.nodes = reading.tree.nodes.size();
-    reading.report.calls += calls.calls();
+    reading.report.calls = calls.calls();
     reading.report.elapsed =
         std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - started);
     return reading;

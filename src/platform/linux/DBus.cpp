@@ -101,23 +101,6 @@ std::optional<DBusConnection> DBusConnection::openSessionBus() {
     return DBusConnection(Bus(raw));
 }
 
-std::optional<DBusConnection> DBusConnection::openProcess(std::string_view address) {
-    const bool isSocket = address.starts_with("unix:path=") || address.starts_with("unix:abstract=");
-    // After a semicolon there may be another, of any kind.
-    if (!isSocket || address.find(';') != std::string_view::npos) {
-        return std::nullopt;
-    }
-    sd_bus* raw = nullptr;
-    if (sd_bus_new(&raw) < 0) {
-        return std::nullopt;
-    }
-    Bus bus(raw);
-    if (sd_bus_set_address(raw, std::string(address).c_str()) < 0 || sd_bus_start(raw) < 0) {
-        return std::nullopt;
-    }
-    return DBusConnection(std::move(bus));
-}
-
 DBusMessage DBusConnection::methodCall(const char* destination, const char* path, const char* interface,
                                        const char* member) const {
     sd_bus_message* raw = nullptr;

@@ -46,7 +46,7 @@ class DBusMessage {
     std::unique_ptr<sd_bus_message, Release> message_;
 };
 
-/// A connection to a message bus, or to one process. Nothing blocks without a deadline, closing included, and
+/// A connection to a message bus. Nothing blocks without a deadline, closing included, and
 /// no callback is registered: answers come out of `receive`, so no exception ever crosses a C frame.
 class DBusConnection {
   public:
@@ -55,10 +55,6 @@ class DBusConnection {
     static std::optional<DBusConnection> open(const std::string& address);
     /// The same for the session bus of this process's environment.
     static std::optional<DBusConnection> openSessionBus();
-    /// The same for a process that takes calls without a bus in between; who is called is then of no matter.
-    /// The address may come from anyone, so it is only followed to a socket of this machine: others may start
-    /// programs or lead elsewhere.
-    static std::optional<DBusConnection> openProcess(std::string_view address);
 
     [[nodiscard]] bool isOpen() const { return !lost_ && sd_bus_is_open(bus_.get()) > 0; }
 

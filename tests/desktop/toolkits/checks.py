@@ -119,6 +119,26 @@ class ToolkitChecks:
         self._press(effect.path)
         self.wait_until(lambda: effect.is_there(self.running), effect.what)
 
+    def test_dialog(self):
+        """The dialog that a command opens can be closed, and the application goes on: there are some that hang when
+        they are asked in the wrong way while one is open."""
+        if not self.description.dialog:
+            self.skipTest("no dialog is described")
+        self._prepare()
+        before = self.running.windows()
+        self._press(self.description.dialog)
+        opened = self.wait_until(lambda: set(self.running.windows()) - set(before), "the dialog")
+        self.desktop.bring_to_front(max(opened))
+        # Some take no keys at first.
+        def closed():
+            self.running.press_keys("Escape")
+            return self.running.windows() == before
+
+        self.wait_until(closed, "the dialog to close")
+        self.running.application.bring_to_front()
+        self.description.conditional.allow(self.running)
+        self._wait_for_state(self.description.conditional, True)
+
     def test_stale(self):
         """What could be pressed when it was read is refused when it cannot be any more, and nothing happens."""
         self._prepare()

@@ -75,6 +75,8 @@ class Description:
     toggle: Toggle
     conditional: Conditional
     effect: Effect
+    # A command that opens a dialog, which Escape closes.
+    dialog: Path_ | None = None
     # A command that is gone, rather than disabled, when it was read and then forbidden.
     stale: Conditional | None = None
     # Where the application has one that can be seen to change outside its menu.
@@ -117,15 +119,15 @@ class Running:
     def look_into(self, *titles):
         """Opens the menu of the bar, then the menus below it, and closes them, as a person does who looks."""
         menu = self.find("menu bar")
-        before = self._windows()
+        before = self.windows()
         for number, title in enumerate(titles, 1):
             menu = next(child for child in menu.children if child.name == title and child.role == "menu")
             menu.act()
-            self.wait_until(lambda count=number: len(self._windows()) >= len(before) + count,
+            self.wait_until(lambda count=number: len(self.windows()) >= len(before) + count,
                             f"the menu {title} to open")
         for number in range(len(titles) - 1, -1, -1):
             self.press_keys("Escape")
-            self.wait_until(lambda count=number: len(self._windows()) <= len(before) + count, "the menu to close")
+            self.wait_until(lambda count=number: len(self.windows()) <= len(before) + count, "the menu to close")
 
     def press_keys(self, *keys):
         self.desktop.windows.press_keys(*keys)
@@ -135,11 +137,12 @@ class Running:
 
     def titles(self):
         """Of all its visible windows."""
-        return sorted(self.desktop.windows.title(window) for window in self._windows())
+        return sorted(self.desktop.windows.title(window) for window in self.windows())
 
     def files(self):
         """What the files of the directory hold, by name."""
         return {file.name: file.read_bytes() for file in sorted(self.directory.iterdir()) if file.is_file()}
 
-    def _windows(self):
+    def windows(self):
+        """Those that are visible."""
         return self.desktop.windows.of_process(self.application.pid)

@@ -29,6 +29,7 @@ DESCRIPTION = Description(
                             forbid=lambda running: running.press_keys("ctrl+s")),
     effect=Effect(("Edit", "Text Tabs to Spaces"), "spaces in place of the tab",
                   lambda running: "\t" not in running.text() and running.text().endswith("  pear\n")),
+    dialog=("Options", "Preferences"),
     notes="""\
 Items, shortcuts, states and check marks come over the accessibility bus. An item that can be checked looks like any
 other until it is. Accessibility must have been switched on when the application was started.""",

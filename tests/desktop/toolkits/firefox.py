@@ -67,6 +67,7 @@ DESCRIPTION = Description(
                             no_state="Whether items are enabled is brought up to date only when their menu is opened."),
     effect=Effect(("Tools", "Page Info"), "the window about the page",
                   lambda running: any("Page Info" in title for title in running.titles())),
+    dialog=("Tools", "Page Info"),
     notes="""\
 Items have to be made before they can be read. A menu that has been opened once stays readable, and its items can be
 pressed, while it is closed; the program does not open menus itself, since they would flash up before the user. A

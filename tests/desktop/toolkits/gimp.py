@@ -38,9 +38,10 @@ DESCRIPTION = Description(
     stale=Conditional(("Edit", "Undo Select All"), "that was done last", select.allow, select.forbid),
     effect=Effect(("Image", "Duplicate"), "a window with the copy",
                   lambda running: any("Untitled" in title for title in running.titles())),
+    dialog=("Edit", "Preferences"),
     notes="""\
-Items, shortcuts, states and check marks come over the accessibility bus, if the variable GTK_MODULES has `gail:atk-
-bridge`, which the package libatk-adaptor sets at login. Items of the same name in one menu, in sections of their
-own, have the same path: View › Color Management › Black Point Compensation is there twice, and only the first can
-be pressed.""",
+Items, shortcuts, states and check marks come over the accessibility bus, if the variable GTK_MODULES has
+`gail:atk-bridge`, which the package libatk-adaptor sets at login. Items of the same name in one menu, in sections
+of their own, have the same path: View › Color Management › Black Point Compensation is there twice, and only the
+first can be pressed.""",
 )

@@ -36,6 +36,7 @@ DESCRIPTION = Description(
                             forbid=lambda running: running.press_keys("ctrl+z")),
     effect=Effect(("File", "Release"), "the compiled file is there",
                   lambda running: "linguist.qm" in running.files()),
+    dialog=("Help", "About Qt Linguist"),
     notes="""\
 As Qt 5: items, shortcuts, states and check marks come over the accessibility bus, when accessibility was on when
 the application was started. Names of objects that do not exist occur among its windows and are passed over.""",

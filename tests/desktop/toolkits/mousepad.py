@@ -32,9 +32,10 @@ DESCRIPTION = Description(
                             forbid=lambda running: running.press_keys("ctrl+Home")),
     effect=Effect(("Edit", "Duplicate Line / Selection"), "the line is there twice",
                   lambda running: running.text().count(TEXT) == 2),
+    dialog=("File", "Open..."),
     notes="""\
-Nothing has to be done: items and shortcuts come over the accessibility bus as soon as the window is there. There
-the items carry no check marks, as in all menus made from a menu model; those come from the actions that the
-application publishes on the session bus. Cut, Copy, Paste and Select All are disabled while the window has no
-keyboard focus, so menus are read before the palette takes it.""",
+Titles, states, check marks and presses go by the menu model and the actions that its window publishes on the
+session bus; shortcuts, which are not in the model, come over the accessibility bus, where the items in turn carry
+no check marks. Cut, Copy, Paste and Select All are disabled while the window has no keyboard focus, so menus are
+read before the palette takes it.""",
 )

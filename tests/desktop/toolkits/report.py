@@ -25,6 +25,7 @@ CHECKS = {
     "choice": ("Choice", "of several commands the chosen one is marked"),
     "disabled": ("Disabled", "a command is disabled and enabled with the state of the document"),
     "press": ("Press", "it does in the application what the menu does"),
+    "dialog": ("Dialog", "it opens by a command and closes by Escape, and the application goes on"),
     "stale": ("Stale", "a command that has been disabled or renamed since it was read is refused, and nothing happens"),
     "killed": ("Killed", "the application has been killed since: one line says so, exit status 1"),
 }

@@ -36,6 +36,7 @@ DESCRIPTION = Description(
                             forbid=lambda running: running.press_keys("Home")),
     effect=Effect(("Tools", "Word Count..."), "the dialog with the count",
                   lambda running: "Word Count" in running.titles()),
+    dialog=("Tools", "Options..."),
     notes="""\
 Two menu bars are on the accessibility bus, and a third description of the same menus on the session bus. Items and
 keys are those that the user sees, presses go to their actions on the session bus. Both tell what is enabled and

@@ -2,12 +2,8 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <poll.h>
 #include <string_view>
 #include <unistd.h>
-
-#include <sys/socket.h>
-#include <sys/un.h>
 
 namespace tovrel {
 namespace {
@@ -82,44 +78,6 @@ void FakeService::serve() {
     answerCalls(bus_.get(), answer_, isStopping_);
 }
 
-FakeListener::FakeListener(const std::filesystem::path& socket, FakeService::Answer answer)
-    : socket_(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)), answer_(std::move(answer)) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    socket.string().copy(static_cast<char*>(address.sun_path), sizeof address.sun_path - 1);
-    static_cast<void>(::bind(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address));
-    static_cast<void>(::listen(socket_, 1));
-    thread_ = std::thread([this] { serve(); });
-}
-
-FakeListener::~FakeListener() {
-    isStopping_ = true;
-    thread_.join();
-    close(socket_);
-}
-
-void FakeListener::serve() {
-    while (!isStopping_) {
-        pollfd waiting{.fd = socket_, .events = POLLIN, .revents = 0};
-        if (poll(&waiting, 1, static_cast<int>(shortWait.count() / 1000)) <= 0) {
-            continue;
-        }
-        const int client = accept4(socket_, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-        if (client == -1) {
-            continue;
-        }
-        sd_bus* bus = nullptr;
-        sd_bus_new(&bus);
-        sd_id128_t identifier{};
-        sd_id128_randomize(&identifier);
-        sd_bus_set_fd(bus, client, client);
-        sd_bus_set_server(bus, 1, identifier);
-        sd_bus_start(bus);
-        answerCalls(bus, answer_, isStopping_);
-        sd_bus_close_unref(bus);
-    }
-}
-
 FakeAccessibility::FakeAccessibility() {
     std::string pattern = (std::filesystem::temp_directory_path() / "tovrel-XXXXXX").string();
     folder_ = mkdtemp(pattern.data());
@@ -170,14 +128,6 @@ FakeApplication::FakeApplication(FakeAccessibility& accessibility, Nodes nodes, 
     : nodes_(std::move(nodes)), manners_(std::move(manners)) {
     service_ = std::make_unique<FakeService>(accessibility.address(), std::vector<std::string>(),
                                              [this](sd_bus_message* call) { answer(call); });
-    if (manners_.answersDirectly) {
-        const std::filesystem::path socket = accessibility.folder() / "direct";
-        manners_.ownAddress = "unix:path=" + socket.string();
-        listener_ = std::make_unique<FakeListener>(socket, [this](sd_bus_message* call) {
-            ++directCalls_;
-            answer(call);
-        });
-    }
     accessibility.add(service_->uniqueName());
 }
 
@@ -255,8 +205,6 @@ void FakeApplication::answerRead(sd_bus_message* call, std::size_t number) {
         sd_bus_message_read(call, "ss", &interface, &property);
         const bool isName = std::string_view(property) == "Name";
         sd_bus_reply_method_return(call, "v", "s", isName ? node.name.c_str() : manners_.toolkit.c_str());
-    } else if (member == "GetApplicationBusAddress" && !manners_.ownAddress.empty()) {
-        sd_bus_reply_method_return(call, "s", manners_.ownAddress.c_str());
     } else {
         // A real application may die of anything else.
         sd_bus_reply_method_errorf(call, SD_BUS_ERROR_UNKNOWN_METHOD, "Not for this reader");

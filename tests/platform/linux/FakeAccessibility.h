@@ -47,25 +47,6 @@ class FakeService {
     std::thread thread_;
 };
 
-/// A socket on which a thread takes calls of one client after the other, without a bus, until the object
-/// ends.
-class FakeListener {
-  public:
-    /// `answer` is called for every method call, from the thread.
-    FakeListener(const std::filesystem::path& socket, FakeService::Answer answer);
-    ~FakeListener();
-    FakeListener(const FakeListener&) = delete;
-    FakeListener& operator=(const FakeListener&) = delete;
-
-  private:
-    void serve();
-
-    int socket_ = -1;
-    FakeService::Answer answer_;
-    std::atomic<bool> isStopping_ = false;
-    std::thread thread_;
-};
-
 /// A message bus of its own with the session's object for accessibility and the registry of applications on
 /// it, and the environment of this process pointing there.
 class FakeAccessibility {
@@ -76,8 +57,6 @@ class FakeAccessibility {
     FakeAccessibility& operator=(const FakeAccessibility&) = delete;
 
     [[nodiscard]] const std::string& address() const { return daemon_->announced(); }
-    /// Exists as long as this.
-    [[nodiscard]] const std::filesystem::path& folder() const { return folder_; }
     void add(const std::string& uniqueName);
     std::atomic<bool> isEnabled = true;
 
@@ -115,8 +94,6 @@ class FakeApplication {
         std::size_t wrongTypesFrom = 3;     ///< The first object of those.
         bool rebuildsBeforePress = false;   ///< At the first press all objects have got new paths.
         bool answersPresses = true;         ///< Else as a program does that waits for its dialog.
-        std::string ownAddress;             ///< Where it says that it takes calls without the bus.
-        bool answersDirectly = false;       ///< It does so, at an address of this object's choice.
     };
     using Nodes = std::function<FakeNode(std::size_t number)>;
 
@@ -125,8 +102,6 @@ class FakeApplication {
     /// The names of the objects pressed so far.
     [[nodiscard]] std::vector<std::string> pressed();
     [[nodiscard]] std::size_t calls() const { return calls_; }
-    /// Those that came without the bus.
-    [[nodiscard]] std::size_t directCalls() const { return directCalls_; }
 
   private:
     void answer(sd_bus_message* call);
@@ -137,12 +112,10 @@ class FakeApplication {
     Nodes nodes_;
     Manners manners_;
     std::atomic<std::size_t> calls_ = 0;
-    std::atomic<std::size_t> directCalls_ = 0;
     std::size_t generation_ = 0;
     std::mutex mutex_;
     std::vector<std::string> pressed_;
     std::unique_ptr<FakeService> service_;
-    std::unique_ptr<FakeListener> listener_;
 };
 
 } // namespace tovrel

@@ -8,8 +8,6 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <sys/un.h>
 
 #include "platform/linux/AtspiNode.h"
 #include "platform/linux/FakeAccessibility.h"
@@ -138,46 +136,6 @@ TEST_F(LinuxAccessibilityTest, ReadsTheMenusOnceAndAnswersFromThat) {
     EXPECT_EQ(linux_.lastReport()->calls, application_->calls());
     EXPECT_NE(root_->element("AXMenuBar"), nullptr);
     EXPECT_EQ(linux_.lastReport()->calls, application_->calls()) << "read twice";
-}
-
-TEST_F(LinuxAccessibilityTest, ReadsDirectlyWhatTakesCallsWithoutTheBus) {
-    FakeApplication::Manners manners;
-    manners.answersDirectly = true;
-    start(smallEditor(), manners);
-    const auto bar = menuBar();
-    ASSERT_NE(bar, nullptr);
-    EXPECT_EQ(titles(*bar), (std::vector<std::string>{"File", "New", "Quit"}));
-    EXPECT_EQ(outcome(), MenuReadOutcome::completed);
-    EXPECT_EQ(linux_.lastReport()->calls, application_->calls());
-    // Role, states, name and children of the menu; those of two items with their keys, and a separator's
-    // role.
-    EXPECT_EQ(application_->directCalls(), 13U);
-    EXPECT_TRUE(children(*children(*bar).at(0)).at(1)->perform("AXPress"));
-}
-
-TEST_F(LinuxAccessibilityTest, WhereNobodyAnswersDirectlyItAsksOverTheBus) {
-    const std::string deaf = (accessibility_.folder() / "deaf").string();
-    const std::string trace = (accessibility_.folder() / "trace").string();
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    deaf.copy(static_cast<char*>(address.sun_path), sizeof address.sun_path - 1);
-    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    ASSERT_EQ(bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-    ASSERT_EQ(listen(socket, 1), 0);
-    const std::string program = "unixexec:path=/usr/bin/touch,argv1=" + trace;
-    for (const std::string& own :
-         {std::string("unix:path=/nonexistent"), "unix:path=" + deaf, program,
-          "unix:path=/nonexistent;" + program, std::string("nonsense"), std::string("unix:path=")}) {
-        FakeApplication::Manners manners;
-        manners.ownAddress = own;
-        start(smallEditor(), manners);
-        const auto bar = menuBar();
-        ASSERT_NE(bar, nullptr) << own;
-        EXPECT_EQ(titles(*bar), (std::vector<std::string>{"File", "New", "Quit"})) << own;
-        EXPECT_EQ(outcome(), MenuReadOutcome::completed) << own;
-    }
-    close(socket);
-    EXPECT_FALSE(std::filesystem::exists(trace)) << "an application had a program started";
 }
 
 TEST_F(LinuxAccessibilityTest, TrustNeedsTheBusAndTheSwitch) {
