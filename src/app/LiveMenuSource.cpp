@@ -88,6 +88,9 @@ std::optional<MenuReadShortfall> shortfallOf(const MenuReadReport& report,
         return MenuReadShortfall{name + " has more menu items than are read at once", isPartial};
     case MenuReadOutcome::applicationGone:
         return MenuReadShortfall{name + " quit while its menus were read", isPartial};
+    case MenuReadOutcome::menusUnfilled:
+        return MenuReadShortfall{name + " fills its menus only when they are opened: open each of them once",
+                                 false};
     case MenuReadOutcome::noAccessibilityBus:
         return MenuReadShortfall{"the accessibility bus cannot be reached", false};
     case MenuReadOutcome::noMenuBar:

@@ -107,6 +107,10 @@ MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windo
         AtspiMenuReading answered = readAtspiMenus(*connection, application.busName, application.root, title,
                                                    published, limits_, started);
         reading = {menuTreeOf(answered.tree), answered.report};
+        if (answered.tree.toolkit == AtspiToolkit::gecko &&
+            reading.report.outcome == MenuReadOutcome::completed && hasOnlyEmptyMenus(reading.tree)) {
+            reading.report.outcome = MenuReadOutcome::menusUnfilled;
+        }
         forgetIfAbandoned(*buses_.accessibility, reading.report.outcome);
         if (!reading.tree.empty() || isUnreachable(reading.report.outcome)) {
             break;

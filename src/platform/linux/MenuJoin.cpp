@@ -79,4 +79,12 @@ bool hasEmptyMenu(const MenuTree& tree) {
     return !tree.empty() && hasEmptyMenu(tree, 0);
 }
 
+bool hasOnlyEmptyMenus(const MenuTree& tree) {
+    const auto isEmptyMenu = [&](std::size_t entry) {
+        return tree[entry].isMenu && tree[entry].children.empty();
+    };
+    return !tree.empty() && !tree.front().children.empty() &&
+           std::all_of(tree.front().children.begin(), tree.front().children.end(), isEmptyMenu);
+}
+
 } // namespace tovrel

@@ -15,4 +15,7 @@ void joinMenus(MenuTree& tree, const MenuTree& other);
 /// Whether a menu of it has no entries.
 bool hasEmptyMenu(const MenuTree& tree);
 
+/// Whether it is made of menus none of which has entries.
+bool hasOnlyEmptyMenus(const MenuTree& tree);
+
 } // namespace tovrel

@@ -14,6 +14,7 @@ enum class MenuReadOutcome {
     treeTooLarge,       ///< It has more objects or more levels than one read takes.
     applicationGone,    ///< It left the bus meanwhile.
     noMenuBar,          ///< It shows no menu bar with anything in it.
+    menusUnfilled,      ///< It has menus, and will put something into them when they are opened (Gecko).
     notRegistered,      ///< No application of this process identifier publishes menus in a way that is known.
     noAccessibilityBus, ///< The bus cannot be reached or does not answer.
 };

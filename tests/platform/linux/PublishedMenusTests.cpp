@@ -432,6 +432,9 @@ TEST(MenuJoin, AddsWhatOnlyTheOtherSourceKnows) {
     other[3 + 3].isChecked = true;                      // the second Close
     tree[3].isChecked = false;
     EXPECT_TRUE(hasEmptyMenu(tree));
+    EXPECT_FALSE(hasOnlyEmptyMenus(tree));
+    EXPECT_TRUE(hasOnlyEmptyMenus(treeOf({{"File"}, {"Edit"}})));
+    EXPECT_FALSE(hasOnlyEmptyMenus(MenuTree()));
     joinMenus(tree, other);
     EXPECT_EQ(tree[2].shortcut, (MenuShortcut{Text("w"), 0}));
     EXPECT_EQ(tree[3].shortcut, std::nullopt);
