@@ -37,6 +37,11 @@ bool isHidden(const AtspiNode& node, const AtspiMenuTree& tree, bool visibilityI
     return tree.toolkit == AtspiToolkit::qt && !is(node, AtspiState::sensitive) && node.hasComponent == false;
 }
 
+/// Gecko fills a menu when it is opened, and a press of one within another menu does not open it.
+bool isUnfilled(const MenuNode& node, const AtspiMenuTree& tree) {
+    return tree.toolkit == AtspiToolkit::gecko && node.parent != 0 && node.isMenu && node.children.empty();
+}
+
 /// A container's own states are not read: it is as enabled as its menu. A disabled ancestor disables all.
 std::optional<bool> isEnabled(const AtspiNode& node, std::optional<bool> parentIsEnabled) {
     if (parentIsEnabled == false || !node.states) {
@@ -85,7 +90,8 @@ MenuTree menuTreeOf(const AtspiMenuTree& tree) {
                      std::back_inserter(children), [&](std::size_t child) {
                          const AtspiNode& node = tree.nodes[child];
                          return isPartOfMenu(node) && !isHidden(node, tree, visibilityIsTold) &&
-                                !(all[child].title.empty() && all[child].children.empty());
+                                !(all[child].title.empty() && all[child].children.empty()) &&
+                                !isUnfilled(all[child], tree);
                      });
     }
     return all;

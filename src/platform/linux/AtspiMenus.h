@@ -10,6 +10,7 @@ namespace tovrel {
 /// - A title is the name up to a TAB, without white space at its ends (some programs pad their names).
 /// - Left out of the children: separators, also those with a name (sections), tear-offs, hidden items, leaves
 ///   without a title (unused slots of lists of recent files), and whatever is no part of a menu.
+/// - Left out in Gecko is also a submenu that was never filled: nothing happens when it is pressed.
 /// - Hidden in GTK is what is not "visible", unless nothing is, because then the application does not tell
 ///   (LibreOffice); in Qt what is neither sensitive nor implements Component. Elsewhere nothing tells.
 /// - Enabled is what is sensitive below ancestors that all are: an item below a disabled menu would run

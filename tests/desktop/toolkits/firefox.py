@@ -71,6 +71,6 @@ DESCRIPTION = Description(
     notes="""\
 Items have to be made before they can be read. A menu that has been opened once stays readable, and its items can be
 pressed, while it is closed; the program does not open menus itself, since they would flash up before the user. A
-submenu that was never opened is listed as a command, whose press does nothing. The bar is there too while Firefox
+submenu that was never opened is left out, since a press of it would do nothing. The bar is there too while Firefox
 hides it.""",
 )

@@ -109,8 +109,10 @@ TEST(AtspiMenus, GeckoShowsWhatIsNotVisible) {
     Tree gecko(AtspiToolkit::gecko);
     const std::size_t view = gecko.add(0, AtspiRole::menu, "View", sensitive | visible, "<Alt>V;");
     gecko.add(view, AtspiRole::menuItem, "Actual Size", 0, "A;<Alt>V:Z:A;<Control>0");
+    gecko.add(view, AtspiRole::menu, "Sidebar", sensitive, "S;<Alt>V:S;");
+    gecko.add(0, AtspiRole::menu, "History", sensitive, "<Alt>S;");
     gecko.add(view, AtspiRole::radioMenuItem, "Basic Page Style", sensitive | checked);
-    EXPECT_EQ(gecko.shown(), "[View[Actual Size!,Basic Page Style*]]");
+    EXPECT_EQ(gecko.shown(), "[View[Actual Size!,Basic Page Style*],History]");
 }
 
 TEST(AtspiMenus, WhatWasNotReadIsUnknownOrLeftOut) {
