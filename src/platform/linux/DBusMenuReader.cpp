@@ -271,17 +271,7 @@ MenuReading readDBusMenuBar(DBusConnection& connection, const DBusMenuAddress& a
     BoundedCalls calls(connection, limits, started);
     Reader reader(calls, address);
     reader.read();
-    MenuReading reading;
-    reading.tree = reader.takeTree();
-    const auto complete = reading.tree.empty()  ? MenuReadOutcome::noMenuBar
-                          : reader.isTooLarge() ? MenuReadOutcome::treeTooLarge
-                                                : MenuReadOutcome::completed;
-    reading.report.outcome = calls.stopped().value_or(complete);
-    reading.report.nodes = reading.tree.size();
-    reading.report.calls = calls.calls();
-    reading.report.elapsed =
-        std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - started);
-    return reading;
+    return finishedReading(reader.takeTree(), reader.isTooLarge(), calls, started);
 }
 
 } // namespace tovrel

@@ -101,19 +101,8 @@ MenuReading readGtkMenuBar(DBusConnection& connection, const GtkMenuAddress& add
     // The application would else tell of every change from now on. Nobody waits for the answer.
     connection.send(callWithGroups(connection, address, "End", reader.started()));
 
-    MenuReading reading;
-    if (!calls.stopped()) {
-        reading.tree = reader.tree();
-    }
-    const auto complete = reading.tree.empty()  ? MenuReadOutcome::noMenuBar
-                          : reader.isTooLarge() ? MenuReadOutcome::treeTooLarge
-                                                : MenuReadOutcome::completed;
-    reading.report.outcome = calls.stopped().value_or(complete);
-    reading.report.nodes = reading.tree.size();
-    reading.report.calls = calls.calls();
-    reading.report.elapsed =
-        std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - started);
-    return reading;
+    MenuTree tree = calls.stopped() ? MenuTree() : reader.tree();
+    return finishedReading(std::move(tree), reader.isTooLarge(), calls, started);
 }
 
 } // namespace tovrel

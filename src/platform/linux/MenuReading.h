@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/BoundedCalls.h"
 #include "platform/linux/MenuReadReport.h"
 #include "platform/linux/MenuTree.h"
 
@@ -10,5 +11,8 @@ struct MenuReading {
     MenuTree tree;
     MenuReadReport report;
 };
+
+/// What the calls have come to that began at `started`. `isTooLarge`: the limits cut something off.
+MenuReading finishedReading(MenuTree tree, bool isTooLarge, const BoundedCalls& calls, SteadyTime started);
 
 } // namespace tovrel
