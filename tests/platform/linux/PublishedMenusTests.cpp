@@ -26,7 +26,7 @@ class FakeMenuService {
   public:
     using Fill = std::function<void(sd_bus_message* call, sd_bus_message* reply)>;
 
-    FakeMenuService(const FakeAccessibility& bus, std::vector<std::string> names,
+    FakeMenuService(const FakeAccessibility& bus, const std::vector<std::string>& names,
                     std::vector<std::pair<std::string, Fill>> answers)
         : answers_(std::move(answers)),
           service_(bus.address(), names, [this](sd_bus_message* call) { answer(call); }) {}
