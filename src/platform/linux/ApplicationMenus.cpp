@@ -30,11 +30,16 @@ MenuReading nothing() {
     return reading;
 }
 
-/// A dialog in front of the window has no menu bar of its own.
-std::optional<GtkMenuAddress> publishedMenu(const std::vector<X11Window>& windows) {
+const X11Window* frontOf(const std::vector<X11Window>& windows) {
+    return windows.empty() ? nullptr : &windows.front();
+}
+
+/// The window with a published menu bar; null when there is none. A dialog in front of it has none of its
+/// own.
+const X11Window* publisherOf(const std::vector<X11Window>& windows) {
     const auto window = std::find_if(windows.begin(), windows.end(),
                                      [](const X11Window& candidate) { return candidate.gtkMenus; });
-    return window == windows.end() ? std::nullopt : window->gtkMenus;
+    return window == windows.end() ? nullptr : &*window;
 }
 
 /// Late answers of an application that was given up would else be kept account of by the bus.
@@ -48,19 +53,24 @@ void forgetIfAbandoned(Bus& bus, MenuReadOutcome outcome) {
 } // namespace
 
 ApplicationMenus::ApplicationMenus(MenuBuses buses, Windows windows, const MenuReadLimits& limits,
+                                   std::shared_ptr<KnownAccelerators> accelerators,
                                    std::int32_t processIdentifier)
     : buses_(std::move(buses)), windows_(std::move(windows)), limits_(limits),
-      processIdentifier_(processIdentifier) {}
+      accelerators_(std::move(accelerators)), processIdentifier_(processIdentifier) {}
 
 MenuReading ApplicationMenus::read() {
     const SteadyTime started = std::chrono::steady_clock::now();
     const std::vector<X11Window> windows = this->windows();
-    const auto address = publishedMenu(windows);
-    MenuReading published = address ? readPublished(*address, started) : nothing();
+    const X11Window* publisher = publisherOf(windows);
+    MenuReading published = publisher != nullptr ? readPublished(*publisher->gtkMenus, started) : nothing();
     if (isUnreachable(published.report.outcome)) {
         return published;
     }
-    MenuReading reading = readAccessible(windows, published.tree, started);
+    const bool isWhole =
+        hasEntries(published) && accelerators_->addTo(published.tree, publisher->gtkMenus->busName, started);
+    MenuReading reading = isWhole ? nothing()
+                                  : readAccessible(publisher != nullptr ? publisher : frontOf(windows),
+                                                   published.tree, started);
     std::size_t calls = published.report.calls + reading.report.calls;
     if (hasEntries(published)) {
         reading = std::move(published);
@@ -82,21 +92,25 @@ MenuReading ApplicationMenus::read() {
 }
 
 bool ApplicationMenus::press(const MenuTree& tree, std::size_t node) {
+    const std::vector<X11Window> windows = this->windows();
+    if (!windows.empty() && windows.front().isModal) {
+        return false;
+    }
     const MenuItemSource& source = tree[node].source;
     if (std::holds_alternative<GtkAction>(source)) {
-        return pressPublished(tree, node);
+        return pressPublished(tree, node, windows);
     }
-    return std::holds_alternative<DBusMenuItem>(source) ? pressRegistered(tree, node)
-                                                        : pressAccessible(tree, node);
+    return std::holds_alternative<DBusMenuItem>(source) ? pressRegistered(tree, node, windows)
+                                                        : pressAccessible(tree, node, windows);
 }
 
-MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windows, MenuTree& published,
+MenuReading ApplicationMenus::readAccessible(const X11Window* window, MenuTree& published,
                                              SteadyTime started) {
     MenuReading reading;
     auto applications = buses_.accessibility->applications();
     reading.report.outcome =
         applications ? MenuReadOutcome::notRegistered : MenuReadOutcome::noAccessibilityBus;
-    const auto title = windows.empty() ? std::nullopt : std::optional(windows.front().title);
+    const auto title = window == nullptr ? std::nullopt : std::optional(window->title);
     // A process with two toolkits in it has two connections.
     for (const AtspiApplication& application :
          std::move(applications).value_or(std::vector<AtspiApplication>())) {
@@ -106,6 +120,9 @@ MenuReading ApplicationMenus::readAccessible(const std::vector<X11Window>& windo
         }
         AtspiMenuReading answered = readAtspiMenus(*connection, application.busName, application.root, title,
                                                    published, limits_, started);
+        if (answered.hasAddedAccelerators) {
+            accelerators_->learn(published, window->gtkMenus->busName, started);
+        }
         reading = {menuTreeOf(answered.tree), answered.report};
         if (answered.tree.toolkit == AtspiToolkit::gecko &&
             reading.report.outcome == MenuReadOutcome::completed && hasOnlyEmptyMenus(reading.tree)) {
@@ -151,7 +168,8 @@ std::vector<X11Window> ApplicationMenus::windows() const {
     return windows_ ? windows_(processIdentifier_) : std::vector<X11Window>();
 }
 
-bool ApplicationMenus::pressAccessible(const MenuTree& tree, std::size_t node) {
+bool ApplicationMenus::pressAccessible(const MenuTree& tree, std::size_t node,
+                                       const std::vector<X11Window>& windows) {
     DBusConnection* connection = buses_.accessibility->connection();
     if (connection == nullptr) {
         return false;
@@ -161,29 +179,33 @@ bool ApplicationMenus::pressAccessible(const MenuTree& tree, std::size_t node) {
         return result == PressResult::accepted;
     }
     MenuTree nothingPublished;
-    const MenuReading now = readAccessible(windows(), nothingPublished, std::chrono::steady_clock::now());
+    const MenuReading now =
+        readAccessible(frontOf(windows), nothingPublished, std::chrono::steady_clock::now());
     const auto found = counterpart(tree, node, now.tree);
     connection = buses_.accessibility->connection();
     return found && connection != nullptr &&
            pressItem(*connection, std::get<AtspiObject>(now.tree[*found].source)) == PressResult::accepted;
 }
 
-bool ApplicationMenus::pressPublished(const MenuTree& tree, std::size_t node) {
-    const auto address = publishedMenu(windows());
-    if (!address) {
+bool ApplicationMenus::pressPublished(const MenuTree& tree, std::size_t node,
+                                      const std::vector<X11Window>& windows) {
+    const X11Window* publisher = publisherOf(windows);
+    if (publisher == nullptr) {
         return false;
     }
-    const MenuReading now = readPublished(*address, std::chrono::steady_clock::now());
+    const GtkMenuAddress& address = *publisher->gtkMenus;
+    const MenuReading now = readPublished(address, std::chrono::steady_clock::now());
     const auto found = counterpart(tree, node, now.tree);
     DBusConnection* connection = buses_.session->connection();
     return found && connection != nullptr &&
-           pressItem(*connection, address->busName, std::get<GtkAction>(now.tree[*found].source)) ==
+           pressItem(*connection, address.busName, std::get<GtkAction>(now.tree[*found].source)) ==
                PressResult::accepted;
 }
 
-bool ApplicationMenus::pressRegistered(const MenuTree& tree, std::size_t node) {
+bool ApplicationMenus::pressRegistered(const MenuTree& tree, std::size_t node,
+                                       const std::vector<X11Window>& windows) {
     const SteadyTime started = std::chrono::steady_clock::now();
-    const auto address = registeredMenu(windows(), started);
+    const auto address = registeredMenu(windows, started);
     if (!address) {
         return false;
     }

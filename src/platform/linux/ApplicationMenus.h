@@ -9,6 +9,7 @@
 
 #include "platform/linux/AtspiBus.h"
 #include "platform/linux/DBusMenuReader.h"
+#include "platform/linux/KnownAccelerators.h"
 #include "platform/linux/MenuReadLimits.h"
 #include "platform/linux/MenuReading.h"
 #include "platform/linux/SessionBus.h"
@@ -26,12 +27,12 @@ struct MenuBuses {
 /// knows which source is taken for what.
 ///
 /// - What the front window publishes as org.gtk.Menus is its menu bar: all that the user sees there, with
-/// current
-///   states, at a hundredth of the calls that the accessibility bus takes, and pressed by its actions. That
-///   is so in GTK 4, in applications of GTK 3 that make their menus from a model, and in LibreOffice.
-/// - The accessibility bus adds what is not published: shortcuts in GTK 3, the current states in LibreOffice.
-/// Where
-///   nothing is published it is the source of everything: GTK 2, other applications of GTK 3, Qt, Gecko.
+///   current states, at a hundredth of the calls that the accessibility bus takes, and pressed by its
+///   actions. That is so in GTK 4, in applications of GTK 3 that make their menus from a model, and in
+///   LibreOffice.
+/// - The accessibility bus adds what is not published: the current states in LibreOffice, shortcuts in GTK 3,
+///   which are then kept for a while (see KnownAccelerators.h). Where nothing is published it is the source
+///   of everything: GTK 2, other applications of GTK 3, Qt, Gecko.
 /// - com.canonical.dbusmenu is asked only where the desktop runs the registrar of application menus, and only
 ///   when the others gave nothing or left menus without entries: those that are filled when they open.
 ///
@@ -41,8 +42,9 @@ class ApplicationMenus {
     /// The windows of a process, the front one first; empty where they are not known.
     using Windows = std::function<std::vector<X11Window>(std::int32_t processIdentifier)>;
 
+    /// `accelerators` is shared by all applications and never null.
     ApplicationMenus(MenuBuses buses, Windows windows, const MenuReadLimits& limits,
-                     std::int32_t processIdentifier);
+                     std::shared_ptr<KnownAccelerators> accelerators, std::int32_t processIdentifier);
 
     /// Reads everything anew, within the limits. The report is that of the source the menus are taken from,
     /// with the calls of all; where the tree is empty it says why.
@@ -52,24 +54,27 @@ class ApplicationMenus {
     /// read once more and the node with the same titles is pressed instead, if exactly as many nodes have
     /// these titles as before. Items that only a number or an action stands for are always looked up anew:
     /// the same one may mean something else by now.
+    ///
+    /// Refused while a modal window is in front, which keeps the user from the menu bar too: applications do
+    /// not expect commands then, and open their dialog a second time.
     bool press(const MenuTree& tree, std::size_t node);
 
   private:
-    /// Adds to what is published, or reads what is not.
-    MenuReading readAccessible(const std::vector<X11Window>& windows, MenuTree& published,
-                               SteadyTime started);
+    /// Adds to what is published in this window, or reads what is not.
+    MenuReading readAccessible(const X11Window* window, MenuTree& published, SteadyTime started);
     MenuReading readPublished(const GtkMenuAddress& address, SteadyTime started);
     MenuReading readRegistered(const DBusMenuAddress& address, SteadyTime started);
     std::optional<DBusMenuAddress> registeredMenu(const std::vector<X11Window>& windows, SteadyTime started);
     [[nodiscard]] std::vector<X11Window> windows() const;
 
-    bool pressAccessible(const MenuTree& tree, std::size_t node);
-    bool pressPublished(const MenuTree& tree, std::size_t node);
-    bool pressRegistered(const MenuTree& tree, std::size_t node);
+    bool pressAccessible(const MenuTree& tree, std::size_t node, const std::vector<X11Window>& windows);
+    bool pressPublished(const MenuTree& tree, std::size_t node, const std::vector<X11Window>& windows);
+    bool pressRegistered(const MenuTree& tree, std::size_t node, const std::vector<X11Window>& windows);
 
     MenuBuses buses_;
     Windows windows_;
     MenuReadLimits limits_;
+    std::shared_ptr<KnownAccelerators> accelerators_;
     std::int32_t processIdentifier_;
 };
 

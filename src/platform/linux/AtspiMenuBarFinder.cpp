@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <tuple>
 #include <unordered_set>
 #include <utility>
 
@@ -73,7 +74,7 @@ class Search {
     Search(AtspiCalls& calls, AtspiRootPanes rootPanes, bool& isTooLarge)
         : calls_(calls), rootPanes_(rootPanes), isTooLarge_(isTooLarge) {}
 
-    /// The application's windows, the front one first as far as states and title tell; empty when stopped.
+    /// The application's windows, the wanted one first as far as title and states tell; empty when stopped.
     std::vector<Window> windows(const std::string& root, const std::optional<Text>& title,
                                 AtspiToolkit& toolkit) {
         std::vector<Window> found;
@@ -95,13 +96,9 @@ class Search {
             return {};
         }
         const auto rank = [&](const Window& window) {
-            if (holds(window.states, AtspiState::active)) {
-                return 0;
-            }
-            if (title && window.name && Text(*window.name) == *title) {
-                return 1;
-            }
-            return window.role == AtspiRole::frame ? 2 : 3;
+            const bool hasTitle = title && window.name && Text(*window.name) == *title;
+            const bool isFrame = window.role == AtspiRole::frame;
+            return std::tuple(!hasTitle, !holds(window.states, AtspiState::active), !isFrame);
         };
         std::stable_sort(found.begin(), found.end(),
                          [&](const Window& left, const Window& right) { return rank(left) < rank(right); });

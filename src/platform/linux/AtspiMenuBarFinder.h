@@ -23,9 +23,10 @@ struct AtspiMenuBar {
 /// office. So it is good for reading only.
 enum class AtspiRootPanes { passedBy, entered };
 
-/// Finds the menu bar of the front window below the application object at `root`: of the window with the
-/// state "active", else of the one with this title, else of the first that has a bar with anything in it.
-/// Windows without such a bar, such as dialogs, give way to the next.
+/// Finds the menu bar of a window below the application object at `root`: of the one with this title, of
+/// several preferably the one with the state "active"; without such a title of the active one; else of the
+/// first that has a bar with anything in it. Windows without such a bar, such as dialogs, give way to the
+/// next.
 ///
 /// Each window is searched level by level, so that of two bars the one nearer to the window is taken, without
 /// entering objects that hold content instead of window parts.

@@ -182,6 +182,7 @@ AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& b
                          published.empty() ? AtspiRootPanes::passedBy : AtspiRootPanes::entered, isTooLarge);
     if (bar && !published.empty()) {
         (bar->isInRootPane ? replaceAtspiStates : addAtspiAccelerators)(calls, bar->children, published);
+        reading.hasAddedAccelerators = !bar->isInRootPane && !calls.stopped();
     } else if (bar) {
         readTree(calls, *bar, reading.tree, isTooLarge);
     }

@@ -13,6 +13,8 @@ namespace tovrel {
 struct AtspiMenuReading {
     AtspiMenuTree tree;
     MenuReadReport report;
+    /// All shortcuts that what is published lacked have been added to it.
+    bool hasAddedAccelerators = false;
 };
 
 /// Reads the menu bar of the front window of the application that owns `busName`, whose application object is

@@ -59,7 +59,8 @@ bool LinuxAccessibility::isTrusted() {
 
 std::shared_ptr<AccessibilityElement> LinuxAccessibility::applicationElement(std::int32_t processIdentifier) {
     return std::make_shared<ApplicationElement>(
-        std::make_shared<ApplicationMenus>(buses_, windows_, limits_, processIdentifier), report_);
+        std::make_shared<ApplicationMenus>(buses_, windows_, limits_, accelerators_, processIdentifier),
+        report_);
 }
 
 } // namespace tovrel

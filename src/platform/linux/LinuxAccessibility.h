@@ -33,6 +33,7 @@ class LinuxAccessibility : public Accessibility {
     MenuBuses buses_;
     ApplicationMenus::Windows windows_;
     MenuReadLimits limits_;
+    std::shared_ptr<KnownAccelerators> accelerators_ = std::make_shared<KnownAccelerators>();
     /// Shared with the root elements, which may outlive this object.
     std::shared_ptr<std::optional<MenuReadReport>> report_;
 };

@@ -202,7 +202,13 @@ X11Window X11Windows::describe(xcb_window_t window) {
     }
     described.applicationIdentifier = application.value_or("");
     described.gtkMenus = gtkMenusOf(window);
+    described.isModal = isModal(window);
     return described;
+}
+
+bool X11Windows::isModal(xcb_window_t window) {
+    const auto states = connection_.numbers(window, "_NET_WM_STATE");
+    return std::find(states.begin(), states.end(), connection_.atom("_NET_WM_STATE_MODAL")) != states.end();
 }
 
 std::optional<GtkMenuAddress> X11Windows::gtkMenusOf(xcb_window_t window) {

@@ -28,6 +28,8 @@ struct X11Window {
     std::string className;                         ///< Second part of WM_CLASS.
     std::string applicationIdentifier;             ///< _GTK_APPLICATION_ID, else _KDE_NET_WM_DESKTOP_FILE.
     std::optional<GtkMenuAddress> gtkMenus;        ///< Absent when it publishes no menu bar.
+    /// It keeps the user from the other windows of its application (_NET_WM_STATE_MODAL).
+    bool isModal = false;
 };
 
 /// A rectangle of an X screen, in physical pixels from the top left corner of the root window.
@@ -82,6 +84,7 @@ class X11Windows {
     [[nodiscard]] std::vector<xcb_window_t> topmostFirst();
     [[nodiscard]] std::vector<xcb_window_t> activeFirst();
     [[nodiscard]] std::optional<std::int32_t> processOf(xcb_window_t window);
+    [[nodiscard]] bool isModal(xcb_window_t window);
     [[nodiscard]] std::optional<GtkMenuAddress> gtkMenusOf(xcb_window_t window);
 
     std::optional<std::string> display_;

@@ -152,14 +152,14 @@ TEST_F(LinuxAccessibilityTest, TrustNeedsTheBusAndTheSwitch) {
     EXPECT_EQ(unreachable.lastReport()->outcome, MenuReadOutcome::noAccessibilityBus);
 }
 
-TEST_F(LinuxAccessibilityTest, TakesTheActiveWindowsBarElseTheTitledOnesAndNoneOfContent) {
-    // Windows 1 to 3: an active dialog without a bar, one window and the titled one; the bar of the last
-    // lies behind a filler, and ones in its document and in a root pane are not what the user sees.
+TEST_F(LinuxAccessibilityTest, TakesTheTitledWindowsBarElseTheActiveOnesAndNoneOfContent) {
+    // Windows 1 to 4: an active dialog without a bar, a window, an active one and the titled one; the bar of
+    // the last lies behind a filler, and ones in its document and in a root pane are not what the user sees.
     const auto nodes = [](std::size_t number) -> FakeNode {
         const std::map<std::size_t, FakeNode> known{
-            {0, {75, "fake", 0, "", {1, 2, 3}, true}},
+            {0, {75, "fake", 0, "", {1, 17, 2, 3}, true}},
             {1, {16, "Settings", bit(1), "", {}, true}},
-            {2, {role(AtspiRole::frame), "One", 0, "", {4}, true}},
+            {2, {role(AtspiRole::frame), "One", bit(1), "", {4}, true}},
             {3, {role(AtspiRole::frame), "Two", 0, "", {5, 6}, true}},
             {4, {role(AtspiRole::menuBar), "", 0, "", {10}, true}},
             {5, {role(AtspiRole::documentWeb), "", 0, "", {7}, true}},
@@ -174,6 +174,9 @@ TEST_F(LinuxAccessibilityTest, TakesTheActiveWindowsBarElseTheTitledOnesAndNoneO
             {14, {role(AtspiRole::menuBar), "", 0, "", {12}, true}},
             {15, {role(AtspiRole::menuBar), "", 0, "", {16}, true}},
             {16, menu("Of a root pane", {})},
+            {17, {role(AtspiRole::frame), "Behind", 0, "", {18}, true}},
+            {18, {role(AtspiRole::menuBar), "", 0, "", {19}, true}},
+            {19, menu("Of the one behind", {})},
         };
         return known.at(number);
     };
