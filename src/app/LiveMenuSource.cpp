@@ -89,8 +89,11 @@ std::optional<MenuReadShortfall> shortfallOf(const MenuReadReport& report,
     case MenuReadOutcome::applicationGone:
         return MenuReadShortfall{name + " quit while its menus were read", isPartial};
     case MenuReadOutcome::menusUnfilled:
-        return MenuReadShortfall{name + " fills its menus only when they are opened: open each of them once",
-                                 false};
+        return MenuReadShortfall{
+            name + " fills its menus only when they are opened: open each of them once, or, "
+                   "if the desktop's panel shows menus, set widget.gtk.global-menu.enabled "
+                   "in about:config",
+            false};
     case MenuReadOutcome::noAccessibilityBus:
         return MenuReadShortfall{"the accessibility bus cannot be reached", false};
     case MenuReadOutcome::noMenuBar:

@@ -1,30 +1,29 @@
 """A desktop with a registrar of application menus: the same commands, and nobody's menu bar changes because of us."""
 
 from gi.repository import GLib
+from harness import registrar
 from harness.bus_connection import BusConnection
 from harness.testing import DesktopTestCase, main
 
-REGISTRAR = "com.canonical.AppMenu.Registrar"
-
 
 class RegistrarTestCase(DesktopTestCase):
-    """Tests on a desktop whose session bus would start a registrar for whoever calls it. It stays, once started."""
+    """Tests on a desktop whose session bus would start a registrar for whoever calls it."""
 
     def setUp(self):
         super().setUp()
         self.bus = BusConnection(self.desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
         self.addCleanup(self.bus.close)
-        self.assertIn(REGISTRAR, self.ask_bus("ListActivatableNames", None))
+        self.assertIn(registrar.NAME, self.ask_bus("ListActivatableNames", None))
 
     def ask_bus(self, method, arguments):
         return self.bus.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", method,
                              arguments)[0]
 
     def registrar_runs(self):
-        return self.ask_bus("NameHasOwner", GLib.Variant("(s)", (REGISTRAR,)))
+        return self.ask_bus("NameHasOwner", GLib.Variant("(s)", (registrar.NAME,)))
 
     def start_registrar(self):
-        self.ask_bus("StartServiceByName", GLib.Variant("(su)", (REGISTRAR, 0)))
+        registrar.start_registrar(self.desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
 
     def commands(self, application):
         return self.tovrel.expect("commands", "--json", "--pid", application.pid).json

@@ -17,6 +17,11 @@ class BusConnection:
         return self._connection.call_sync(name, path, interface, method, arguments, None,
                                           Gio.DBusCallFlags.NONE, CALL_TIMEOUT_MS, None).unpack()
 
+    def send(self, name, path, interface, method):
+        """Makes a call without arguments whose answer is not waited for. It arrives before what is called next."""
+        self._connection.call(name, path, interface, method, None, None, Gio.DBusCallFlags.NONE, CALL_TIMEOUT_MS,
+                              None, None)
+
     def get(self, name, path, interface, prop):
         return self.call(name, path, "org.freedesktop.DBus.Properties", "Get",
                          GLib.Variant("(ss)", (interface, prop)))[0]

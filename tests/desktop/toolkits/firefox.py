@@ -24,10 +24,14 @@ ZOOMED = "110%, Reset zoom level"
 
 
 def command(directory):
+    return command_with(directory, PREFERENCES)
+
+
+def command_with(directory, preferences):
     profile = directory.parent / "profile"
     profile.mkdir()
     (profile / "user.js").write_text("".join(f"user_pref({json.dumps(name)}, {json.dumps(value)});\n"
-                                             for name, value in PREFERENCES.items()), encoding="utf-8")
+                                             for name, value in preferences.items()), encoding="utf-8")
     (profile / "xulstore.json").write_text(json.dumps(MENU_BAR_SHOWN), encoding="utf-8")
     page = directory / "page.html"
     page.write_text("<title>A page</title><p>the quick brown fox</p>\n", encoding="utf-8")
@@ -72,5 +76,10 @@ DESCRIPTION = Description(
 Items have to be made before they can be read. A menu that has been opened once stays readable, and its items can be
 pressed, while it is closed; the program does not open menus itself, since they would flash up before the user. A
 submenu that was never opened is left out, since a press of it would do nothing. The bar is there too while Firefox
-hides it.""",
+hides it.
+
+Where the desktop's panel shows menu bars (a registrar of application menus runs, and libdbusmenu-gtk3 is installed)
+and `widget.gtk.global-menu.enabled` is set in about:config, Firefox gives all its menus to the panel, with every
+shortcut, whether they were opened or not. What is enabled or checked is then told as of when the menu was made. The
+program never starts a registrar, since applications would hide their own menu bars.""",
 )
