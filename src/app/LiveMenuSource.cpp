@@ -52,9 +52,12 @@ std::string adviceOn(MenuObstacle obstacle, bool isRegistered, bool isEnabled) {
         return "; restart it without NO_AT_BRIDGE and GTK_A11Y in its environment, which keep it off the "
                "accessibility bus";
     case MenuObstacle::browserEngine:
-        return "; it is built on a browser engine that has to be started with --force-renderer-accessibility";
+        return "; it is built on a browser engine: if it has menus, they show when it is started with "
+               "--force-renderer-accessibility";
     case MenuObstacle::java:
-        return "; it runs on Java: install libatk-wrapper-java and restart it";
+        return "; it runs on Java: install libatk-wrapper-java-jni and start it with JAVA_TOOL_OPTIONS="
+               "\"-Xbootclasspath/a:/usr/share/java/java-atk-wrapper.jar "
+               "-Djavax.accessibility.assistive_technologies=org.GNOME.Accessibility.AtkWrapper\"";
     case MenuObstacle::gtk2WithoutBridge:
         return "; it uses GTK 2: install libatk-adaptor and log in again, or restart it with "
                "GTK_MODULES=gail:atk-bridge";

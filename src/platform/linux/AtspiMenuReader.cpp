@@ -112,6 +112,7 @@ class TreeReader {
             askNameAndStates(index);
             break;
         case AtspiRole::menuItem:
+        case AtspiRole::checkBox:
         case AtspiRole::checkMenuItem:
         case AtspiRole::radioMenuItem:
             // In GTK and Gecko what has a submenu is a menu; elsewhere only its children tell.

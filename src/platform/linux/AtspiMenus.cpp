@@ -18,6 +18,7 @@ bool isPartOfMenu(const AtspiNode& node) {
     case AtspiRole::menuBar:
     case AtspiRole::menu:
     case AtspiRole::menuItem:
+    case AtspiRole::checkBox:
     case AtspiRole::checkMenuItem:
     case AtspiRole::radioMenuItem:
     case AtspiRole::popupMenu:
@@ -54,8 +55,7 @@ std::optional<bool> isChecked(const AtspiNode& node) {
     if (is(node, AtspiState::checked)) {
         return true;
     }
-    const bool isCheckable = node.role == AtspiRole::checkMenuItem || node.role == AtspiRole::radioMenuItem;
-    return isCheckable && node.states ? std::optional(false) : std::nullopt;
+    return node.role && isCheckable(*node.role) && node.states ? std::optional(false) : std::nullopt;
 }
 
 } // namespace

@@ -57,6 +57,13 @@ enum class AtspiRole : std::uint32_t {
     listBox = 98,
 };
 
+/// Whether entries of this role can have a check mark. Swing gives its check boxes in menus the role of any
+/// other check box.
+inline bool isCheckable(AtspiRole role) {
+    return role == AtspiRole::checkMenuItem || role == AtspiRole::radioMenuItem ||
+           role == AtspiRole::checkBox;
+}
+
 /// The state bits the menu reader uses (bit i of word i/32 of org.a11y.atspi.Accessible.GetState).
 enum class AtspiState : std::uint8_t { active = 1, checked = 4, sensitive = 24, visible = 30 };
 

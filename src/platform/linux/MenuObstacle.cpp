@@ -57,10 +57,12 @@ MenuObstacle menuObstacleOf(std::int32_t processIdentifier, const fs::path& proc
     if (isOff && (isGtk2 || hasLibrary("/libgtk-3.so") || hasLibrary("/libgtk-4.so"))) {
         return MenuObstacle::switchedOff;
     }
-    if (isBrowserEngine(process)) {
+    const bool isTold =
+        contents(process / "cmdline").find("--force-renderer-accessibility") != std::string::npos;
+    if (isBrowserEngine(process) && !isTold) {
         return MenuObstacle::browserEngine;
     }
-    if (hasLibrary("/libjvm.so")) {
+    if (hasLibrary("/libjvm.so") && !hasLibrary("/libatk-wrapper.so")) {
         return MenuObstacle::java;
     }
     if (isGtk2 &&

@@ -12,7 +12,7 @@ enum class MenuObstacle {
     switchedOff,
     /// Chromium and what is built on it. It looks for the accessibility bus only when told to by an option.
     browserEngine,
-    /// Swing and its relatives reach the bus through a wrapper that has to be installed.
+    /// Swing and its relatives reach the bus through a wrapper that has to be installed and named to them.
     java,
     /// GTK 2 reaches the bus through modules that the environment has to name when the application starts.
     gtk2WithoutBridge,

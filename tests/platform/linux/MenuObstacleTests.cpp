@@ -44,6 +44,8 @@ TEST_F(MenuObstacleTest, OfWhatAProcessHasLoadedAndWasStartedWith) {
     EXPECT_EQ(obstacle(), MenuObstacle::none);
     write("maps", "7f00 r-xp /usr/lib/jvm/lib/server/libjvm.so\n");
     EXPECT_EQ(obstacle(), MenuObstacle::java);
+    write("maps", "7f00 r-xp /usr/lib/jvm/lib/server/libjvm.so\n7f10 r-xp /usr/lib/jni/libatk-wrapper.so\n");
+    EXPECT_EQ(obstacle(), MenuObstacle::none);
 }
 
 TEST_F(MenuObstacleTest, OfTheFilesAroundAProgram) {
@@ -53,6 +55,8 @@ TEST_F(MenuObstacleTest, OfTheFilesAroundAProgram) {
     EXPECT_EQ(obstacle(), MenuObstacle::sandbox);
     write("root/opt/editor/chrome_100_percent.pak", "");
     EXPECT_EQ(obstacle(), MenuObstacle::browserEngine) << "in a sandbox too this is what can be helped";
+    write("cmdline", "/opt/editor/editor\0--force-renderer-accessibility\0"sv);
+    EXPECT_EQ(obstacle(), MenuObstacle::sandbox);
 }
 
 } // namespace
