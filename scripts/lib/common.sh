@@ -12,7 +12,8 @@ test_packages=(clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev libgtes
     appmenu-registrar libatspi2.0-dev libxcb-damage0-dev libxcb-shm0-dev libxcb-res0-dev featherpad linguist-qt6
     gir1.2-gtk-3.0 gir1.2-gtk-4.0 xterm metacity xfwm4 x11-xkb-utils x11-xserver-utils shellcheck)
 # The large applications of the matrix of toolkits.
-heavy_packages=(libreoffice-writer libreoffice-gtk3 gimp libatk-adaptor firefox-esr libdbusmenu-gtk3-4)
+heavy_packages=(libreoffice-writer libreoffice-gtk3 gimp libatk-adaptor firefox-esr libdbusmenu-gtk3-4 default-jdk
+    libatk-wrapper-java-jni)
 
 heading() {
     printf '\n== %s\n' "$*"
