@@ -34,6 +34,13 @@ def applications():
             "600 items (generated, GTK 3)": generated(600)}
 
 
+def still_carets(home):
+    """Carets of applications in GTK 3 do not blink, which would never come to rest."""
+    settings = Path(home) / ".config" / "gtk-3.0" / "settings.ini"
+    settings.parent.mkdir(parents=True, exist_ok=True)
+    settings.write_text("[Settings]\ngtk-cursor-blink=false\n", encoding="utf-8")
+
+
 def generated(items):
     """How to start an application with a menu bar of so many items and nothing that moves."""
     return ["/usr/bin/python3", str(MANY_MENU_ITEMS), str(items)]

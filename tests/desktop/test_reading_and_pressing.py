@@ -86,6 +86,27 @@ class PressingTests(DesktopTestCase):
                              if window != application.window], f"the dialog {title}")
                 self.assertIn(title, self.desktop.windows.title(dialog[0]))
 
+    def test_a_dialog_that_keeps_the_user_from_the_menus_keeps_presses_off(self):
+        for editor in ("mousepad", "featherpad"):
+            with self.subTest(editor=editor):
+                application, _ = self.open_text(editor, TEXT)
+                source = ("--pid", application.pid)
+                command = self.best_command("open", *source)
+                self.tovrel.expect("press", *source, command)
+                self.wait_until(lambda: self.desktop.windows.active() not in (None, application.window) and
+                                len(self.windows_of(application)) == 2, "the dialog")
+                self.assert_fails_in_one_line(self.tovrel.run("press", *source, command))
+                # What had been pressed by mistake would be carried out before this is answered.
+                self.tovrel.expect("menus", *source)
+                self.assertEqual(len(self.windows_of(application)), 2)
+                self.desktop.windows.press_keys("Escape")
+                self.wait_until(lambda: self.desktop.windows.active() == application.window, "the dialog to close")
+                self.tovrel.expect("press", *source, command)
+                self.wait_until(lambda: len(self.windows_of(application)) == 2, "the dialog again")
+
+    def windows_of(self, application):
+        return self.desktop.windows.of_process(application.pid)
+
     def test_what_cannot_be_pressed_is_refused(self):
         application, file = self.open_text("featherpad", TEXT)
         source = ("--pid", application.pid)
