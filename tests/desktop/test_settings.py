@@ -71,6 +71,19 @@ class SettingsTests(PaletteTestCase):
         self.settings.close()
         self.assertIn("Select All", self.found("select all")[0])
 
+    def test_a_screen_reader_follows_the_highlighted_choice(self):
+        focus = self.desktop.witness.hear_focus()
+        self.start()
+        self.open_settings("Menu Filter")
+        self.settings.activate("Menu Item", "combo box")
+        self.settings.wait_for("Search", "text")
+        for choice in ("File", "File > New"):
+            self.settings.press("Down")
+            self.wait_until(lambda: focus.last() == choice, f"{choice} to be spoken")
+        self.settings.type("copy")
+        self.wait_until(lambda: focus.last() == "Search", "the field to be spoken")
+        self.settings.press("Escape")
+
     def test_an_application_is_left_alone_and_another_chosen(self):
         self.start()
         self.open_settings("Apps")

@@ -11,26 +11,11 @@ FocusScope {
     implicitHeight: 460
     focus: true
 
-    // A screen reader is led to the highlighted row when it moves, although the keyboard focus never goes there,
-    // and back to the field when something is typed.
-    property bool hasTyped: false
-    property bool isRowSpoken: false
+    SpokenRow {
+        id: spoken
 
-    // Once everything that one key changes has changed.
-    Timer {
-        id: speak
-
-        interval: 0
-        onTriggered: {
-            if (!view.hasTyped && list.currentItem) {
-                view.isRowSpoken = true;
-                view.palette.moveScreenReaderTo(list.currentItem);
-            } else if (view.isRowSpoken) {
-                view.isRowSpoken = false;
-                view.palette.moveScreenReaderTo(field.textInput);
-            }
-            view.hasTyped = false;
-        }
+        rows: list
+        input: field.textInput
     }
 
     Connections {
@@ -41,13 +26,12 @@ FocusScope {
         }
         function onSelectedIndexChanged() {
             if (view.palette.selectedIndex !== list.currentIndex)
-                speak.start();
+                spoken.rowMoved();
             list.highlightRow(view.palette.selectedIndex);
         }
         function onQueryChanged() {
             list.positionViewAtBeginning();
-            view.hasTyped = true;
-            speak.start();
+            spoken.typed();
         }
     }
 

@@ -1,6 +1,5 @@
 #include "PaletteViewAdapter.h"
 
-#include <QAccessible>
 #include <QMetaObject>
 #include <utility>
 
@@ -82,13 +81,6 @@ void PaletteViewAdapter::executeRow(int row) {
 
 void PaletteViewAdapter::dismiss() {
     context_.onDismiss();
-}
-
-void PaletteViewAdapter::moveScreenReaderTo(QQuickItem* item) {
-    if (QAccessible::isActive()) {
-        QAccessibleEvent event(item, QAccessible::Focus);
-        QAccessible::updateAccessibility(&event);
-    }
 }
 
 } // namespace tovrel

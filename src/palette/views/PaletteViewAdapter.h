@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <QQmlEngine>
-#include <QQuickItem>
 #include <QString>
 #include <QUrl>
 #include <functional>
@@ -50,8 +49,6 @@ class PaletteViewAdapter : public QObject {
     /// Highlights the row and runs its command. A row that is not there is ignored.
     Q_INVOKABLE void executeRow(int row);
     Q_INVOKABLE void dismiss();
-    /// Lets a screen reader speak of the item as if it had the keyboard focus.
-    Q_INVOKABLE void moveScreenReaderTo(QQuickItem* item);
 
   Q_SIGNALS:
     void queryChanged();

@@ -47,6 +47,12 @@ FocusScope {
         source: dialog.rules.applications
         filter: search.text
     }
+    SpokenRow {
+        id: spoken
+
+        rows: list
+        input: search.textInput
+    }
     SoftShadow {
         anchors.fill: box
         radius: box.radius
@@ -88,6 +94,7 @@ FocusScope {
                 search.text = text;
                 list.currentIndex = 0;
                 list.positionViewAtBeginning();
+                spoken.typed();
             }
         }
         Text {
@@ -123,6 +130,7 @@ FocusScope {
             onCurrentIndexChanged: {
                 if (list.currentIndex >= 0)
                     list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+                spoken.rowMoved();
             }
 
             Accessible.role: Accessible.List

@@ -78,6 +78,12 @@ FocusScope {
         source: popup.picker.choices
         filter: filter.text
     }
+    SpokenRow {
+        id: spoken
+
+        rows: list
+        input: filter.textInput
+    }
     SoftShadow {
         anchors.fill: box
         radius: box.radius
@@ -113,6 +119,7 @@ FocusScope {
                 filter.text = text;
                 list.currentIndex = 0;
                 list.positionViewAtBeginning();
+                spoken.typed();
             }
         }
         Text {
@@ -148,6 +155,7 @@ FocusScope {
             onCurrentIndexChanged: {
                 if (list.currentIndex >= 0)
                     list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+                spoken.rowMoved();
             }
 
             Accessible.role: Accessible.List

@@ -22,6 +22,17 @@ class BusConnection:
         self._connection.call(name, path, interface, method, None, None, Gio.DBusCallFlags.NONE, CALL_TIMEOUT_MS,
                               None, None)
 
+    def listen(self, interface, member, first_argument, heard):
+        """Calls `heard` with the sender and the path of each such signal, whoever sends it, when `hear` is called."""
+        self._connection.signal_subscribe(None, interface, member, None, first_argument, Gio.DBusSignalFlags.NONE,
+                                          lambda _connection, sender, path, *_: heard(sender, path))
+
+    @staticmethod
+    def hear():
+        """Hands out the signals that have arrived."""
+        while GLib.MainContext.default().iteration(False):
+            pass
+
     def get(self, name, path, interface, prop):
         return self.call(name, path, "org.freedesktop.DBus.Properties", "Get",
                          GLib.Variant("(ss)", (interface, prop)))[0]

@@ -7,6 +7,7 @@ from .bus_connection import BusConnection
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 APPLICATIONS = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
+REGISTRY = ("org.a11y.atspi.Registry", "/org/a11y/atspi/registry")
 NULL_OBJECT = "/org/a11y/atspi/null"  # What Qt answers for a child that it cannot tell.
 ON_SCREEN = 0  # The coordinates that extents are asked in.
 STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "sensitive": 24, "showing": 25, "visible": 30}
@@ -29,6 +30,10 @@ class Witness:
                 return Node(self._bus, name, path)
         return None
 
+    def hear_focus(self):
+        """From now on, what a screen reader hears of the focus."""
+        return FocusNews(self._bus)
+
     def close(self):
         self._bus.close()
 
@@ -39,6 +44,28 @@ class Witness:
                                   "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))[0]
         except GLib.Error:
             return None
+
+
+class FocusNews:
+    """The nodes that applications say have got the focus."""
+
+    def __init__(self, bus):
+        self._bus = bus
+        self._last = None
+        bus.call(REGISTRY[0], REGISTRY[1], REGISTRY[0], "RegisterEvent",
+                 GLib.Variant("(s)", ("object:state-changed:focused",)))
+        bus.listen("org.a11y.atspi.Event.Object", "StateChanged", "focused", self._note)
+
+    def last(self):
+        """The name of the last one; None when it is gone by now, or when there was none."""
+        self._bus.hear()
+        try:
+            return self._last and self._last.name
+        except GLib.Error:
+            return None
+
+    def _note(self, name, path):
+        self._last = Node(self._bus, name, path)
 
 
 class Node:
