@@ -1,7 +1,9 @@
 // Reads the menu bar of a running application again and again in one process, as the resident program does
-// over a long time, and prints how the reads ended and what this process keeps in memory.
+// over a long time, and prints how the reads ended, how long they took and what this process keeps in memory.
 
+#include <algorithm>
 #include <charconv>
+#include <chrono>
 #include <cstdint>
 #include <fstream>
 #include <iostream>
@@ -9,6 +11,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/linux/LinuxAccessibility.h"
 
@@ -52,14 +55,19 @@ int main(int argc, char** argv) {
                                      [&](std::int32_t process) { return windows.windowsOf(process); });
     std::map<MenuReadOutcome, int> outcomes;
     long memoryBefore = 0;
+    std::vector<std::chrono::microseconds> times;
     for (int read = 0; read < reads; ++read) {
         if (read == warmUp) {
             memoryBefore = privateMemory();
         }
         (void)accessibility.applicationElement(processIdentifier)->element("AXMenuBar");
-        ++outcomes[accessibility.lastReport().value().outcome];
+        const MenuReadReport report = accessibility.lastReport().value();
+        ++outcomes[report.outcome];
+        times.push_back(report.elapsed);
     }
-    std::cout << reads << " reads, " << outcomes[MenuReadOutcome::completed] << " of everything; "
+    std::nth_element(times.begin(), times.begin() + reads / 2, times.end());
+    std::cout << reads << " reads, " << outcomes[MenuReadOutcome::completed] << " of everything; median "
+              << std::chrono::duration<double, std::milli>(times[times.size() / 2]).count() << " ms; "
               << accessibility.lastReport()->nodes << " objects at last; own memory " << memoryBefore
               << " kB, then " << privateMemory() << " kB\n";
     return 0;
