@@ -4,26 +4,10 @@
 #include <cstring>
 #include <poll.h>
 
+#include "platform/linux/X11Properties.h"
 #include "platform/linux/XcbOwned.h"
 
 namespace tovrel {
-namespace {
-
-/// In units of four bytes, as the protocol counts.
-constexpr std::uint32_t longestProperty = 16 * 1024;
-
-XcbOwned<xcb_get_property_reply_t> property(xcb_connection_t* connection, xcb_window_t window,
-                                            xcb_atom_t name, std::uint8_t format) {
-    xcb_generic_error_t* error = nullptr;
-    const auto cookie =
-        xcb_get_property(connection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, longestProperty);
-    XcbOwned<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, cookie, &error));
-    const XcbOwned<xcb_generic_error_t> owned(error); // The window may be gone by now.
-    return reply && reply->format == format ? std::move(reply) : nullptr;
-}
-
-} // namespace
-
 X11Connection::X11Connection(const char* display) {
     int screen = 0;
     connection_.reset(xcb_connect(display, &screen));
@@ -58,21 +42,11 @@ xcb_atom_t X11Connection::atom(const char* name) {
 }
 
 std::optional<std::string> X11Connection::bytes(xcb_window_t window, const char* name) {
-    const auto reply = isOpen() ? property(connection_.get(), window, atom(name), 8) : nullptr;
-    if (!reply) {
-        return std::nullopt;
-    }
-    const auto length = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
-    return std::string(static_cast<const char*>(xcb_get_property_value(reply.get())), length);
+    return X11Properties(*this, window, {name}).bytes(name);
 }
 
 std::vector<std::uint32_t> X11Connection::numbers(xcb_window_t window, const char* name) {
-    const auto reply = isOpen() ? property(connection_.get(), window, atom(name), 32) : nullptr;
-    if (!reply) {
-        return {};
-    }
-    const auto* values = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
-    return {values, values + xcb_get_property_value_length(reply.get()) / 4};
+    return X11Properties(*this, window, {name}).numbers(name);
 }
 
 void X11Connection::watchRootProperties(bool isWanted) {

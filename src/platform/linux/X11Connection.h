@@ -34,10 +34,8 @@ class X11Connection {
     /// XCB_ATOM_NONE without a server.
     xcb_atom_t atom(const char* name);
 
-    /// The bytes of a property of 8-bit items, whatever its type says; absent when the window lacks it or is
-    /// gone. At most 64 KiB are read.
+    /// One property, as X11Properties reads it.
     [[nodiscard]] std::optional<std::string> bytes(xcb_window_t window, const char* property);
-    /// The values of a property of 32-bit items, such as window identifiers and numbers. At most 16,384.
     [[nodiscard]] std::vector<std::uint32_t> numbers(xcb_window_t window, const char* property);
 
     /// Whether changes of the root window's properties come as events from now on. They pile up unless

@@ -8,6 +8,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/linux/X11Properties.h"
 #include "platform/linux/XcbOwned.h"
 
 namespace tovrel {
@@ -32,6 +33,24 @@ std::pair<std::string, std::string> classParts(const std::string& property) {
         return {property, ""};
     }
     return {property.substr(0, end), property.substr(end + 1).c_str()};
+}
+
+std::optional<std::int32_t> processIn(const X11Properties& properties) {
+    const auto process = properties.numbers("_NET_WM_PID");
+    return !process.empty() && isThisMachine(properties.bytes("WM_CLIENT_MACHINE"))
+               ? std::optional(static_cast<std::int32_t>(process.front()))
+               : std::nullopt;
+}
+
+std::optional<GtkMenuAddress> gtkMenusIn(const X11Properties& properties) {
+    auto menuBar = properties.bytes("_GTK_MENUBAR_OBJECT_PATH");
+    auto busName = properties.bytes("_GTK_UNIQUE_BUS_NAME");
+    if (!menuBar || !busName) {
+        return std::nullopt;
+    }
+    return GtkMenuAddress{std::move(*busName), std::move(*menuBar),
+                          properties.bytes("_GTK_APPLICATION_OBJECT_PATH").value_or(""),
+                          properties.bytes("_GTK_WINDOW_OBJECT_PATH").value_or("")};
 }
 
 } // namespace
@@ -179,47 +198,35 @@ std::optional<std::string> X11Windows::accessibilityBusAddress() {
 }
 
 std::optional<std::int32_t> X11Windows::processOf(xcb_window_t window) {
-    const auto process = connection_.numbers(window, "_NET_WM_PID");
-    return !process.empty() && isThisMachine(connection_.bytes(window, "WM_CLIENT_MACHINE"))
-               ? std::optional(static_cast<std::int32_t>(process.front()))
-               : std::nullopt;
+    return processIn(X11Properties(connection_, window, {"_NET_WM_PID", "WM_CLIENT_MACHINE"}));
 }
 
 X11Window X11Windows::describe(xcb_window_t window) {
+    const X11Properties properties(connection_, window,
+                                   {"_NET_WM_PID", "WM_CLIENT_MACHINE", "_NET_WM_NAME", "WM_NAME", "WM_CLASS",
+                                    "_GTK_APPLICATION_ID", "_KDE_NET_WM_DESKTOP_FILE", "_NET_WM_STATE",
+                                    "_GTK_MENUBAR_OBJECT_PATH", "_GTK_UNIQUE_BUS_NAME",
+                                    "_GTK_APPLICATION_OBJECT_PATH", "_GTK_WINDOW_OBJECT_PATH"});
     X11Window described;
     described.identifier = window;
-    described.processIdentifier = processOf(window);
-    auto title = connection_.bytes(window, "_NET_WM_NAME");
+    described.processIdentifier = processIn(properties);
+    auto title = properties.bytes("_NET_WM_NAME");
     if (!title) {
-        title = connection_.bytes(window, "WM_NAME");
+        title = properties.bytes("WM_NAME");
     }
     described.title = Text(title.value_or(""));
     std::tie(described.instanceName, described.className) =
-        classParts(connection_.bytes(window, "WM_CLASS").value_or(""));
-    auto application = connection_.bytes(window, "_GTK_APPLICATION_ID");
+        classParts(properties.bytes("WM_CLASS").value_or(""));
+    auto application = properties.bytes("_GTK_APPLICATION_ID");
     if (!application) {
-        application = connection_.bytes(window, "_KDE_NET_WM_DESKTOP_FILE");
+        application = properties.bytes("_KDE_NET_WM_DESKTOP_FILE");
     }
     described.applicationIdentifier = application.value_or("");
-    described.gtkMenus = gtkMenusOf(window);
-    described.isModal = isModal(window);
+    described.gtkMenus = gtkMenusIn(properties);
+    const auto states = properties.numbers("_NET_WM_STATE");
+    described.isModal =
+        std::find(states.begin(), states.end(), connection_.atom("_NET_WM_STATE_MODAL")) != states.end();
     return described;
-}
-
-bool X11Windows::isModal(xcb_window_t window) {
-    const auto states = connection_.numbers(window, "_NET_WM_STATE");
-    return std::find(states.begin(), states.end(), connection_.atom("_NET_WM_STATE_MODAL")) != states.end();
-}
-
-std::optional<GtkMenuAddress> X11Windows::gtkMenusOf(xcb_window_t window) {
-    auto menuBar = connection_.bytes(window, "_GTK_MENUBAR_OBJECT_PATH");
-    auto busName = connection_.bytes(window, "_GTK_UNIQUE_BUS_NAME");
-    if (!menuBar || !busName) {
-        return std::nullopt;
-    }
-    return GtkMenuAddress{std::move(*busName), std::move(*menuBar),
-                          connection_.bytes(window, "_GTK_APPLICATION_OBJECT_PATH").value_or(""),
-                          connection_.bytes(window, "_GTK_WINDOW_OBJECT_PATH").value_or("")};
 }
 
 } // namespace tovrel

@@ -84,8 +84,6 @@ class X11Windows {
     [[nodiscard]] std::vector<xcb_window_t> topmostFirst();
     [[nodiscard]] std::vector<xcb_window_t> activeFirst();
     [[nodiscard]] std::optional<std::int32_t> processOf(xcb_window_t window);
-    [[nodiscard]] bool isModal(xcb_window_t window);
-    [[nodiscard]] std::optional<GtkMenuAddress> gtkMenusOf(xcb_window_t window);
 
     std::optional<std::string> display_;
     X11Connection connection_;

@@ -1,10 +1,11 @@
-"""Java with Swing, by a sample of ours."""
+"""Java with Swing, by a sample of ours that has the menus of the one in GTK 3."""
 
+import dataclasses
 from pathlib import Path
 
-from .description import Conditional, Description, Effect, Known, Toggle
+from . import gtk3
+from .description import Known, Toggle
 
-TEXT = "the quick brown fox\n"
 # As the program advises. Debian's own switch, in accessibility.properties, does not find the wrapper.
 WRAPPER = ("-Xbootclasspath/a:/usr/share/java/java-atk-wrapper.jar "
            "-Djavax.accessibility.assistive_technologies=org.GNOME.Accessibility.AtkWrapper")
@@ -12,29 +13,25 @@ WRAPPER = ("-Xbootclasspath/a:/usr/share/java/java-atk-wrapper.jar "
 
 def command(directory):
     file = directory / "swing.txt"
-    file.write_text(TEXT, encoding="utf-8")
+    file.write_text(gtk3.TEXT, encoding="utf-8")
     return ["java", Path(__file__).with_name("SwingSample.java"), file]
 
 
-DESCRIPTION = Description(
+DESCRIPTION = dataclasses.replace(
+    gtk3.DESCRIPTION,
     name="Swing sample",
     toolkit="Java",
     package="openjdk-17-jre",
     more_packages=("libatk-wrapper-java-jni",),
     environment={"JAVA_TOOL_OPTIONS": WRAPPER},
     command=command,
-    menus=("File", "Edit", "View"),
     known=(Known("open", ("File", "Open..."), None,
                  no_shortcut="Only mnemonics are published, not the keys of items."),),
     toggle=Toggle(("View", "Status Bar"), lambda running: running.find("label", "Ready") is not None),
-    conditional=Conditional(("File", "Save"), "the document has been changed",
-                            allow=lambda running: running.type_text("x"),
-                            forbid=lambda running: running.press_keys("ctrl+s")),
-    effect=Effect(("Edit", "Upper Case"), "the text in capitals", lambda running: running.text() == TEXT.upper()),
-    dialog=("File", "Open..."),
     notes="""\
 A sample of our own. Java reaches the accessibility bus through a wrapper (libatk-wrapper-java-jni), which has to be
 named when an application is started: `JAVA_TOOL_OPTIONS="-Xbootclasspath/a:/usr/share/java/java-atk-wrapper.jar
 -Djavax.accessibility.assistive_technologies=org.GNOME.Accessibility.AtkWrapper"`. The editor jEdit was tried by hand: its
-menus are read in some 160 ms and can be pressed; the keys in them are its own drawing, which nobody else can read.""",
+menus are read in some 160 ms and can be pressed; the keys in them are its own drawing, which nobody else can read. Its
+dialogs do not say that they are modal, so that commands reach the window behind them.""",
 )

@@ -151,7 +151,7 @@ void FakeApplication::answer(sd_bus_message* call) {
     if (before >= manners_.hangsAfter) {
         return;
     }
-    std::this_thread::sleep_for(manners_.delay);
+    std::this_thread::sleep_for(manners_.delay); // It is as slow as that; nothing is waited for here.
     const std::string asked = sd_bus_message_get_path(call);
     const std::size_t underscore = asked.rfind('_');
     const std::size_t number = underscore == std::string::npos ? 0 : std::stoul(asked.substr(underscore + 1));
