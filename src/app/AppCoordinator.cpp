@@ -41,9 +41,7 @@ AppCoordinator::AppCoordinator(Platform platform)
       accessibilityPermissionService_(platform_.accessibility),
       frontmostAppMonitor_(platform_.workspace, FrontmostAppResolver{platform_.ownBundleIdentifier}),
       menuScanner_(platform_.accessibility, platform_.textServices),
-      commandExecutor_([&runner = platform_.processRunner](
-                           const CommandProcessRequest& request) { return runner.run(request); },
-                       platform_.openURL, platform_.fileExists),
+      commandExecutor_(platform_.processRunner, platform_.mainQueue, platform_.openURL, platform_.fileExists),
       commandHistoryStore_(platform_.preferences, storage_keys::commandHistory, platform_.textServices),
       customCommandStore_(platform_.preferences, storage_keys::customCommands),
       rulesStore_(platform_.preferences, platform_.textServices),
@@ -193,7 +191,7 @@ std::vector<ScannedMenuItem> AppCoordinator::menuItems(const RunningApplication&
 void AppCoordinator::executeCustom(const Command& command, const CustomCommand& custom) {
     if (confirmCustomCommand(custom)) {
         // The history counts that it was used, not that it succeeded.
-        static_cast<void>(commandExecutor_.execute(custom));
+        commandExecutor_.execute(custom, [](const CommandExecutionResult&) {});
         commandHistoryStore_.recordUse(command.id, platform_.now());
     }
     paletteWindowController().close();

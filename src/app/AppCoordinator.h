@@ -87,7 +87,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
 
     /// Runs a chosen command and closes the palette. A menu item is pressed 200 ms later, when its
     /// application is in front again; a custom command is confirmed first, unless it only opens something,
-    /// and waited for.
+    /// and then goes on by itself: any number may run at once, and this program's end is not theirs.
     void execute(const Command& command);
 
     [[nodiscard]] bool isPaletteVisible() const {

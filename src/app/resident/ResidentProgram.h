@@ -83,6 +83,7 @@ class ResidentProgram {
     DBusService service_;
     EventSourceWatch activationEvents_;
     EventSourceWatch hotKeyEvents_;
+    EventSourceWatch processEnds_;
 };
 
 } // namespace tovrel
