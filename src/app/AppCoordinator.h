@@ -29,6 +29,7 @@
 #include "stores/CommandHistoryStore.h"
 #include "stores/CustomCommandStore.h"
 #include "stores/FirstLaunchOnboardingStore.h"
+#include "stores/NotificationSettingsStore.h"
 #include "stores/PaletteSettingsStore.h"
 #include "stores/RulesStore.h"
 #include "support/LocalizedString.h"
@@ -87,7 +88,8 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
 
     /// Runs a chosen command and closes the palette. A menu item is pressed 200 ms later, when its
     /// application is in front again; a custom command is confirmed first, unless it only opens something,
-    /// and then goes on by itself: any number may run at once, and this program's end is not theirs.
+    /// and then goes on by itself: any number may run at once, and this program's end is not theirs. One that
+    /// fails is told by a notification, unless the user wants none.
     void execute(const Command& command);
 
     [[nodiscard]] bool isPaletteVisible() const {
@@ -122,6 +124,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     void clearTarget();
     [[nodiscard]] std::vector<ScannedMenuItem> menuItems(const RunningApplication& application);
     void executeCustom(const Command& command, const CustomCommand& custom);
+    void tellOfFailure(const Text& title, const CommandExecutionResult& result);
     void executeMenu(const Command& command, const MenuAction& action);
     [[nodiscard]] bool confirmCustomCommand(const CustomCommand& command);
     void addStatusItem();
@@ -144,6 +147,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     RulesStore rulesStore_;
     PaletteSettingsStore paletteSettingsStore_;
     FirstLaunchOnboardingStore firstLaunchOnboardingStore_;
+    NotificationSettingsStore notificationSettingsStore_;
     std::unique_ptr<StatusItem> statusItem_;
     std::shared_ptr<RunningApplication> currentApplication_;
     std::vector<ScannedMenuItem> currentMenuItems_;
