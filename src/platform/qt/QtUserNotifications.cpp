@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QStringList>
 #include <QVariantMap>
+#include <memory>
 
 #include "palette/views/QtText.h"
 
@@ -47,7 +48,8 @@ void QtUserNotifications::show(const Text& title, const Text& body) {
     // Markup is a matter of the body alone, and each server says for itself whether it reads any.
     const QDBusPendingCall question =
         QDBusConnection::sessionBus().asyncCall(callOf(QStringLiteral("GetCapabilities")), patience);
-    auto* call = new QDBusPendingCallWatcher(question, &pendingCalls_);
+    // Its parent becomes its owner.
+    auto* call = std::make_unique<QDBusPendingCallWatcher>(question, &pendingCalls_).release();
     QObject::connect(call, &QDBusPendingCallWatcher::finished, &pendingCalls_,
                      [call, title = qtString(title), body = qtString(body)] {
                          const QDBusPendingReply<QStringList> reply = *call;
