@@ -41,7 +41,7 @@ class NoMoreDescriptors {
 class PosixProcessRunnerTest : public testing::Test {
   protected:
     PosixProcessRunnerTest() { loop_.watch(*runner_); }
-    ~PosixProcessRunnerTest() override {
+    void TearDown() override {
         EXPECT_TRUE(waitpid(-1, nullptr, WNOHANG) < 0 && errno == ECHILD) << "a process was left";
     }
 
@@ -81,6 +81,7 @@ TEST_F(PosixProcessRunnerTest, AnswersHowTheProgramEnded) {
     }
     EXPECT_EQ(run({"/bin/sh", {Text(std::string("a\0b", 3))}}),
               ProcessOutcome(LaunchFailure{"/bin/sh", EINVAL}));
+    EXPECT_GE(loop_.wakeUps(), 4) << "ends are events";
 }
 
 TEST_F(PosixProcessRunnerTest, MissesNoEndWithoutDescriptorsOfProcessesOrWithoutStatuses) {

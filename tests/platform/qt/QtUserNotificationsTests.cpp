@@ -18,6 +18,8 @@ namespace {
 using testing::ElementsAre;
 using testing::Pair;
 
+const QString name = QStringLiteral("org.freedesktop.Notifications");
+
 /// A session bus of the test's own, which this process takes for its session's.
 class PrivateSessionBus {
   public:
@@ -46,9 +48,14 @@ class NotificationServer : public QDBusVirtualObject {
     NotificationServer(const QString& address, QStringList capabilities)
         : bus_(QDBusConnection::connectToBus(address, "server")), capabilities_(std::move(capabilities)) {
         bus_.registerVirtualObject("/org/freedesktop/Notifications", this);
-        EXPECT_TRUE(bus_.registerService("org.freedesktop.Notifications"));
+        EXPECT_TRUE(bus_.registerService(name));
     }
-    ~NotificationServer() override { QDBusConnection::disconnectFromBus("server"); }
+    ~NotificationServer() override {
+        bus_.unregisterService(name);
+        QDBusConnection::disconnectFromBus("server");
+    }
+    NotificationServer(const NotificationServer&) = delete;
+    NotificationServer& operator=(const NotificationServer&) = delete;
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override {
         if (call.member() == "GetCapabilities") {
