@@ -160,6 +160,29 @@
     </message>
 </context>
 <context>
+    <name>CommandFailure</name>
+    <message>
+        <source>“%@” failed</source>
+        <translation>„%@“ ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>There is nothing to open.</source>
+        <translation>Es gibt nichts zu öffnen.</translation>
+    </message>
+    <message>
+        <source>It was ended by signal %@.</source>
+        <translation>Beendet durch Signal %@.</translation>
+    </message>
+    <message>
+        <source>It ended with status %@.</source>
+        <translation>Beendet mit Status %@.</translation>
+    </message>
+    <message>
+        <source>%@ could not be started: %@.</source>
+        <translation>%@ ließ sich nicht starten: %@.</translation>
+    </message>
+</context>
+<context>
     <name>CommandsTab</name>
     <message>
         <source>Edit Command</source>
@@ -305,6 +328,18 @@
     <message>
         <source>Show checked status of menu items</source>
         <translation>Häkchen von Menüpunkten zeigen</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>Mitteilungen</translation>
+    </message>
+    <message>
+        <source>Hear of what goes wrong after the palette has closed.</source>
+        <translation>Erfahre, was schiefgeht, nachdem die Palette geschlossen ist.</translation>
+    </message>
+    <message>
+        <source>Notify when a custom command fails</source>
+        <translation>Mitteilen, wenn ein eigener Befehl fehlschlägt</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "app/CommandFailureForPeople.h"
 #include "app/StorageKeys.h"
 #include "commands/CommandIndex.h"
 #include "hotkeys/PaletteHotKeyRoutingPolicy.h"
@@ -41,14 +42,13 @@ AppCoordinator::AppCoordinator(Platform platform)
       accessibilityPermissionService_(platform_.accessibility),
       frontmostAppMonitor_(platform_.workspace, FrontmostAppResolver{platform_.ownBundleIdentifier}),
       menuScanner_(platform_.accessibility, platform_.textServices),
-      commandExecutor_([&runner = platform_.processRunner](
-                           const CommandProcessRequest& request) { return runner.run(request); },
-                       platform_.openURL, platform_.fileExists),
+      commandExecutor_(platform_.processRunner, platform_.mainQueue, platform_.openURL, platform_.fileExists),
       commandHistoryStore_(platform_.preferences, storage_keys::commandHistory, platform_.textServices),
       customCommandStore_(platform_.preferences, storage_keys::customCommands),
       rulesStore_(platform_.preferences, platform_.textServices),
       paletteSettingsStore_(platform_.preferences, storage_keys::paletteSettings),
-      firstLaunchOnboardingStore_(platform_.preferences, storage_keys::accessibilityOnboardingShown) {}
+      firstLaunchOnboardingStore_(platform_.preferences, storage_keys::accessibilityOnboardingShown),
+      notificationSettingsStore_(platform_.preferences, storage_keys::commandFailureNotifications) {}
 
 void AppCoordinator::start() {
     addStatusItem();
@@ -193,10 +193,23 @@ std::vector<ScannedMenuItem> AppCoordinator::menuItems(const RunningApplication&
 void AppCoordinator::executeCustom(const Command& command, const CustomCommand& custom) {
     if (confirmCustomCommand(custom)) {
         // The history counts that it was used, not that it succeeded.
-        static_cast<void>(commandExecutor_.execute(custom));
+        commandExecutor_.execute(
+            custom, [weak = weak_from_this(), title = custom.title](const CommandExecutionResult& result) {
+                if (const auto coordinator = weak.lock()) {
+                    coordinator->tellOfFailure(title, result);
+                }
+            });
         commandHistoryStore_.recordUse(command.id, platform_.now());
     }
     paletteWindowController().close();
+}
+
+void AppCoordinator::tellOfFailure(const Text& title, const CommandExecutionResult& result) {
+    const auto failure = commandFailureForPeople(result, platform_.localized);
+    if (failure && notificationSettingsStore_.commandFailures()) {
+        platform_.notifications.show(filled(platform_.localized("CommandFailure", "“%@” failed"), title),
+                                     *failure);
+    }
 }
 
 void AppCoordinator::executeMenu(const Command& command, const MenuAction& action) {
@@ -263,7 +276,8 @@ void AppCoordinator::showSettings() {
     const std::shared_ptr<RunningApplication> target = frontmostAppMonitor_.resolveTargetApplication();
     // What the settings see of the application is what it is now.
     auto model = std::make_shared<SettingsViewModel>(
-        SettingsStores{rulesStore_, commandHistoryStore_, customCommandStore_, paletteSettingsStore_},
+        SettingsStores{rulesStore_, commandHistoryStore_, customCommandStore_, paletteSettingsStore_,
+                       notificationSettingsStore_},
         SettingsProviders{
             .currentApplication = [context = currentApplicationContext(target.get())] { return context; },
             .menuItems = [items = settingsMenuItems(target.get())] { return items; },

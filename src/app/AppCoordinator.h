@@ -23,11 +23,13 @@
 #include "platform/ProcessRunner.h"
 #include "platform/StatusItem.h"
 #include "platform/UserInterface.h"
+#include "platform/UserNotifications.h"
 #include "platform/Workspace.h"
 #include "settings/SettingsWindowController.h"
 #include "stores/CommandHistoryStore.h"
 #include "stores/CustomCommandStore.h"
 #include "stores/FirstLaunchOnboardingStore.h"
+#include "stores/NotificationSettingsStore.h"
 #include "stores/PaletteSettingsStore.h"
 #include "stores/RulesStore.h"
 #include "support/LocalizedString.h"
@@ -45,6 +47,7 @@ struct Platform {
     MainQueue& mainQueue;
     ProcessRunner& processRunner;
     UserInterface& userInterface;
+    UserNotifications& notifications;
     PreferencesDomain& preferences;
     KeyboardShortcuts& shortcuts;
     const TextServices& textServices;
@@ -85,7 +88,8 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
 
     /// Runs a chosen command and closes the palette. A menu item is pressed 200 ms later, when its
     /// application is in front again; a custom command is confirmed first, unless it only opens something,
-    /// and waited for.
+    /// and then goes on by itself: any number may run at once, and this program's end is not theirs. One that
+    /// fails is told by a notification, unless the user wants none.
     void execute(const Command& command);
 
     [[nodiscard]] bool isPaletteVisible() const {
@@ -120,6 +124,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     void clearTarget();
     [[nodiscard]] std::vector<ScannedMenuItem> menuItems(const RunningApplication& application);
     void executeCustom(const Command& command, const CustomCommand& custom);
+    void tellOfFailure(const Text& title, const CommandExecutionResult& result);
     void executeMenu(const Command& command, const MenuAction& action);
     [[nodiscard]] bool confirmCustomCommand(const CustomCommand& command);
     void addStatusItem();
@@ -142,6 +147,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     RulesStore rulesStore_;
     PaletteSettingsStore paletteSettingsStore_;
     FirstLaunchOnboardingStore firstLaunchOnboardingStore_;
+    NotificationSettingsStore notificationSettingsStore_;
     std::unique_ptr<StatusItem> statusItem_;
     std::shared_ptr<RunningApplication> currentApplication_;
     std::vector<ScannedMenuItem> currentMenuItems_;

@@ -7,4 +7,5 @@ inline constexpr const char* customCommands = "customCommands";
 inline constexpr const char* paletteSettings = "paletteSettings"; ///< A prefix.
 inline constexpr const char* accessibilityOnboardingShown =
     "firstLaunchOnboarding.accessibilityOnboardingShown";
+inline constexpr const char* commandFailureNotifications = "notifications.commandFailures";
 } // namespace tovrel::storage_keys

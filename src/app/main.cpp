@@ -10,6 +10,8 @@
 int main(int argc, char** argv) {
     // A reader of standard output that goes away shows as a failed write instead.
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    // Who started this may have ignored it, and then the kernel keeps no process's exit status.
+    static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
     tovrel::DescriptorBuffer buffer(STDOUT_FILENO);
     std::ostream output(&buffer);
     output.exceptions(std::ios::badbit);

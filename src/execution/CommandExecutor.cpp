@@ -1,37 +1,52 @@
 #include "execution/CommandExecutor.h"
 
-namespace tovrel {
+#include <utility>
 
-CommandExecutionResult CommandExecutor::execute(const CustomCommand& command) const {
+namespace tovrel {
+namespace {
+
+CommandExecutionResult resultOf(CustomCommandKind kind, const ProcessOutcome& outcome) {
+    if (const auto* failure = std::get_if<LaunchFailure>(&outcome)) {
+        return *failure;
+    }
+    const auto& end = std::get<ProcessEnd>(outcome);
+    return end == ProcessEnd() ? CommandExecutionResult() : ProcessFailed{kind, end.status, end.isSignal};
+}
+
+} // namespace
+
+void CommandExecutor::execute(const CustomCommand& command, Completion completion) const {
     const Text& payload = command.payload;
     switch (command.kind) {
     case CustomCommandKind::shellScript:
-        return run(command.kind, {"/bin/zsh", {"-c", payload}});
+        run(command.kind, {"/bin/zsh", {"-c", payload}}, std::move(completion));
+        return;
     case CustomCommandKind::appleScript:
         if (fileExists_(payload)) {
-            return run(command.kind, {"/usr/bin/osascript", {payload}});
+            run(command.kind, {"/usr/bin/osascript", {payload}}, std::move(completion));
+        } else {
+            run(command.kind, {"/usr/bin/osascript", {"-e", payload}}, std::move(completion));
         }
-        return run(command.kind, {"/usr/bin/osascript", {"-e", payload}});
+        return;
     case CustomCommandKind::open:
-        return open(payload);
+        complete(std::move(completion), open(payload));
+        return;
     case CustomCommandKind::shortcut:
         break;
     }
     if (const auto url = Url::parse(payload); url && url->hasScheme()) {
         openURL_(*url);
-        return {};
+        complete(std::move(completion), {});
+    } else {
+        run(command.kind, {"/usr/bin/shortcuts", {"run", payload}}, std::move(completion));
     }
-    return run(command.kind, {"/usr/bin/shortcuts", {"run", payload}});
 }
 
-CommandExecutionResult CommandExecutor::run(CustomCommandKind kind,
-                                            const CommandProcessRequest& request) const {
-    const auto outcome = processRunner_(request);
-    if (const auto* failure = std::get_if<LaunchFailure>(&outcome)) {
-        return *failure;
-    }
-    const std::int32_t status = std::get<std::int32_t>(outcome);
-    return status == 0 ? CommandExecutionResult() : ProcessFailed{kind, status};
+void CommandExecutor::run(CustomCommandKind kind, const CommandProcessRequest& request,
+                          Completion completion) const {
+    processRunner_->start(request, [kind, completion = std::move(completion)](const ProcessOutcome& outcome) {
+        completion(resultOf(kind, outcome));
+    });
 }
 
 CommandExecutionResult CommandExecutor::open(const Text& payload) const {
@@ -45,6 +60,11 @@ CommandExecutionResult CommandExecutor::open(const Text& payload) const {
     }
     openURL_(*url);
     return {};
+}
+
+void CommandExecutor::complete(Completion completion, CommandExecutionResult result) const {
+    mainQueue_->post(
+        [completion = std::move(completion), result = std::move(result)] { completion(result); });
 }
 
 } // namespace tovrel

@@ -2,12 +2,12 @@
 
 #include <cstdint>
 #include <functional>
-#include <string>
+#include <utility>
 #include <variant>
-#include <vector>
 
 #include "execution/Url.h"
 #include "model/CustomCommand.h"
+#include "platform/MainQueue.h"
 #include "platform/ProcessRunner.h"
 #include "support/Text.h"
 
@@ -20,10 +20,12 @@ struct InvalidOpenPayload {
     friend bool operator==(const InvalidOpenPayload&, const InvalidOpenPayload&) = default;
 };
 
-/// The process of a command of that kind ended with a status other than 0.
+/// The process of a command of that kind ended with a status other than 0, or by a signal, whose number is
+/// the status then.
 struct ProcessFailed {
     CustomCommandKind kind = CustomCommandKind::shellScript;
     std::int32_t status = 0;
+    bool isSignal = false;
 
     friend bool operator==(const ProcessFailed&, const ProcessFailed&) = default;
 };
@@ -35,28 +37,31 @@ using CommandExecutionResult = std::variant<std::monostate, InvalidOpenPayload, 
 /// a file opened. The payload is used as it is stored: no trimming, no expansion of "~" or of variables.
 class CommandExecutor {
   public:
-    /// Runs the program and waits for it; its exit status, or why it could not be started.
-    using ProcessRunner =
-        std::function<std::variant<std::int32_t, LaunchFailure>(const CommandProcessRequest&)>;
     /// Asks the system to open a URL; the outcome is not known.
     using UrlOpener = std::function<void(const Url&)>;
     /// Whether a file or directory exists at a path, relative to the working directory if it is relative.
     using FileExists = std::function<bool(const Text&)>;
+    /// Learns how it went.
+    using Completion = std::function<void(const CommandExecutionResult&)>;
 
-    CommandExecutor(ProcessRunner processRunner, UrlOpener openURL, FileExists fileExists)
-        : processRunner_(std::move(processRunner)), openURL_(std::move(openURL)),
+    /// The runner and the queue outlive the executor.
+    CommandExecutor(ProcessRunner& processRunner, MainQueue& mainQueue, UrlOpener openURL,
+                    FileExists fileExists)
+        : processRunner_(&processRunner), mainQueue_(&mainQueue), openURL_(std::move(openURL)),
           fileExists_(std::move(fileExists)) {}
 
-    /// Returns once the process has ended or the URL was handed over, however long that takes. Looks neither
-    /// at the command's scope nor at whether it is enabled.
-    [[nodiscard]] CommandExecutionResult execute(const CustomCommand& command) const;
+    /// Starts the process or hands the URL over, and returns at once. `completion` is called once, by a task
+    /// of the main queue, when the process has ended, however long that takes, or when there is nothing to
+    /// wait for. Looks neither at the command's scope nor at whether it is enabled.
+    void execute(const CustomCommand& command, Completion completion) const;
 
   private:
-    [[nodiscard]] CommandExecutionResult run(CustomCommandKind kind,
-                                             const CommandProcessRequest& request) const;
+    void run(CustomCommandKind kind, const CommandProcessRequest& request, Completion completion) const;
     [[nodiscard]] CommandExecutionResult open(const Text& payload) const;
+    void complete(Completion completion, CommandExecutionResult result) const;
 
-    ProcessRunner processRunner_;
+    ProcessRunner* processRunner_;
+    MainQueue* mainQueue_;
     UrlOpener openURL_;
     FileExists fileExists_;
 };

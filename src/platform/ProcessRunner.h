@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <variant>
 #include <vector>
 
@@ -8,7 +9,7 @@
 
 namespace tovrel {
 
-/// A program to run to completion.
+/// A program to run.
 struct CommandProcessRequest {
     Text executablePath;         ///< Absolute.
     std::vector<Text> arguments; ///< Without the program name.
@@ -16,23 +17,35 @@ struct CommandProcessRequest {
     friend bool operator==(const CommandProcessRequest&, const CommandProcessRequest&) = default;
 };
 
-/// A process that could not be started: an errno value.
+/// A process that has ended.
+struct ProcessEnd {
+    std::int32_t status = 0; ///< The exit status, or the number of the signal that ended it.
+    bool isSignal = false;
+
+    friend bool operator==(const ProcessEnd&, const ProcessEnd&) = default;
+};
+
+/// A process that could not be started.
 struct LaunchFailure {
-    int error = 0;
+    Text executablePath;
+    int error = 0; ///< An errno value.
 
     friend bool operator==(const LaunchFailure&, const LaunchFailure&) = default;
 };
 
+using ProcessOutcome = std::variant<ProcessEnd, LaunchFailure>;
+
 /// Starts other programs.
 class ProcessRunner {
   public:
+    using Completion = std::function<void(const ProcessOutcome&)>;
+
     virtual ~ProcessRunner() = default;
 
-    /// Starts the program with this process's environment, working directory and standard streams, and
-    /// returns once it has ended, however long that takes. Its exit status, or the number of the signal that
-    /// ended it; or why it could not be started.
-    [[nodiscard]] virtual std::variant<std::int32_t, LaunchFailure>
-    run(const CommandProcessRequest& request) = 0;
+    /// Starts the program and returns at once; any number may run at the same time. `completion` is called
+    /// once, by a task of the main queue: when the process has ended, however long that takes, or when it
+    /// could not be started. A process outlives this object; its end is then told to nobody.
+    virtual void start(const CommandProcessRequest& request, Completion completion) = 0;
 };
 
 } // namespace tovrel

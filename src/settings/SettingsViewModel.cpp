@@ -22,7 +22,8 @@ const Record* findByID(const std::vector<Record>& records, const Text& id) {
 
 SettingsViewModel::SettingsViewModel(SettingsStores stores, SettingsProviders providers)
     : store_(stores.rules), historyStore_(stores.history), customCommandStore_(stores.customCommands),
-      paletteSettingsStore_(stores.paletteSettings), providers_(std::move(providers)) {
+      paletteSettingsStore_(stores.paletteSettings), notificationSettingsStore_(stores.notifications),
+      providers_(std::move(providers)) {
     reload();
 }
 
@@ -38,6 +39,7 @@ void SettingsViewModel::reload() {
     commandHistoryEntries_.set(historyStore_.entries());
     showCheckedStatus_.set(paletteSettingsStore_.showCheckedStatus().get());
     commandShortcutOpensSettings_.set(paletteSettingsStore_.commandShortcutOpensSettings().get());
+    notifiesOfCommandFailures_.set(notificationSettingsStore_.commandFailures());
 
     const std::vector<ScannedMenuItem> menuItems = providers_.menuItems();
     const std::optional<Text> bundleID = application ? std::optional(application->bundleID) : std::nullopt;
@@ -146,6 +148,11 @@ void SettingsViewModel::clearHistory() {
 
 void SettingsViewModel::setShowCheckedStatus(bool isShown) {
     paletteSettingsStore_.setShowCheckedStatus(isShown);
+    reload();
+}
+
+void SettingsViewModel::setNotifiesOfCommandFailures(bool isWanted) {
+    notificationSettingsStore_.setCommandFailures(isWanted);
     reload();
 }
 

@@ -10,6 +10,7 @@
 #include "settings/SettingsRecords.h"
 #include "stores/CommandHistoryStore.h"
 #include "stores/CustomCommandStore.h"
+#include "stores/NotificationSettingsStore.h"
 #include "stores/PaletteSettingsStore.h"
 #include "stores/RulesStore.h"
 #include "support/Observable.h"
@@ -23,6 +24,7 @@ struct SettingsStores {
     CommandHistoryStore& history;
     CustomCommandStore& customCommands;
     PaletteSettingsStore& paletteSettings;
+    NotificationSettingsStore& notifications;
 };
 
 /// The state behind the settings window: what the stores and the providers say, and the edits. Each edit
@@ -68,6 +70,10 @@ class SettingsViewModel {
     [[nodiscard]] const Observable<bool>& commandShortcutOpensSettings() const {
         return commandShortcutOpensSettings_;
     }
+    /// Whether custom commands that fail are told by a notification.
+    [[nodiscard]] const Observable<bool>& notifiesOfCommandFailures() const {
+        return notifiesOfCommandFailures_;
+    }
     [[nodiscard]] const Observable<bool>& isAccessibilityTrusted() const { return isAccessibilityTrusted_; }
 
     /// Takes everything anew, in a fixed order.
@@ -94,6 +100,7 @@ class SettingsViewModel {
 
     void clearHistory();
     void setShowCheckedStatus(bool isShown);
+    void setNotifiesOfCommandFailures(bool isWanted);
 
   private:
     void hideMenuPath(const Text& joinedPath, MenuBlacklistMode mode);
@@ -111,12 +118,14 @@ class SettingsViewModel {
     Observable<std::vector<CommandHistoryEntry>> commandHistoryEntries_;
     Observable<bool> showCheckedStatus_{true};
     Observable<bool> commandShortcutOpensSettings_{false};
+    Observable<bool> notifiesOfCommandFailures_{true};
     Observable<bool> isAccessibilityTrusted_{false};
 
     RulesStore& store_;
     CommandHistoryStore& historyStore_;
     CustomCommandStore& customCommandStore_;
     PaletteSettingsStore& paletteSettingsStore_;
+    NotificationSettingsStore& notificationSettingsStore_;
     SettingsProviders providers_;
 };
 

@@ -1,5 +1,6 @@
 #include "app/AppCoordinator.h"
 
+#include <cerrno>
 #include <sstream>
 
 #include <gtest/gtest.h>
@@ -15,6 +16,7 @@
 #include "platform/memory/MemoryProcessRunner.h"
 #include "platform/memory/MemorySettingsWindow.h"
 #include "platform/memory/MemoryUserInterface.h"
+#include "platform/memory/MemoryUserNotifications.h"
 #include "platform/memory/MemoryWorkspace.h"
 
 namespace tovrel {
@@ -72,6 +74,7 @@ class AppCoordinatorTest : public testing::Test {
                      .mainQueue = queue_,
                      .processRunner = runner_,
                      .userInterface = userInterface_,
+                     .notifications = notifications_,
                      .preferences = preferences_,
                      .shortcuts = shortcuts_,
                      .textServices = textServices_,
@@ -121,8 +124,9 @@ class AppCoordinatorTest : public testing::Test {
     MemoryHotKeyCenter center_;
     MemoryKeyEventPoster poster_;
     ManualQueue queue_;
-    MemoryProcessRunner runner_;
+    MemoryProcessRunner runner_{queue_};
     MemoryUserInterface userInterface_;
+    MemoryUserNotifications notifications_;
     MemoryPreferencesDomain preferences_;
     std::ostringstream output_;
     KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};
@@ -281,25 +285,66 @@ TEST_F(AppCoordinatorTest, CustomCommandsAreConfirmedRunAndCounted) {
     EXPECT_EQ(std::pair(alert.firstButton, alert.secondButton), (std::pair<Text, Text>("Run", "Cancel")));
 
     userInterface_.setAnswer(AlertAnswer::firstButton);
-    runner_.setOutcome(LaunchFailure{2});
     pressHotKey();
     model_->setQuery("backup");
     returnKey();
     EXPECT_EQ(runner_.requests().size(), 1U);
-    EXPECT_EQ(history().rankSignals("custom:Backup").usageCount, 1) << "counted although it failed";
+    EXPECT_EQ(history().rankSignals("custom:Backup").usageCount, 1) << "counted while it still runs";
     EXPECT_FALSE(panel_->isVisible());
+}
+
+TEST_F(AppCoordinatorTest, CustomCommandsThatFailAreToldByTheirTitles) {
+    const auto execute = [&](const Text& title, CustomCommandKind kind) {
+        Command command;
+        command.id = Text("custom:" + title.utf8());
+        command.action = customCommand(title, kind);
+        coordinator_->execute(command);
+        return runner_.requests().size() - 1;
+    };
+    const auto slow = execute("slow", CustomCommandKind::shellScript);
+    const auto quick = execute("quick", CustomCommandKind::shellScript);
+    const auto good = execute("good", CustomCommandKind::shortcut);
+    runner_.end(quick, ProcessEnd{3, false});
+    runner_.end(good, ProcessEnd{});
+    queue_.runDue();
+    runner_.end(slow, ProcessEnd{9, true});
+    runner_.refuse(ENOENT);
+    execute("script", CustomCommandKind::appleScript);
+    execute("place", CustomCommandKind::open);
+    Command nowhere;
+    nowhere.action = customCommand("nowhere", CustomCommandKind::open);
+    std::get<CustomCommand>(nowhere.action).payload = "";
+    coordinator_->execute(nowhere);
+    queue_.runDue();
+    using Shown = std::vector<MemoryUserNotifications::Notification>;
+    const Shown shown{
+        {"“quick” failed", "It ended with status 3."},
+        {"“slow” failed", "It was ended by signal 9."},
+        {"“script” failed", "/usr/bin/osascript could not be started: No such file or directory."},
+        {"“nowhere” failed", "There is nothing to open."}};
+    EXPECT_EQ(notifications_.shown(), shown);
+
+    NotificationSettingsStore(preferences_, "notifications.commandFailures").setCommandFailures(false);
+    execute("script", CustomCommandKind::appleScript);
+    queue_.runDue();
+    EXPECT_EQ(notifications_.shown(), shown);
 }
 
 TEST_F(AppCoordinatorTest, CallbacksDoNothingOnceTheCoordinatorIsGone) {
     pressHotKey();
     model_->setQuery("save");
     returnKey();
+    Command command;
+    command.action = customCommand("Mine", CustomCommandKind::shellScript);
+    coordinator_->execute(command);
     coordinator_.reset();
+    runner_.end(0, ProcessEnd{1, false});
     EXPECT_TRUE(center_.press(standard)) << "still ours, to no effect";
     userInterface_.statusItem().menu.front().action();
     workspace_.bringToFront(browser_.running);
     queue_.advance(1s);
     EXPECT_EQ(editor_.items[1]->performedActions(), Actions{"AXPress"}) << "what was chosen is still done";
+    EXPECT_TRUE(notifications_.shown().empty());
 }
 
 TEST_F(AppCoordinatorTest, TheOnboardingIsShownOnceAndOnlyWithoutAccessibility) {

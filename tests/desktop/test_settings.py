@@ -210,6 +210,8 @@ class SettingsTests(PaletteTestCase):
         self.assertTrue(self.settings.is_checked("Show checked status of menu items"))
         self.settings.activate("Show checked status of menu items", "check box")
         self.wait_for_stored("paletteSettings.showCheckedStatus", False)
+        self.settings.activate("Notify when a custom command fails", "check box")
+        self.wait_for_stored("notifications.commandFailures", False)
         self.settings.select_tab("Apps")
         self.settings.wait_for("No saved app rules", "label")
         self.settings.segment("Current Application", 2)

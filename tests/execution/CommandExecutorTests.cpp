@@ -4,48 +4,56 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/memory/ManualQueue.h"
+#include "platform/memory/MemoryProcessRunner.h"
+
 namespace tovrel {
 namespace {
 
 class CommandExecutorTest : public testing::Test {
   protected:
-    CommandExecutionResult execute(CustomCommandKind kind, const Text& payload) {
-        requests_.clear();
+    void execute(CustomCommandKind kind, const Text& payload) {
         opened_.clear();
+        result_.reset();
         CustomCommand command;
         command.kind = kind;
         command.payload = payload;
-        return executor_.execute(command);
+        executor_.execute(command, [this](const CommandExecutionResult& result) { result_ = result; });
+        EXPECT_EQ(result_, std::nullopt) << "told by the queue alone";
+        queue_.runDue();
+    }
+    void endLast(ProcessEnd end) {
+        runner_.end(runner_.requests().size() - 1, end);
+        queue_.runDue();
     }
 
-    std::variant<std::int32_t, LaunchFailure> outcome_ = 0;
-    std::vector<CommandProcessRequest> requests_;
+    ManualQueue queue_;
+    MemoryProcessRunner runner_{queue_};
     std::vector<std::string> opened_;
-    CommandExecutor executor_{[this](const CommandProcessRequest& request) {
-                                  requests_.push_back(request);
-                                  return outcome_;
-                              },
+    std::optional<CommandExecutionResult> result_;
+    CommandExecutor executor_{runner_, queue_,
                               [this](const Url& url) { opened_.push_back(url.text().utf8()); },
                               [](const Text& path) { return path.view().starts_with("/exists"); }};
 };
 
-using Requests = std::vector<CommandProcessRequest>;
+using Request = CommandProcessRequest;
 using Opened = std::vector<std::string>;
 using enum CustomCommandKind;
 
 TEST_F(CommandExecutorTest, WhatIsRunForEachKind) {
-    EXPECT_EQ(execute(shellScript, " exit 3 "), CommandExecutionResult());
-    EXPECT_EQ(requests_, (Requests{{"/bin/zsh", {"-c", " exit 3 "}}}));
+    execute(shellScript, " exit 3 ");
+    EXPECT_EQ(result_, std::nullopt) << "it runs";
     execute(appleScript, "/exists/script.scpt");
-    EXPECT_EQ(requests_, (Requests{{"/usr/bin/osascript", {"/exists/script.scpt"}}}));
     execute(appleScript, "~/script.scpt");
-    EXPECT_EQ(requests_, (Requests{{"/usr/bin/osascript", {"-e", "~/script.scpt"}}}));
     execute(shortcut, "Backup");
-    EXPECT_EQ(requests_, (Requests{{"/usr/bin/shortcuts", {"run", "Backup"}}}));
     EXPECT_EQ(opened_, Opened{});
     execute(shortcut, "Backup: daily");
-    EXPECT_EQ(requests_, Requests{});
     EXPECT_EQ(opened_, Opened{"Backup:%20daily"});
+    EXPECT_EQ(result_, CommandExecutionResult());
+    EXPECT_EQ(runner_.requests(), (std::vector<Request>{{"/bin/zsh", {"-c", " exit 3 "}},
+                                                        {"/usr/bin/osascript", {"/exists/script.scpt"}},
+                                                        {"/usr/bin/osascript", {"-e", "~/script.scpt"}},
+                                                        {"/usr/bin/shortcuts", {"run", "Backup"}}}));
 }
 
 TEST_F(CommandExecutorTest, WhatIsOpened) {
@@ -55,18 +63,27 @@ TEST_F(CommandExecutorTest, WhatIsOpened) {
     EXPECT_EQ(opened_, Opened{"https://example.org/?q=a%20b&c=100%25&d=%20#%C3%BC"});
     execute(open, "no/such/thing");
     EXPECT_EQ(opened_, Opened{"no/such/thing"});
-    EXPECT_EQ(execute(open, ""), CommandExecutionResult(InvalidOpenPayload{""}));
+    EXPECT_EQ(result_, CommandExecutionResult());
+    execute(open, "");
+    EXPECT_EQ(result_, CommandExecutionResult(InvalidOpenPayload{""}));
     EXPECT_EQ(opened_, Opened{});
     EXPECT_EQ(Url::ofFile("x y").text().utf8(),
               "file://" + std::filesystem::current_path().string() + "/x%20y");
 }
 
-TEST_F(CommandExecutorTest, FailuresArePassedOn) {
-    outcome_ = 3;
-    EXPECT_EQ(execute(shellScript, "exit 3"), CommandExecutionResult(ProcessFailed{shellScript, 3}));
-    EXPECT_EQ(execute(appleScript, "beep"), CommandExecutionResult(ProcessFailed{appleScript, 3}));
-    outcome_ = LaunchFailure{2};
-    EXPECT_EQ(execute(shortcut, "Backup"), CommandExecutionResult(LaunchFailure{2}));
+TEST_F(CommandExecutorTest, OutcomesArePassedOn) {
+    execute(shellScript, "exit 0");
+    endLast({0, false});
+    EXPECT_EQ(result_, CommandExecutionResult());
+    execute(shellScript, "exit 3");
+    endLast({3, false});
+    EXPECT_EQ(result_, CommandExecutionResult(ProcessFailed{shellScript, 3, false}));
+    execute(appleScript, "beep");
+    endLast({9, true});
+    EXPECT_EQ(result_, CommandExecutionResult(ProcessFailed{appleScript, 9, true}));
+    runner_.refuse(2);
+    execute(shortcut, "Backup");
+    EXPECT_EQ(result_, CommandExecutionResult(LaunchFailure{"/usr/bin/shortcuts", 2}));
 }
 
 } // namespace

@@ -66,11 +66,12 @@ class SettingsViewModelTest : public testing::Test {
     CommandHistoryStore history_{preferences_, "history", text_};
     CustomCommandStore custom_{preferences_, "customCommands"};
     PaletteSettingsStore palette_{preferences_, "paletteSettings"};
+    NotificationSettingsStore notifications_{preferences_, "notifications"};
     std::optional<CurrentApplicationContext> application_ = CurrentApplicationContext{"Bee", "B"};
     std::vector<ScannedMenuItem> menus_;
     bool isTrusted_ = false;
-    std::shared_ptr<SettingsViewModel> model_ =
-        std::make_shared<SettingsViewModel>(SettingsStores{rules_, history_, custom_, palette_}, providers());
+    std::shared_ptr<SettingsViewModel> model_ = std::make_shared<SettingsViewModel>(
+        SettingsStores{rules_, history_, custom_, palette_, notifications_}, providers());
     SettingsViewState state_{model_};
 };
 
@@ -233,8 +234,10 @@ TEST_F(SettingsViewModelTest, DamagedDocumentsReadAsDefaultsAndTheNextEditRepair
         preferences_.set(key, PreferenceData{"{\"broken"});
     }
     preferences_.set("paletteSettings.showCheckedStatus", Text("maybe"));
+    preferences_.set("notifications", Text("no"));
     model_->reload();
     EXPECT_EQ(model_->defaultBehavior().get(), AppBehaviorRule::enabled);
+    EXPECT_TRUE(model_->notifiesOfCommandFailures().get());
     EXPECT_THAT(model_->customCommands().get(), IsEmpty());
     EXPECT_THAT(model_->commandHistoryEntries().get(), IsEmpty());
     model_->setCurrentBehavior(AppBehaviorRule::disabled);
@@ -244,6 +247,7 @@ TEST_F(SettingsViewModelTest, DamagedDocumentsReadAsDefaultsAndTheNextEditRepair
     model_->setMenuCommandFavorite(exportPDF, true);
     EXPECT_TRUE(model_->saveCustomCommand({}));
     model_->setShowCheckedStatus(false);
+    model_->setNotifiesOfCommandFailures(false);
     EXPECT_EQ(stored("rules.defaultAppBehavior"), "\"auto\"");
     EXPECT_EQ(model_->appBehaviorSettings().get().size(), 1U);
     EXPECT_EQ(model_->menuBlacklistRules().get().size(), 1U);
@@ -251,6 +255,8 @@ TEST_F(SettingsViewModelTest, DamagedDocumentsReadAsDefaultsAndTheNextEditRepair
     EXPECT_EQ(model_->customCommands().get().size(), 1U);
     EXPECT_EQ(preferences_.value("paletteSettings.showCheckedStatus"), PreferenceValue(false));
     EXPECT_FALSE(model_->showCheckedStatus().get());
+    EXPECT_EQ(preferences_.value("notifications"), PreferenceValue(false));
+    EXPECT_FALSE(model_->notifiesOfCommandFailures().get());
     model_->clearHistory();
     EXPECT_EQ(preferences_.value("history"), std::nullopt);
     EXPECT_THAT(model_->commandHistoryEntries().get(), IsEmpty());

@@ -40,8 +40,8 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
                          return windows->windowsOf(processIdentifier);
                      }),
       toolkitAccessibility_(accessibilityBus_, workspace_),
-      hotKeys_(queue_, [this] { return keyDestination(); }), translations_(invocation.localeIdentifier),
-      userInterface_(views_, windowSystem()),
+      hotKeys_(queue_, [this] { return keyDestination(); }), processRunner_(queue_),
+      translations_(invocation.localeIdentifier), userInterface_(views_, windowSystem()),
       accessibilityOffer_(toolkitAccessibility_, userInterface_, localizedByQt()),
       shortcuts_(preferences_, hotKeys_, userInterface_, textServices_, console.output),
       settingsWindowController_([this] { return makeSettingsWindow(); }),
@@ -50,7 +50,7 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
           coordinator_, [this] { return toggleShortcutForPeople(); }, [] { QApplication::quit(); }),
       activationEvents_(workspace_->activationEvents()),
       // That the user has come back to an application is older than the hot key pressed there.
-      hotKeyEvents_(hotKeys_, &workspace_->activationEvents()) {}
+      hotKeyEvents_(hotKeys_, &workspace_->activationEvents()), processEnds_(processRunner_) {}
 
 ResidentProgram::~ResidentProgram() {
     // Calls that the bus still delivers must not find what is half gone.
@@ -82,6 +82,7 @@ Platform ResidentProgram::platform() {
             .mainQueue = queue_,
             .processRunner = processRunner_,
             .userInterface = userInterface_,
+            .notifications = notifications_,
             .preferences = preferences_,
             .shortcuts = shortcuts_,
             .textServices = textServices_,

@@ -1,14 +1,16 @@
 #include "platform/linux/DetachedProcess.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <iterator>
 #include <sstream>
 #include <unistd.h>
+#include <utility>
 
 #include <sys/wait.h>
+
+#include "platform/linux/ExecTexts.h"
+#include "platform/linux/StartEnvironment.h"
 
 namespace tovrel {
 namespace {
@@ -28,15 +30,19 @@ std::string findInPath(const std::string& program) {
 
 /// What the fork does; only calls that are safe in the fork of a program with threads. The program is a child
 /// of a child that ends at once, so that nobody has to wait for it.
-[[noreturn]] void becomeDetached(const char* file, char* const* words) {
+[[noreturn]] void becomeDetached(const char* file, char* const* words, char* const* environment) {
     setsid();
-    static_cast<void>(signal(SIGPIPE, SIG_DFL));
+    struct sigaction usual {};
+    usual.sa_handler = SIG_DFL;
+    for (int number = 1; number < NSIG; ++number) {
+        sigaction(number, &usual, nullptr); // in vain for the few that cannot be changed
+    }
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
     const pid_t process = fork();
     if (process == 0) {
-        execv(file, words);
+        execve(file, words, environment);
         _exit(127);
     }
     _exit(process < 0 ? 1 : 0);
@@ -49,13 +55,11 @@ bool startDetached(std::vector<std::string> arguments) {
     if (file.empty()) {
         return false;
     }
-    std::vector<char*> words;
-    std::transform(arguments.begin(), arguments.end(), std::back_inserter(words),
-                   [](std::string& word) { return word.data(); });
-    words.push_back(nullptr);
+    const ExecTexts words(std::move(arguments));
+    const ExecTexts environment = startEnvironment();
     const pid_t process = fork();
     if (process == 0) {
-        becomeDetached(file.c_str(), words.data());
+        becomeDetached(file.c_str(), words.get(), environment.get());
     }
     int status = -1;
     while (process > 0 && waitpid(process, &status, 0) < 0 && errno == EINTR) {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <csignal>
+#include <cstring>
 #include <spawn.h>
 
 namespace tovrel {
 
-/// How a program is to start: as from a shell, with no signal blocked and SIGPIPE, which this program
-/// ignores, ending it. A program inherits both otherwise, and few expect it.
+/// How a program is to start: in a session of its own, with no signal blocked and each doing what it does by
+/// default. A program inherits what this one blocks and ignores otherwise, and few expect it.
 class SpawnAttributes {
   public:
     SpawnAttributes() {
@@ -14,11 +15,13 @@ class SpawnAttributes {
         sigset_t none;
         sigemptyset(&none);
         posix_spawnattr_setsigmask(&attributes_, &none);
-        sigset_t reset;
-        sigemptyset(&reset);
-        sigaddset(&reset, SIGPIPE);
-        posix_spawnattr_setsigdefault(&attributes_, &reset);
-        posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+        // More than sigfillset gives: without the two signals that the C library keeps for itself, its
+        // posix_spawn would have the program ignore them.
+        sigset_t all;
+        std::memset(&all, 0xFF, sizeof all);
+        posix_spawnattr_setsigdefault(&attributes_, &all);
+        posix_spawnattr_setflags(&attributes_,
+                                 POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSID);
     }
     ~SpawnAttributes() { posix_spawnattr_destroy(&attributes_); }
     SpawnAttributes(const SpawnAttributes&) = delete;

@@ -1,24 +1,46 @@
 #pragma once
 
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "platform/MainQueue.h"
 #include "platform/ProcessRunner.h"
 
 namespace tovrel {
 
-/// Runs nothing: keeps the requests and answers each as told.
+/// Runs nothing: keeps the requests, whose processes end as told.
 class MemoryProcessRunner : public ProcessRunner {
   public:
-    [[nodiscard]] std::variant<std::int32_t, LaunchFailure>
-    run(const CommandProcessRequest& request) override {
+    explicit MemoryProcessRunner(MainQueue& queue) : queue_(&queue) {}
+
+    void start(const CommandProcessRequest& request, Completion completion) override {
         requests_.push_back(request);
-        return outcome_;
+        completions_.push_back(std::move(completion));
+        if (launchError_) {
+            complete(requests_.size() - 1, LaunchFailure{request.executablePath, *launchError_});
+        }
     }
 
-    void setOutcome(std::variant<std::int32_t, LaunchFailure> outcome) { outcome_ = outcome; }
+    /// No process can be started from now on, for the reason of an errno value.
+    void refuse(int error) { launchError_ = error; }
+
+    /// Ends the process of a request, which has not ended yet.
+    void end(std::size_t request, ProcessEnd end) { complete(request, end); }
+
     [[nodiscard]] const std::vector<CommandProcessRequest>& requests() const { return requests_; }
 
   private:
+    void complete(std::size_t request, ProcessOutcome outcome) {
+        queue_->post([completion = std::move(completions_.at(request)), outcome = std::move(outcome)] {
+            completion(outcome);
+        });
+    }
+
+    MainQueue* queue_;
+    std::optional<int> launchError_;
     std::vector<CommandProcessRequest> requests_;
-    std::variant<std::int32_t, LaunchFailure> outcome_ = 0;
+    std::vector<Completion> completions_;
 };
 
 } // namespace tovrel

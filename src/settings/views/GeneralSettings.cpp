@@ -16,6 +16,7 @@ GeneralSettings::GeneralSettings(SettingsViewState& state, RecorderAdapter& reco
     const SettingsViewModel& model = state.viewModel();
     subscriptions_.push_back(model.isAccessibilityTrusted().subscribe([this] { Q_EMIT changed(); }));
     subscriptions_.push_back(model.showCheckedStatus().subscribe([this] { Q_EMIT changed(); }));
+    subscriptions_.push_back(model.notifiesOfCommandFailures().subscribe([this] { Q_EMIT changed(); }));
 }
 
 bool GeneralSettings::isAccessibilityTrusted() const {
@@ -28,6 +29,14 @@ bool GeneralSettings::showCheckedStatus() const {
 
 void GeneralSettings::setShowCheckedStatus(bool isShown) {
     state_->viewModel().setShowCheckedStatus(isShown);
+}
+
+bool GeneralSettings::notifiesOfCommandFailures() const {
+    return state_->viewModel().notifiesOfCommandFailures().get();
+}
+
+void GeneralSettings::setNotifiesOfCommandFailures(bool isWanted) {
+    state_->viewModel().setNotifiesOfCommandFailures(isWanted);
 }
 
 void GeneralSettings::openPrivacySettings() {

@@ -18,6 +18,8 @@ class GeneralSettings : public QObject {
     QML_UNCREATABLE("The settings' window makes it.")
     Q_PROPERTY(bool isAccessibilityTrusted READ isAccessibilityTrusted NOTIFY changed FINAL)
     Q_PROPERTY(bool showCheckedStatus READ showCheckedStatus WRITE setShowCheckedStatus NOTIFY changed FINAL)
+    Q_PROPERTY(bool notifiesOfCommandFailures READ notifiesOfCommandFailures WRITE
+                   setNotifiesOfCommandFailures NOTIFY changed FINAL)
     Q_PROPERTY(tovrel::RecorderAdapter* recorder READ recorder CONSTANT FINAL)
 
   public:
@@ -30,6 +32,8 @@ class GeneralSettings : public QObject {
     [[nodiscard]] bool isAccessibilityTrusted() const;
     [[nodiscard]] bool showCheckedStatus() const;
     void setShowCheckedStatus(bool isShown);
+    [[nodiscard]] bool notifiesOfCommandFailures() const;
+    void setNotifiesOfCommandFailures(bool isWanted);
     [[nodiscard]] RecorderAdapter* recorder() const { return recorder_; }
 
     /// Opens the place of the desktop's settings where the permission is given.

@@ -95,4 +95,18 @@ SettingsPage {
             onToggled: isOn => tab.general.showCheckedStatus = isOn
         }
     }
+    SettingsCard {
+        width: parent.width
+        symbol: "bell"
+        title: qsTr("Notifications")
+        text: qsTr("Hear of what goes wrong after the palette has closed.")
+
+        IslandToggle {
+            objectName: "notifiesOfCommandFailures"
+            width: parent.width
+            title: qsTr("Notify when a custom command fails")
+            isOn: tab.general.notifiesOfCommandFailures
+            onToggled: isOn => tab.general.notifiesOfCommandFailures = isOn
+        }
+    }
 }

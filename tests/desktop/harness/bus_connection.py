@@ -27,9 +27,19 @@ class BusConnection:
         self._connection.signal_subscribe(None, interface, member, None, first_argument, Gio.DBusSignalFlags.NONE,
                                           lambda _connection, sender, path, *_: heard(sender, path))
 
+    def serve(self, name, path, interface, methods):
+        """Takes the name and answers calls to an object with that interface, given as XML, when `hear` is called.
+        Each of `methods` takes a call's arguments and returns the answer's type and value."""
+        def answer(_connection, _sender, _path, _interface, method, arguments, invocation):
+            invocation.return_value(GLib.Variant(*methods[method](*arguments.unpack())))
+
+        self._connection.register_object(path, Gio.DBusNodeInfo.new_for_xml(interface).interfaces[0], answer)
+        self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
+                  GLib.Variant("(su)", (name, 0)))
+
     @staticmethod
     def hear():
-        """Hands out the signals that have arrived."""
+        """Hands out the signals and calls that have arrived."""
         while GLib.MainContext.default().iteration(False):
             pass
 

@@ -78,8 +78,7 @@ class SettingsWindow:
                 met.append(f"{focused.role} {focused.name!r}")
             before = focused and focused.identity
             self.press("Tab")
-            wait_until(lambda: (self.focused() and self.focused().identity) not in (before, None),
-                       "the focus to move")
+            wait_until(lambda: getattr(self.focused(), "identity", None) not in (before, None), "the focus to move")
         raise TimedOut(f"the Tab key never reached the {role} {name!r}; it reached {', '.join(dict.fromkeys(met))}")
 
     def activate(self, name, role="push button"):
@@ -105,7 +104,7 @@ class SettingsWindow:
         self.type(words)
         wait_until(lambda: self._rows(name)[:1] == [choice], f"{choice!r} to be the first choice")
         self.press("Return")
-        wait_until(lambda: self.focused() is not None and self.focused().role == "combo box",
+        wait_until(lambda: getattr(self.focused(), "role", None) == "combo box",
                    "the focus to be back on the picker")
 
     def segment(self, group, steps):

@@ -2,50 +2,140 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <optional>
 #include <string>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+
+#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/TestLoop.h"
+#include "support/TemporaryDirectory.h"
 
 namespace tovrel {
 namespace {
 
-using Result = std::variant<std::int32_t, LaunchFailure>;
+/// While it is there, the process gets no further file descriptors.
+class NoMoreDescriptors {
+  public:
+    NoMoreDescriptors() {
+        getrlimit(RLIMIT_NOFILE, &before_);
+        const FileDescriptor next(dup(STDOUT_FILENO));
+        const rlimit none{static_cast<rlim_t>(next.get()), before_.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+    }
+    ~NoMoreDescriptors() { setrlimit(RLIMIT_NOFILE, &before_); }
+    NoMoreDescriptors(const NoMoreDescriptors&) = delete;
+    NoMoreDescriptors& operator=(const NoMoreDescriptors&) = delete;
 
-Result shell(const std::string& script) {
-    return PosixProcessRunner().run({"/bin/sh", {"-c", Text(script)}});
+  private:
+    rlimit before_{};
+};
+
+class PosixProcessRunnerTest : public testing::Test {
+  protected:
+    PosixProcessRunnerTest() { loop_.watch(*runner_); }
+    void TearDown() override {
+        EXPECT_TRUE(waitpid(-1, nullptr, WNOHANG) < 0 && errno == ECHILD) << "a process was left";
+    }
+
+    void start(const CommandProcessRequest& request) {
+        outcome_.reset();
+        runner_->start(request, [this](const ProcessOutcome& outcome) {
+            EXPECT_FALSE(outcome_);
+            outcome_ = outcome;
+        });
+    }
+    std::optional<ProcessOutcome> outcome() {
+        loop_.runUntil([this] { return outcome_.has_value(); });
+        return outcome_;
+    }
+    std::optional<ProcessOutcome> run(const CommandProcessRequest& request) {
+        start(request);
+        return outcome();
+    }
+    std::optional<ProcessOutcome> shell(const std::string& script) {
+        return run({"/bin/sh", {"-c", Text(script)}});
+    }
+
+    TestLoop loop_;
+    std::unique_ptr<PosixProcessRunner> runner_ = std::make_unique<PosixProcessRunner>(loop_);
+    std::optional<ProcessOutcome> outcome_;
+};
+
+TEST_F(PosixProcessRunnerTest, AnswersHowTheProgramEnded) {
+    EXPECT_EQ(shell("exit 0"), ProcessOutcome(ProcessEnd{0, false}));
+    EXPECT_EQ(shell("exit 3"), ProcessOutcome(ProcessEnd{3, false}));
+    EXPECT_EQ(shell("kill -TERM $$"), ProcessOutcome(ProcessEnd{SIGTERM, true}));
+    EXPECT_EQ(run({"/bin/sh", {"-c", "test \"$1\" = 'ä \"b\" $c'", "sh", "ä \"b\" $c"}}),
+              ProcessOutcome(ProcessEnd{}));
+    for (const auto& [program, error] :
+         {std::pair{"/no/such/program", ENOENT}, {"/etc/passwd", EACCES}, {"", ENOENT}}) {
+        EXPECT_EQ(run({program, {}}), ProcessOutcome(LaunchFailure{program, error}));
+    }
+    EXPECT_EQ(run({"/bin/sh", {Text(std::string("a\0b", 3))}}),
+              ProcessOutcome(LaunchFailure{"/bin/sh", EINVAL}));
+    EXPECT_GE(loop_.wakeUps(), 4) << "ends are events";
 }
 
-TEST(PosixProcessRunner, AnswersHowTheProgramEnded) {
-    EXPECT_EQ(shell("exit 0"), Result(0));
-    EXPECT_EQ(shell("exit 3"), Result(3));
-    EXPECT_EQ(shell("kill -TERM $$"), Result(SIGTERM));
-    EXPECT_EQ(PosixProcessRunner().run({"/bin/sh", {"-c", "test \"$1\" = 'ä \"b\" $c'", "sh", "ä \"b\" $c"}}),
-              Result(0));
-    EXPECT_EQ(PosixProcessRunner().run({"/no/such/program", {}}), Result(LaunchFailure{ENOENT}));
-    EXPECT_EQ(PosixProcessRunner().run({"/etc/passwd", {}}), Result(LaunchFailure{EACCES}));
-    EXPECT_EQ(PosixProcessRunner().run({"", {}}), Result(LaunchFailure{ENOENT}));
-    EXPECT_EQ(PosixProcessRunner().run({"/bin/sh", {Text(std::string("a\0b", 3))}}),
-              Result(LaunchFailure{EINVAL}));
+TEST_F(PosixProcessRunnerTest, MissesNoEndWithoutDescriptorsOfProcessesOrWithoutStatuses) {
+    for (const char* script : {"exit 4", "sleep 0.3; exit 4"}) {
+        {
+            const NoMoreDescriptors none;
+            start({"/bin/sh", {"-c", script}});
+        }
+        EXPECT_EQ(outcome(), ProcessOutcome(ProcessEnd{4, false})) << script;
+    }
+    EXPECT_EQ(shell("exit 5"), ProcessOutcome(ProcessEnd{5, false}));
+    // The kernel collects children itself then; whoever started this program may have left it so.
+    const auto before = std::signal(SIGCHLD, SIG_IGN);
+    EXPECT_EQ(shell("exit 6"), ProcessOutcome(ProcessEnd{}));
+    static_cast<void>(std::signal(SIGCHLD, before));
 }
 
-TEST(PosixProcessRunner, GivesTheProgramAnUnspoiltStartAndStandsSignals) {
-    sigset_t blocked;
+TEST_F(PosixProcessRunnerTest, GivesTheProgramAnUnspoiltStart) {
+    sigset_t all;
     sigset_t before;
-    sigemptyset(&blocked);
-    sigaddset(&blocked, SIGUSR1);
-    sigprocmask(SIG_BLOCK, &blocked, &before);
-    const auto pipeBefore = std::signal(SIGPIPE, SIG_IGN);
-    EXPECT_EQ(shell("kill -PIPE $$; exit 0"), Result(SIGPIPE));
-    EXPECT_EQ(shell("kill -USR1 $$; exit 0"), Result(SIGUSR1));
-    static_cast<void>(std::signal(SIGPIPE, pipeBefore));
+    sigfillset(&all);
+    sigprocmask(SIG_BLOCK, &all, &before);
+    for (const int ignored : {SIGPIPE, SIGHUP, SIGRTMIN + 1}) {
+        static_cast<void>(std::signal(ignored, SIG_IGN));
+    }
+    setenv("TOVREL_TEST_SET_SINCE", "1", 1); // NOLINT(concurrency-mt-unsafe)
+    EXPECT_EQ(shell("grep '^Sig\\(Blk\\|Ign\\):.*[^0:[:space:]]' /proc/self/status"),
+              ProcessOutcome(ProcessEnd{1, false}))
+        << "no such line";
+    EXPECT_EQ(shell("test -n \"$PATH\" -a -z \"$TOVREL_TEST_SET_SINCE\""), ProcessOutcome(ProcessEnd{}));
+    EXPECT_EQ(shell("test $(cut -d ' ' -f 6 /proc/$$/stat) = $$"), ProcessOutcome(ProcessEnd{}))
+        << "a session of its own";
     sigprocmask(SIG_SETMASK, &before, nullptr);
+}
 
-    struct sigaction interrupt {};
-    struct sigaction old {};
-    interrupt.sa_handler = [](int) {}; // without SA_RESTART, so that the wait is interrupted
-    sigaction(SIGUSR2, &interrupt, &old);
-    EXPECT_EQ(shell("for i in 1 2 3 4 5 6 7 8; do kill -USR2 $PPID; done; exit 5"), Result(5));
-    sigaction(SIGUSR2, &old, nullptr);
+TEST(PosixProcessRunner, LeavesItsProcessesToThemselvesWhenItEnds) {
+    const testing_support::TemporaryDirectory directory;
+    const std::string gate = directory.path() / "gate";
+    const std::string done = directory.path() / "done";
+    ASSERT_EQ(mkfifo(gate.c_str(), 0600), 0);
+    const FileDescriptor opened(open(gate.c_str(), O_RDWR | O_CLOEXEC));
+    TestLoop loop;
+    bool isTold = false;
+    {
+        PosixProcessRunner runner(loop);
+        const NoMoreDescriptors none; // so that a timer waits for it as well
+        runner.start({"/bin/sh", {"-c", Text("ulimit -S -n 64; read word <" + gate + "; : >" + done)}},
+                     [&](const ProcessOutcome&) { isTold = true; });
+    }
+    ASSERT_EQ(write(opened.get(), "go\n", 3), 3);
+    EXPECT_TRUE(loop.runUntil([&] { return access(done.c_str(), F_OK) == 0; }));
+    EXPECT_GT(waitpid(-1, nullptr, 0), 0) << "nobody else has waited for it";
+    EXPECT_TRUE(loop.runUntil([&] { return loop.isIdle(); }));
+    EXPECT_FALSE(isTold);
 }
 
 } // namespace

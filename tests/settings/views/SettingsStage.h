@@ -62,6 +62,7 @@ class SettingsStage {
     CommandHistoryStore history{preferences, "Tovrel.commandHistory", textServices};
     CustomCommandStore customCommands{preferences, "customCommands"};
     PaletteSettingsStore paletteSettings{preferences, "paletteSettings"};
+    NotificationSettingsStore notifications{preferences, "notifications.commandFailures"};
     MemoryHotKeyCenter hotKeyCenter;
     AskingUserInterface userInterface;
     MemoryWorkspace workspace;

@@ -128,6 +128,9 @@ TEST_F(SettingsViewTest, GeneralAndAppRulesReachTheStores) {
     click("showCheckedStatus");
     EXPECT_FALSE(stage_.paletteSettings.showCheckedStatus().get());
     EXPECT_FALSE(item("showCheckedStatus")->property("isOn").toBool());
+    click("notifiesOfCommandFailures");
+    EXPECT_FALSE(stage_.notifications.commandFailures());
+    EXPECT_FALSE(item("notifiesOfCommandFailures")->property("isOn").toBool());
 
     stage_.show(SettingsTab::appRules);
     EXPECT_EQ(textOf("currentName"), "FeatherPad");

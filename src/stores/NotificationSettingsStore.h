@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "platform/PreferencesDomain.h"
+
+namespace tovrel {
+
+/// What the user wants to be notified of. Read anew each time.
+class NotificationSettingsStore {
+  public:
+    NotificationSettingsStore(PreferencesDomain& defaults, std::string commandFailuresKey)
+        : defaults_(&defaults), commandFailuresKey_(std::move(commandFailuresKey)) {}
+
+    /// Custom commands that fail. Default, also for a value of another type: true.
+    [[nodiscard]] bool commandFailures() const {
+        return booleanValue(*defaults_, commandFailuresKey_).value_or(true);
+    }
+    void setCommandFailures(bool isWanted) { defaults_->set(commandFailuresKey_, isWanted); }
+
+  private:
+    PreferencesDomain* defaults_;
+    std::string commandFailuresKey_;
+};
+
+} // namespace tovrel

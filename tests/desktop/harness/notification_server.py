@@ -1,0 +1,41 @@
+"""A server of desktop notifications that shows nothing and remembers everything."""
+
+from .bus_connection import BusConnection
+
+NAME = "org.freedesktop.Notifications"
+PATH = "/org/freedesktop/Notifications"
+INTERFACE = f"""
+<node><interface name="{NAME}">
+  <method name="GetCapabilities"><arg type="as" direction="out"/></method>
+  <method name="Notify">
+    <arg type="s" direction="in"/><arg type="u" direction="in"/><arg type="s" direction="in"/>
+    <arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="as" direction="in"/>
+    <arg type="a{{sv}}" direction="in"/><arg type="i" direction="in"/><arg type="u" direction="out"/>
+  </method>
+</interface></node>
+"""
+
+
+class NotificationServer:
+    """One on a session bus, until it is closed."""
+
+    def __init__(self, session_address):
+        self._bus = BusConnection(session_address)
+        self._shown = []
+        self._bus.serve(NAME, PATH, INTERFACE, {"GetCapabilities": self._capabilities, "Notify": self._notify})
+
+    def close(self):
+        self._bus.close()
+
+    def shown(self):
+        """Title and body of each notification, the oldest first."""
+        self._bus.hear()
+        return self._shown
+
+    @staticmethod
+    def _capabilities():
+        return "(as)", (["body"],)
+
+    def _notify(self, _application, _replaces, _icon, title, body, *_):
+        self._shown.append((title, body))
+        return "(u)", (len(self._shown),)
