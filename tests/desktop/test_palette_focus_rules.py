@@ -22,6 +22,43 @@ class FocusRules:
             self.wait_until_in_front(editor)
         self.assertEqual(editor.text().strip(), TEXT.strip())
 
+    def test_escape_gives_the_focus_back_below_another_window(self):
+        editor, _ = self.open_text("mousepad", TEXT)
+        other, _ = self.open_text("featherpad", TEXT)
+        windows = self.desktop.windows
+        windows.place(editor.window, 100, 100, 500, 400)
+        windows.place(other.window, 300, 200, 500, 400)
+        self.start_resident()
+        windows.give_focus(editor.window)
+        self.wait_until_in_front(editor)
+        for _ in range(3):
+            self.open_palette()
+            self.press("Escape")
+            self.wait_until_closed()
+            self.wait_until_in_front(editor)
+            self.assertEqual(windows.stacking()[-1], other.window)
+
+    def test_the_window_manager_killed(self):
+        editor, _ = self.open_text("mousepad", TEXT)
+        self.start_resident()
+        self.desktop.kill_window_manager()
+        self.addCleanup(self.desktop.start_window_manager)
+        windows = self.desktop.windows
+        windows.give_focus(editor.window)
+        for word in ("abcdef", "delete line"):
+            self.keyboard.chord(*HOT_KEY).type(word).send()
+            self.wait_until(lambda: self.resident.query() == word, "all letters")
+            self.press("Return" if word == "delete line" else "Escape")
+            self.wait_until_closed()
+            self.wait_until(lambda: windows.focused() == editor.window, "the editor to have the focus")
+        self.wait_until(lambda: editor.text() == "", "the line to be deleted")
+        self.keyboard.type("x").send()
+        self.wait_until(lambda: editor.text() == "x", "the letter typed afterwards")
+
+
+class OpenboxTests(FocusRules, PaletteTestCase):
+    """The window manager of the other tests."""
+
 
 class MetacityTests(FocusRules, PaletteTestCase):
     """Gives a window that is shown the focus only if it tells by which key press it was caused."""

@@ -25,7 +25,7 @@ QRegion roundedRegion(QSize size) {
 
 FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, const Description& description)
     : windowSystem_(std::move(windowSystem)), view_(&engine.qml(), nullptr),
-      activation_(view_, windowSystem_) {
+      activation_(view_, windowSystem_, WindowStay::brief) {
     view_.setFlags(description.type | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     view_.setTitle(description.title);
     view_.setColor(Qt::transparent);

@@ -20,7 +20,7 @@ constexpr QSize contentSize(920, 620);
 
 QtSettingsWindow::QtSettingsWindow(Surroundings surroundings)
     : surroundings_(std::move(surroundings)), view_(&surroundings_.engine.qml(), nullptr),
-      activation_(view_, surroundings_.windowSystem) {
+      activation_(view_, surroundings_.windowSystem, WindowStay::lasting) {
     view_.setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
     view_.setTitle(QStringLiteral("Tovrel"));

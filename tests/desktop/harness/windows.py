@@ -75,7 +75,7 @@ class Windows:
         return int(answer) if answer.isdigit() and int(answer) > 1 else None
 
     def give_focus(self, window):
-        """Sets the input focus, as only one does who has no window manager to ask."""
+        """Sets the input focus without asking a window manager: the window stays below those that are above it."""
         self._xdotool("windowfocus", str(window))
 
     def _window_property(self, window, name):
