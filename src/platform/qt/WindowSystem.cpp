@@ -52,6 +52,8 @@ WindowSystem makeWindowSystem(std::function<std::uint32_t()> userTime) {
             return [x11, focused] { x11.setInputFocus(focused); };
         },
         .isManaged = [x11] { return x11.hasWindowManager(); },
+        .isFirstButtonDown = [x11] { return x11.isFirstButtonDown(); },
+        .endMove = [x11](QWindow& window) { x11.askToEndMove(windowOf(window)); },
         .activeWindowFrame = [x11] { return x11.activeWindowFrame(); },
     };
 }

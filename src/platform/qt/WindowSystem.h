@@ -33,6 +33,13 @@ struct WindowSystem {
     /// Whether someone gives the focus to another window when one that has it goes.
     std::function<bool()> isManaged = [] { return true; };
 
+    /// Whether the first button of the pointer is down now, whatever events are still on their way.
+    std::function<bool()> isFirstButtonDown = [] { return true; };
+
+    /// Called when the button is up with which a window was being moved: a window manager that was asked to
+    /// move it only a moment before would wait for that.
+    std::function<void(QWindow&)> endMove = [](QWindow&) {};
+
     /// The active window, whoever's, in pixels of the screen with y growing downwards.
     std::function<std::optional<QRect>()> activeWindowFrame = [] { return std::optional<QRect>(); };
 };

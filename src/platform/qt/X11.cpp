@@ -54,6 +54,12 @@ void X11::setInputFocus(xcb_window_t window) const {
     owned(xcb_request_check(connection_, request));
 }
 
+bool X11::isFirstButtonDown() const {
+    const auto reply =
+        owned(xcb_query_pointer_reply(connection_, xcb_query_pointer(connection_, root_), nullptr));
+    return reply && (reply->mask & XCB_BUTTON_MASK_1) != 0;
+}
+
 bool X11::isWithin(xcb_window_t window, xcb_window_t ancestor) const {
     // The focus may also be nowhere or follow the pointer; those two values are no windows.
     constexpr int deepest = 16;
@@ -91,6 +97,11 @@ std::optional<QRect> X11::activeWindowFrame() const {
 void X11::askToActivate(xcb_window_t window, std::uint32_t time) const {
     constexpr std::uint32_t onOrderOfTheUser = 2; // EWMH 1.5, source indication
     sendToWindowManager(window, "_NET_ACTIVE_WINDOW", {onOrderOfTheUser, time});
+}
+
+void X11::askToEndMove(xcb_window_t window) const {
+    constexpr std::uint32_t cancel = 11; // EWMH 1.5, _NET_WM_MOVERESIZE_CANCEL
+    sendToWindowManager(window, "_NET_WM_MOVERESIZE", {0, 0, cancel});
 }
 
 void X11::sendToWindowManager(xcb_window_t window, std::string_view message,

@@ -24,6 +24,7 @@ class X11 {
     [[nodiscard]] xcb_window_t inputFocus() const;
     /// A window that is gone or cannot be seen does not get it.
     void setInputFocus(xcb_window_t window) const;
+    [[nodiscard]] bool isFirstButtonDown() const;
     /// Whether the window is the ancestor or lies in it.
     [[nodiscard]] bool isWithin(xcb_window_t window, xcb_window_t ancestor) const;
 
@@ -33,6 +34,8 @@ class X11 {
     [[nodiscard]] std::optional<QRect> activeWindowFrame() const;
     /// Asks the window manager to activate the window on behalf of what the user did at `time`.
     void askToActivate(xcb_window_t window, std::uint32_t time) const;
+    /// Asks the window manager to move the window no longer with the pointer, if it does.
+    void askToEndMove(xcb_window_t window) const;
 
   private:
     explicit X11(xcb_connection_t* connection);

@@ -62,6 +62,22 @@ class Windows:
         x, y, width, height = self.geometry(window)
         self._xdotool("mousemove", str(x + width // 2), str(y + height // 2), "click", str(button))
 
+    def point_at(self, x, y):
+        self._xdotool("mousemove", str(x), str(y))
+
+    def move_pointer(self, right, down):
+        self._xdotool("mousemove_relative", "--", str(right), str(down))
+
+    def hold_button(self):
+        self._xdotool("mousedown", "1")
+
+    def release_button(self):
+        self._xdotool("mouseup", "1")
+
+    def flick(self, right, down):
+        """A drag that is over before anyone can have done anything about it."""
+        self._xdotool("mousedown", "1", "mousemove_relative", "--", str(right), str(down), "mouseup", "1")
+
     def has_window_manager(self):
         # It announces itself before it listens; then it tells, in an order of its own, of windows and focus.
         announced = self._window_property(None, "_NET_SUPPORTING_WM_CHECK")
