@@ -36,6 +36,14 @@ class Windows:
         return tuple(int(values[name]) for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width",
                                                     "Height"))
 
+    def frame(self, window):
+        """As `geometry`, with what the window manager draws around the window."""
+        left, top, width, height = self.geometry(window)
+        answer = self._run("xprop", "-id", str(window), "_NET_FRAME_EXTENTS").stdout.rpartition("=")[2]
+        extents = [int(number) for number in answer.split(",") if number.strip().isdigit()]
+        before, after, above, below = extents if len(extents) == 4 else (0, 0, 0, 0)
+        return left - before, top - above, width + before + after, height + above + below
+
     def stacking(self):
         """The windows that the window manager knows, the lowest first."""
         answer = self._run("xprop", "-root", "_NET_CLIENT_LIST_STACKING").stdout
