@@ -115,6 +115,14 @@ class Desktop:
         self._window_manager_process.kill()
         self._window_manager_process.wait()
 
+    def replace_session_bus(self):
+        """Ends the session bus and starts another one at the same address. Who was on the first is on none."""
+        self.processes.end(self._session_bus)
+        self._session_bus = start_session_bus(self.processes, self.environment)
+
+    def end_session_bus(self):
+        self.processes.end(self._session_bus)
+
     def _set_up(self):
         root = Path(tempfile.mkdtemp(prefix="tovrel-desktop-"))
         self._teardown.callback(shutil.rmtree, root, ignore_errors=True)
