@@ -1,6 +1,7 @@
 #include "app/ResidentClient.h"
 
 #include <chrono>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -14,29 +15,32 @@ using namespace std::chrono_literals;
 
 constexpr auto patience = 5s;
 
-DBusConnection sessionBus() {
-    auto bus = DBusConnection::openSessionBus();
-    if (!bus) {
-        throw Failure("there is no session bus to find the running tovrel on");
-    }
-    return *std::move(bus);
+class NotRunning : public Failure {
+  public:
+    NotRunning() : Failure("tovrel is not running") {}
+};
+
+/// Where one bus serves several displays, the resident program of another one is no use here.
+bool isOfAnotherDisplay(const ResidentStatus& status) {
+    const std::string own = displayName();
+    return !status.display.empty() && !own.empty() && status.display != own;
 }
 
-DBusMessage answered(DBusConnection& bus, const DBusMessage& call, bool mayStart) {
+DBusMessage answered(DBusConnection& connection, const DBusMessage& call, bool mayStart) {
     if (!call) {
         throw Failure("out of memory");
     }
     if (!mayStart) {
         sd_bus_message_set_auto_start(call.handle(), 0);
     }
-    auto answer = bus.call(call, std::chrono::steady_clock::now() + patience);
+    auto answer = connection.call(call, std::chrono::steady_clock::now() + patience);
     if (!answer) {
         throw Failure("the running tovrel does not answer");
     }
     const std::string_view error = answer->errorName();
     if (error == "org.freedesktop.DBus.Error.ServiceUnknown" ||
         error == "org.freedesktop.DBus.Error.NameHasNoOwner") {
-        throw Failure("tovrel is not running");
+        throw NotRunning();
     }
     if (!error.empty()) {
         throw Failure("the running tovrel answered " + std::string(error));
@@ -78,6 +82,8 @@ void readProperty(DBusMessage& message, std::string_view name, ResidentStatus& s
         readFlag(message, status.isAccessibilityTrusted);
     } else if (name == "Shortcut") {
         readText(message, status.shortcut);
+    } else if (name == "Display") {
+        readText(message, status.display);
     } else if (name == "Target") {
         readText(message, status.target);
     } else {
@@ -87,7 +93,37 @@ void readProperty(DBusMessage& message, std::string_view name, ResidentStatus& s
 
 } // namespace
 
-ResidentClient::ResidentClient() : bus_(sessionBus()) {}
+ResidentClient::ResidentClient() : ResidentClient(ofThisDisplay()) {}
+
+std::optional<ResidentClient> ResidentClient::ofSeat(const ResidentSeat& seat) {
+    auto direct = DBusConnection::openPeer(seat.address());
+    return direct ? std::optional(ResidentClient(*std::move(direct), nullptr)) : std::nullopt;
+}
+
+ResidentClient ResidentClient::ofSessionBus() {
+    auto bus = DBusConnection::openSessionBus();
+    if (!bus) {
+        throw Failure("there is no session bus to find the running tovrel on");
+    }
+    return {*std::move(bus), dbus_names::service};
+}
+
+ResidentClient ResidentClient::ofThisDisplay() {
+    const auto seat = ResidentSeat::ofEnvironment();
+    auto direct = seat ? ofSeat(*seat) : std::nullopt;
+    if (direct) {
+        return *std::move(direct);
+    }
+    ResidentClient client = ofSessionBus();
+    try {
+        if (!isOfAnotherDisplay(client.status())) {
+            return client;
+        }
+    } catch (const NotRunning&) {
+        return client; // The bus may know how to start it.
+    }
+    throw Failure("tovrel is not running on this display");
+}
 
 void ResidentClient::toggle() {
     call("Toggle", true);
@@ -106,12 +142,12 @@ void ResidentClient::quit() {
 }
 
 ResidentStatus ResidentClient::status() {
-    const DBusMessage call = bus_.methodCall(dbus_names::service, dbus_names::objectPath,
-                                             "org.freedesktop.DBus.Properties", "GetAll");
+    const DBusMessage call = connection_.methodCall(destination_, dbus_names::objectPath,
+                                                    "org.freedesktop.DBus.Properties", "GetAll");
     if (call) {
         sd_bus_message_append(call.handle(), "s", dbus_names::interface);
     }
-    DBusMessage answer = answered(bus_, call, false);
+    DBusMessage answer = answered(connection_, call, false);
     ResidentStatus status;
     sd_bus_message* handle = answer.handle();
     if (sd_bus_message_enter_container(handle, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
@@ -126,9 +162,22 @@ ResidentStatus ResidentClient::status() {
 }
 
 void ResidentClient::call(const char* member, bool mayStart) {
-    answered(bus_,
-             bus_.methodCall(dbus_names::service, dbus_names::objectPath, dbus_names::interface, member),
+    answered(connection_,
+             connection_.methodCall(destination_, dbus_names::objectPath, dbus_names::interface, member),
              mayStart);
+}
+
+bool isShownOverSessionBus() {
+    try {
+        ResidentClient client = ResidentClient::ofSessionBus();
+        if (isOfAnotherDisplay(client.status())) {
+            return false;
+        }
+        client.show();
+        return true;
+    } catch (const Failure&) {
+        return false;
+    }
 }
 
 } // namespace tovrel

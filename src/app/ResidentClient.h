@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 
+#include "app/ResidentSeat.h"
 #include "platform/linux/DBus.h"
 
 namespace tovrel {
@@ -15,15 +17,22 @@ struct ResidentStatus {
     bool isPaletteVisible = false;
     bool isAccessibilityTrusted = false;
     std::string shortcut; ///< For people, such as "Ctrl+Shift+P"; empty when there is none.
+    std::string display;  ///< Where it shows its windows, as `displayName` says it.
     std::string target;   ///< Identifier of the application the palette was last prepared for; may be empty.
 };
 
-/// Speaks to the resident program over the session bus. Throws Failure when there is no session bus, the
-/// program does not run, or it does not answer within 5 s; a custom command that it waits for may take that
-/// long.
+/// Speaks to the resident program: to that of this display directly, and where none has its seat there, to
+/// whichever has the name on the session bus. Throws Failure when neither can be found, or the program does
+/// not answer within 5 s.
 class ResidentClient {
   public:
     ResidentClient();
+
+    /// Directly to who has this seat; absent when nobody listens there, as while one is just starting or
+    /// ending.
+    static std::optional<ResidentClient> ofSeat(const ResidentSeat& seat);
+    /// To who has the name on the session bus.
+    static ResidentClient ofSessionBus();
 
     /// Opens the palette, or closes it. Has the bus start the program if that knows how.
     void toggle();
@@ -35,9 +44,18 @@ class ResidentClient {
     [[nodiscard]] ResidentStatus status();
 
   private:
+    /// `destination` is null for a direct connection.
+    ResidentClient(DBusConnection connection, const char* destination)
+        : connection_(std::move(connection)), destination_(destination) {}
+
+    static ResidentClient ofThisDisplay();
     void call(const char* member, bool mayStart);
 
-    DBusConnection bus_;
+    DBusConnection connection_;
+    const char* destination_;
 };
+
+/// Whether the session bus knows a resident program of this display; it then shows its palette.
+bool isShownOverSessionBus();
 
 } // namespace tovrel

@@ -1,8 +1,6 @@
 """Applications that hang or vanish cost a bounded time and a clear word, never a hang of our own."""
 
-import contextlib
 import subprocess
-import time
 
 from harness.testing import DesktopTestCase, main
 
@@ -12,12 +10,6 @@ NO_HANG = 8.0
 
 
 class HungApplicationTests(DesktopTestCase):
-    @contextlib.contextmanager
-    def answers_in_time(self):
-        begun = time.monotonic()
-        yield
-        self.assertLess(time.monotonic() - begun, NO_HANG)
-
     def test_a_stopped_application_is_said_to_hang_and_read_again_when_it_goes_on(self):
         for editor in ("mousepad", "featherpad"):
             with self.subTest(editor=editor):
@@ -25,21 +17,19 @@ class HungApplicationTests(DesktopTestCase):
                 before = self.tovrel.expect("menus", "--json", "--pid", application.pid).json
                 application.stop()
                 for source in (["--pid", application.pid], []):
-                    with self.answers_in_time():
-                        answer = self.tovrel.run("menus", *source)
+                    answer = self.tovrel.run("menus", *source, deadline=NO_HANG)
                     self.assert_fails_in_one_line(answer, mentioning="answer|respond|time")
                 application.resume()
-                after = self.wait_until(lambda: self.tovrel.run("menus", "--json", "--pid", application.pid),
-                                        "an answer")
-                self.assertEqual(after.json, before)
+                self.wait_until(lambda: self.tovrel.run("menus", "--pid", application.pid).status == 0, "an answer")
+                after = self.tovrel.expect("menus", "--json", "--pid", application.pid).json
+                self.assertEqual(after, before)
 
     def test_a_stopped_application_does_not_delay_another(self):
         hung, _ = self.open_text("featherpad", "one\n")
         editor, _ = self.open_text("mousepad", "two\n")
         before = self.tovrel.expect("menus", "--json", "--pid", editor.pid)
         hung.stop()
-        with self.answers_in_time():
-            answer = self.tovrel.expect("menus", "--json", "--pid", editor.pid)
+        answer = self.tovrel.expect("menus", "--json", "--pid", editor.pid, deadline=NO_HANG)
         self.assertEqual(answer, before)  # Nothing on standard error either.
 
     def test_an_application_killed_before_the_press(self):
@@ -59,8 +49,7 @@ class HungApplicationTests(DesktopTestCase):
                               env=self.desktop.environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
                               text=True) as press:
             application.kill()
-            with self.answers_in_time():
-                output, errors = press.communicate(timeout=NO_HANG)
+            output, errors = press.communicate(timeout=NO_HANG)
         self.assertEqual((press.returncode, output), (1, ""))
         self.assertRegex(errors, r"\Atovrel: [^\n]+\n\Z")
 

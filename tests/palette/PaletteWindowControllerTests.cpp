@@ -106,6 +106,14 @@ TEST_F(PaletteWindowControllerTest, ThePanelIsCentredAboveTheMiddleOfTheMainScre
     userInterface_.setVisibleFrame(Rect{{1920, -100}, {1280, 700}});
     controller_.positionWindow();
     EXPECT_EQ(panel_->origin(), (Point{2220, 100}));
+    // Where there is less room, what matters most stays in sight: the search field at the top.
+    const Point top{(960 - 680) / 2.0, 40 + 540 - 460};
+    userInterface_.setVisibleFrame(Rect{{0, 40}, {960, 540}});
+    controller_.positionWindow();
+    EXPECT_EQ(panel_->origin(), top);
+    userInterface_.setVisibleFrame(Rect{{10, 0}, {400, 300}});
+    controller_.positionWindow();
+    EXPECT_EQ(panel_->origin(), (Point{10, 300 - 460}));
 }
 
 TEST(PaletteDismissalPolicyTest, WithoutAnOwnIdentifierEveryActivationDismisses) {

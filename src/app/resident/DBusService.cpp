@@ -1,10 +1,9 @@
 #include "app/resident/DBusService.h"
 
 #include <QCoreApplication>
-#include <QDBusConnection>
 #include <utility>
 
-#include "app/DBusNames.h"
+#include "app/ResidentSeat.h"
 
 namespace tovrel {
 
@@ -12,13 +11,6 @@ DBusService::DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutForP
                          std::function<void()> quit)
     : coordinator_(std::move(coordinator)), shortcutForPeople_(std::move(shortcutForPeople)),
       quit_(std::move(quit)) {}
-
-bool DBusService::registerOnSessionBus() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    return bus.registerObject(dbus_names::objectPath, this,
-                              QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties) &&
-           bus.registerService(dbus_names::service);
-}
 
 QString DBusService::version() const {
     return TOVREL_VERSION;
@@ -47,6 +39,10 @@ QString DBusService::target() const {
     const auto application = coordinator ? coordinator->currentApplication() : nullptr;
     const auto identifier = application ? application->bundleIdentifier() : std::nullopt;
     return identifier ? QString::fromStdString(identifier->utf8()) : QString();
+}
+
+QString DBusService::display() const {
+    return QString::fromStdString(displayName());
 }
 
 void DBusService::Toggle() {

@@ -9,7 +9,7 @@
 
 namespace tovrel {
 
-/// What other programs may ask of the resident one, over the session bus. Nothing here runs a command: it can
+/// What other programs may ask of the resident one, over D-Bus. Nothing here runs a command: it can
 /// only show the palette and the settings, where the user chooses.
 class DBusService : public QObject {
     Q_OBJECT
@@ -20,6 +20,7 @@ class DBusService : public QObject {
     Q_PROPERTY(bool AccessibilityTrusted READ isAccessibilityTrusted)
     Q_PROPERTY(QString Shortcut READ shortcut)
     Q_PROPERTY(QString Target READ target)
+    Q_PROPERTY(QString Display READ display CONSTANT)
 
   public:
     /// The shortcut as people read it, or empty.
@@ -28,16 +29,13 @@ class DBusService : public QObject {
     DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutForPeople shortcutForPeople,
                 std::function<void()> quit);
 
-    /// Offers the object and then takes the name. False when there is no session bus or another process has
-    /// the name.
-    bool registerOnSessionBus();
-
     [[nodiscard]] QString version() const;
     [[nodiscard]] uint processIdentifier() const;
     [[nodiscard]] bool isPaletteVisible() const;
     [[nodiscard]] bool isAccessibilityTrusted() const;
     [[nodiscard]] QString shortcut() const;
     [[nodiscard]] QString target() const;
+    [[nodiscard]] QString display() const;
 
     // Named as methods are on the bus. NOLINTBEGIN(readability-identifier-naming)
   public Q_SLOTS:

@@ -1,29 +1,62 @@
 #include "app/resident/Resident.h"
 
 #include <QApplication>
+#include <chrono>
 #include <filesystem>
 #include <iostream>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "app/DBusNames.h"
 #include "app/Failure.h"
 #include "app/ResidentClient.h"
+#include "app/ResidentSeat.h"
 #include "app/resident/EndSignals.h"
 #include "app/resident/ResidentProgram.h"
+#include "app/resident/SeatLock.h"
 #include "platform/linux/X11Connection.h"
 #include "platform/qt/ViewEngine.h"
 
 namespace tovrel {
 namespace {
 
-/// Whether one runs already; it then shows its palette.
-bool isShownByAnother() {
+using namespace std::chrono_literals;
+
+/// Of one that is just starting and does not listen yet, or just ending.
+constexpr auto patienceWithAnother = 5s;
+constexpr auto pauseBetweenAttempts = 10ms;
+
+bool isShownBy(const ResidentSeat& seat) {
     try {
-        ResidentClient().show();
-        return true;
+        auto client = ResidentClient::ofSeat(seat);
+        if (client) {
+            client->show();
+        }
+        return client.has_value();
     } catch (const Failure&) {
         return false;
+    }
+}
+
+/// The seat of this display for this process; null when another has it, which then has shown its palette.
+std::unique_ptr<SeatLock> lockUnlessShown(const ResidentSeat& seat) {
+    const auto deadline = std::chrono::steady_clock::now() + patienceWithAnother;
+    for (;;) {
+        auto lock = std::make_unique<SeatLock>(seat);
+        if (!lock->isTakenByAnother()) {
+            return lock;
+        }
+        if (isShownBy(seat)) {
+            return nullptr;
+        }
+        if (std::chrono::steady_clock::now() >= deadline) {
+            if (isShownOverSessionBus()) {
+                return nullptr;
+            }
+            throw Failure("the running tovrel does not answer");
+        }
+        std::this_thread::sleep_for(pauseBetweenAttempts); // Nothing tells when it listens, or has ended.
     }
 }
 
@@ -33,7 +66,9 @@ int runResident(const command_line::Invocation& invocation, const Console& conso
     if (!X11Connection().isOpen()) {
         throw Failure("there is no X display to show the palette on");
     }
-    if (isShownByAnother()) {
+    const auto seat = ResidentSeat::ofEnvironment();
+    const auto lock = seat ? lockUnlessShown(*seat) : nullptr;
+    if ((seat && !lock) || isShownOverSessionBus()) {
         return 0;
     }
     EndSignals endSignals;
@@ -49,9 +84,8 @@ int runResident(const command_line::Invocation& invocation, const Console& conso
     QApplication::setDesktopFileName(dbus_names::service);
     QApplication::setQuitOnLastWindowClosed(false);
 
-    ResidentProgram program(invocation, console);
+    ResidentProgram program(invocation, console, seat);
     if (!program.start()) {
-        ResidentClient().show(); // another was quicker
         return 0;
     }
     endSignals.onSignal([] { QApplication::quit(); });

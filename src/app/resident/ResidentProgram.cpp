@@ -1,12 +1,12 @@
 #include "app/resident/ResidentProgram.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <filesystem>
 #include <utility>
 
 #include "app/DBusNames.h"
 #include "app/ErrorLine.h"
+#include "app/ResidentClient.h"
 #include "app/ShortcutForPeople.h"
 #include "platform/linux/PreferencesFile.h"
 #include "platform/linux/VirtualKeyCodes.h"
@@ -27,7 +27,8 @@ bool fileExists(const Text& path) {
 
 } // namespace
 
-ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, const Console& console)
+ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, const Console& console,
+                                 const std::optional<ResidentSeat>& seat)
     : console_(&console), preferences_(preferencesFile(invocation.preferencesFile), {},
                                        SqlitePreferencesDomain::interactivePatience),
       textServices_(invocation.localeIdentifier), windows_(std::make_shared<X11Windows>()),
@@ -48,22 +49,26 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
       coordinator_(std::make_shared<AppCoordinator>(platform())),
       service_(
           coordinator_, [this] { return toggleShortcutForPeople(); }, [] { QApplication::quit(); }),
-      activationEvents_(workspace_->activationEvents()),
+      busPresence_(service_), activationEvents_(workspace_->activationEvents()),
       // That the user has come back to an application is older than the hot key pressed there.
-      hotKeyEvents_(hotKeys_, &workspace_->activationEvents()), processEnds_(processRunner_) {}
-
-ResidentProgram::~ResidentProgram() {
-    // Calls that the bus still delivers must not find what is half gone.
-    QDBusConnection::sessionBus().unregisterObject(dbus_names::objectPath);
+      hotKeyEvents_(hotKeys_, &workspace_->activationEvents()), processEnds_(processRunner_) {
+    if (seat) {
+        seatServer_.emplace(*seat, service_);
+    }
 }
 
 bool ResidentProgram::start() {
-    if (!service_.registerOnSessionBus()) {
-        if (QDBusConnection::sessionBus().isConnected()) {
+    switch (busPresence_.appear()) {
+    case BusPresence::Outcome::hasName:
+        break;
+    case BusPresence::Outcome::waitsForName:
+        if (isShownOverSessionBus()) {
             return false;
         }
-        printErrorLine(console_->error,
-                       "there is no session bus: only the shortcut and the status bar reach this program");
+        break;
+    case BusPresence::Outcome::noBus:
+        printErrorLine(console_->error, "there is no session bus: other programs cannot reach this one");
+        break;
     }
     coordinator_->start();
     queue_.post([weak = std::weak_ptr(coordinator_)] {

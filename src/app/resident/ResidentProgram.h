@@ -7,9 +7,12 @@
 #include "app/AppCoordinator.h"
 #include "app/CommandLine.h"
 #include "app/Console.h"
+#include "app/ResidentSeat.h"
 #include "app/resident/AccessibilityOffer.h"
+#include "app/resident/BusPresence.h"
 #include "app/resident/DBusService.h"
 #include "app/resident/EventSourceWatch.h"
+#include "app/resident/SeatServer.h"
 #include "platform/linux/AtspiBus.h"
 #include "platform/linux/DesktopEntries.h"
 #include "platform/linux/LinuxAccessibility.h"
@@ -34,16 +37,17 @@
 namespace tovrel {
 
 /// The resident program put together: the platform of an X11 desktop, the coordinator on it, and the service
-/// on the session bus. Needs the application object, and is gone before that is.
+/// on D-Bus. Needs the application object, and is gone before that is.
 class ResidentProgram {
   public:
-    ResidentProgram(const command_line::Invocation& invocation, const Console& console);
-    ~ResidentProgram();
+    /// `seat` is this process's own; without one it is only to be found on the session bus.
+    ResidentProgram(const command_line::Invocation& invocation, const Console& console,
+                    const std::optional<ResidentSeat>& seat);
     ResidentProgram(const ResidentProgram&) = delete;
     ResidentProgram& operator=(const ResidentProgram&) = delete;
 
-    /// False when another process has become the resident program meanwhile. Without a session bus it runs
-    /// all the same and says so.
+    /// False when another process has become the resident program of this display meanwhile; it shows its
+    /// palette then. Without a session bus this one runs all the same and says so.
     [[nodiscard]] bool start();
 
   private:
@@ -81,6 +85,9 @@ class ResidentProgram {
     SettingsWindowController settingsWindowController_;
     std::shared_ptr<AppCoordinator> coordinator_;
     DBusService service_;
+    // They go before what they offer.
+    BusPresence busPresence_;
+    std::optional<SeatServer> seatServer_;
     EventSourceWatch activationEvents_;
     EventSourceWatch hotKeyEvents_;
     EventSourceWatch processEnds_;

@@ -7,6 +7,8 @@ FocusScope {
 
     required property AlertQuestion question
 
+    signal moveWanted()
+
     implicitWidth: 464
     implicitHeight: texts.y + texts.height + 24 + first.implicitHeight + 24
     focus: true
@@ -23,6 +25,7 @@ FocusScope {
     }
     WindowDragArea {
         anchors.fill: parent
+        onMoveWanted: view.moveWanted()
     }
 
     Rectangle {

@@ -7,6 +7,8 @@ FocusScope {
 
     required property PaletteViewAdapter palette
 
+    signal moveWanted()
+
     implicitWidth: 680
     implicitHeight: 460
     focus: true
@@ -40,6 +42,7 @@ FocusScope {
     }
     WindowDragArea {
         anchors.fill: parent
+        onMoveWanted: view.moveWanted()
     }
 
     Item {

@@ -81,12 +81,20 @@ std::optional<std::vector<std::uint32_t>> DBusMessage::readUint32Array() {
 }
 
 std::optional<DBusConnection> DBusConnection::open(const std::string& address) {
+    return open(address, true);
+}
+
+std::optional<DBusConnection> DBusConnection::openPeer(const std::string& address) {
+    return open(address, false);
+}
+
+std::optional<DBusConnection> DBusConnection::open(const std::string& address, bool isBus) {
     sd_bus* raw = nullptr;
     if (sd_bus_new(&raw) < 0) {
         return std::nullopt;
     }
     Bus bus(raw);
-    if (sd_bus_set_address(raw, address.c_str()) < 0 || sd_bus_set_bus_client(raw, 1) < 0 ||
+    if (sd_bus_set_address(raw, address.c_str()) < 0 || sd_bus_set_bus_client(raw, isBus ? 1 : 0) < 0 ||
         sd_bus_start(raw) < 0) {
         return std::nullopt;
     }

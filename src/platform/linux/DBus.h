@@ -50,15 +50,18 @@ class DBusMessage {
 /// no callback is registered: answers come out of `receive`, so no exception ever crosses a C frame.
 class DBusConnection {
   public:
-    /// Begins to connect; calls may be sent at once and are delivered when the bus has accepted the
+    /// Begins to connect to a bus; calls may be sent at once and are delivered when the bus has accepted the
     /// connection. Absent when the address is malformed or nobody listens there.
     static std::optional<DBusConnection> open(const std::string& address);
     /// The same for the session bus of this process's environment.
     static std::optional<DBusConnection> openSessionBus();
+    /// The same for one program that listens there itself, whose calls have no destination.
+    static std::optional<DBusConnection> openPeer(const std::string& address);
 
     [[nodiscard]] bool isOpen() const { return !lost_ && sd_bus_is_open(bus_.get()) > 0; }
 
-    /// A call without arguments yet; empty when a name or the path is malformed.
+    /// A call without arguments yet; empty when a name or the path is malformed. `destination` is null for a
+    /// peer.
     [[nodiscard]] DBusMessage methodCall(const char* destination, const char* path, const char* interface,
                                          const char* member) const;
 
@@ -79,6 +82,8 @@ class DBusConnection {
         void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
     };
     using Bus = std::unique_ptr<sd_bus, Close>;
+
+    static std::optional<DBusConnection> open(const std::string& address, bool isBus);
 
     explicit DBusConnection(Bus bus) : bus_(std::move(bus)) {}
 

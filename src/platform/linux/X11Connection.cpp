@@ -49,6 +49,17 @@ std::vector<std::uint32_t> X11Connection::numbers(xcb_window_t window, const cha
     return X11Properties(*this, window, {name}).numbers(name);
 }
 
+bool X11Connection::hasWindowManager() {
+    constexpr const char* check = "_NET_SUPPORTING_WM_CHECK";
+    const auto announced = numbers(root_, check);
+    return !announced.empty() && numbers(announced.front(), check) == announced;
+}
+
+std::optional<xcb_window_t> X11Connection::activeWindow() {
+    const auto active = numbers(root_, "_NET_ACTIVE_WINDOW");
+    return !active.empty() && hasWindowManager() ? std::optional(active.front()) : std::nullopt;
+}
+
 void X11Connection::watchRootProperties(bool isWanted) {
     if (isOpen()) {
         const std::uint32_t mask = isWanted ? std::uint32_t{XCB_EVENT_MASK_PROPERTY_CHANGE} : 0;

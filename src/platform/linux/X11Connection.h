@@ -38,6 +38,14 @@ class X11Connection {
     [[nodiscard]] std::optional<std::string> bytes(xcb_window_t window, const char* property);
     [[nodiscard]] std::vector<std::uint32_t> numbers(xcb_window_t window, const char* property);
 
+    /// Whether a window manager runs: the window that it announced itself by exists, and names itself
+    /// (EWMH 1.5, _NET_SUPPORTING_WM_CHECK). What one that was killed has said on the root window stays
+    /// there, the active window among it.
+    [[nodiscard]] bool hasWindowManager();
+    /// What the window manager says is active: 0 while no window is, absent where there is no manager or it
+    /// does not say.
+    [[nodiscard]] std::optional<xcb_window_t> activeWindow();
+
     /// Whether changes of the root window's properties come as events from now on. They pile up unless
     /// someone takes them.
     void watchRootProperties(bool isWanted);

@@ -43,9 +43,8 @@ bool X11FocusWait::isReached() {
     if (destination_.shouldHaveFocus) {
         return false;
     }
-    const auto active = connection_.numbers(connection_.root(), "_NET_ACTIVE_WINDOW");
-    return active.empty() ? !contains(withAncestors(destination_.window), focused)
-                          : contains(around, active.front());
+    const auto active = connection_.activeWindow();
+    return active ? contains(around, *active) : !contains(withAncestors(destination_.window), focused);
 }
 
 xcb_window_t X11FocusWait::focusedWindow() {

@@ -60,12 +60,10 @@ X11Windows::X11Windows(const char* display)
       connection_(display) {}
 
 xcb_window_t X11Windows::activeWindowIdentifier() {
-    const auto active = connection_.numbers(connection_.root(), "_NET_ACTIVE_WINDOW");
-    if (!active.empty()) {
-        return active.front();
+    if (const auto active = connection_.activeWindow()) {
+        return *active;
     }
-    const bool isManaged = !connection_.numbers(connection_.root(), "_NET_SUPPORTING_WM_CHECK").empty();
-    return isManaged ? 0 : focusedWindow();
+    return connection_.hasWindowManager() ? 0 : focusedWindow();
 }
 
 xcb_window_t X11Windows::focusedWindow() {

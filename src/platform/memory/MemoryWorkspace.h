@@ -41,6 +41,11 @@ class MemoryWorkspace : public Workspace {
         activations_.notify(front_);
     }
 
+    /// The same, but nobody is told: the news is still on its way.
+    void bringToFrontUntold(std::shared_ptr<RunningApplication> application) {
+        front_ = std::move(application);
+    }
+
     /// The process identifiers of the applications that were asked to come to the front.
     [[nodiscard]] const std::vector<std::int32_t>& activated() const { return activated_; }
 

@@ -25,7 +25,7 @@ QRegion roundedRegion(QSize size) {
 
 FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, const Description& description)
     : windowSystem_(std::move(windowSystem)), view_(&engine.qml(), nullptr),
-      activation_(view_, windowSystem_) {
+      activation_(view_, windowSystem_, WindowStay::brief) {
     view_.setFlags(description.type | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     view_.setTitle(description.title);
     view_.setColor(Qt::transparent);
@@ -40,6 +40,8 @@ FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, co
     view_.resize(size);
     view_.setMinimumSize(size);
     view_.setMaximumSize(size);
+    QObject::connect(root, SIGNAL(moveWanted()), this, SLOT(beginMove()));
+    view_.installEventFilter(this);
     view_.create();
 }
 
@@ -48,6 +50,18 @@ void FloatingWindow::show() {
         shape();
     }
     activation_.show();
+}
+
+bool FloatingWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease && std::exchange(isMoveAskedFor_, false)) {
+        windowSystem_.endMove(view_);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void FloatingWindow::beginMove() {
+    // The user may have let go by now, and a window manager would wait for that.
+    isMoveAskedFor_ = windowSystem_.isFirstButtonDown() && view_.startSystemMove();
 }
 
 void FloatingWindow::shape() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QQuickView>
 #include <QVariantMap>
 
@@ -11,10 +12,12 @@ namespace tovrel {
 
 /// A window without a frame, with round corners, above all others, that takes the keyboard focus when it is
 /// shown. Made hidden; hiding keeps it.
-class FloatingWindow {
+class FloatingWindow : public QObject {
+    Q_OBJECT
+
   public:
     struct Description {
-        QString view; ///< Name of a view of the module Tovrel.Views.
+        QString view; ///< Name of a view of the module Tovrel.Views, with a signal "moveWanted".
         QVariantMap properties;
         QString title;
         Qt::WindowType type = Qt::Tool;
@@ -30,12 +33,18 @@ class FloatingWindow {
     /// The focus goes back to where it was.
     void hide() { activation_.hide(); }
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private Q_SLOTS:
+    void beginMove();
+
   private:
     void shape();
 
     WindowSystem windowSystem_;
     QQuickView view_;
     WindowActivation activation_;
+    bool isMoveAskedFor_ = false;
 };
 
 } // namespace tovrel

@@ -16,23 +16,30 @@ namespace {
 
 constexpr QSize contentSize(920, 620);
 
+/// What window managers draw around a window, at most; what this one draws is known only once the window is
+/// shown.
+constexpr QMargins roomForFrame(8, 40, 8, 8);
+
+/// The content within the frame at the middle of what is visible of the screen, smaller where there is less
+/// room.
+QRect contentRect(const QRect& visible) {
+    const QRect room = visible.marginsRemoved(roomForFrame);
+    QRect content(QPoint(), contentSize.boundedTo(room.size()));
+    content.moveCenter(visible.center());
+    content.moveTop(std::clamp(content.top(), room.top(), room.top() + room.height() - content.height()));
+    content.moveLeft(std::clamp(content.left(), room.left(), room.left() + room.width() - content.width()));
+    return content;
+}
+
 } // namespace
 
 QtSettingsWindow::QtSettingsWindow(Surroundings surroundings)
     : surroundings_(std::move(surroundings)), view_(&surroundings_.engine.qml(), nullptr),
-      activation_(view_, surroundings_.windowSystem) {
+      activation_(view_, surroundings_.windowSystem, WindowStay::lasting) {
     view_.setFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
     view_.setTitle(QStringLiteral("Tovrel"));
     view_.setResizeMode(QQuickView::SizeRootObjectToView);
-    view_.resize(contentSize);
-    view_.setMinimumSize(contentSize);
-    view_.setMaximumSize(contentSize);
-    if (const QScreen* screen = mainScreen(surroundings_.windowSystem)) {
-        QRect frame(QPoint(), contentSize);
-        frame.moveCenter(screen->availableGeometry().center());
-        view_.setPosition(frame.topLeft());
-    }
     view_.installEventFilter(this);
 }
 
@@ -76,13 +83,27 @@ void QtSettingsWindow::install(std::unique_ptr<SettingsViewState> state) {
 }
 
 void QtSettingsWindow::showAndMakeKey() {
-    if (!view_.isVisible() && position_) {
-        view_.setFramePosition(*position_);
+    if (!view_.isVisible()) {
+        place();
     }
     if (view_.windowStates().testFlag(Qt::WindowMinimized)) {
         view_.setWindowStates(Qt::WindowNoState);
     }
     activation_.show();
+}
+
+void QtSettingsWindow::place() {
+    const QScreen* screen = mainScreen(surroundings_.windowSystem);
+    const QRect content =
+        screen != nullptr ? contentRect(screen->availableGeometry()) : QRect(QPoint(), contentSize);
+    if (position_ && view_.size() == content.size()) {
+        view_.setFramePosition(*position_);
+        return;
+    }
+    view_.setMinimumSize(content.size());
+    view_.setMaximumSize(content.size());
+    view_.resize(content.size());
+    view_.setPosition(content.topLeft());
 }
 
 void QtSettingsWindow::hide() {

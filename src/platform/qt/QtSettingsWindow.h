@@ -63,6 +63,8 @@ class QtSettingsWindow final : public QObject, public SettingsWindow {
     };
 
     void install(std::unique_ptr<SettingsViewState> state);
+    /// Where it was last, or, on a screen that leaves it more or less room than that did, at the middle.
+    void place();
     void hide();
     bool handleKeyPress(const QKeyEvent& event);
 

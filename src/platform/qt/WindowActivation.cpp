@@ -13,8 +13,8 @@ constexpr auto activationPatience = 50ms;
 
 } // namespace
 
-WindowActivation::WindowActivation(QWindow& window, WindowSystem windowSystem)
-    : window_(&window), windowSystem_(std::move(windowSystem)) {
+WindowActivation::WindowActivation(QWindow& window, WindowSystem windowSystem, WindowStay stay)
+    : window_(&window), windowSystem_(std::move(windowSystem)), stay_(stay) {
     activation_.setSingleShot(true);
     activation_.setInterval(activationPatience);
     // Once granted, the focus may have gone on to where the user wants it.
@@ -36,15 +36,18 @@ void WindowActivation::show() {
     }
     window_->show();
     window_->raise();
-    window_->requestActivate();
+    windowSystem_.takeFocus(*window_);
     activation_.start();
 }
 
 void WindowActivation::hide() {
     if (window_->isVisible()) {
         activation_.stop();
+        if (windowSystem_.hasInputFocus(*window_) &&
+            (stay_ == WindowStay::brief || !windowSystem_.isManaged())) {
+            restoreFocus_();
+        }
         window_->hide();
-        restoreFocus_();
     }
 }
 

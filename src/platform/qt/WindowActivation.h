@@ -7,20 +7,25 @@
 
 namespace tovrel {
 
+/// Whether a window goes away as soon as the user turns to another one.
+enum class WindowStay { brief, lasting };
+
 /// Shows a window above the others and with the keyboard focus, also where the window manager is strict about
 /// who may take it.
 class WindowActivation {
   public:
     /// `window` outlives the object.
-    WindowActivation(QWindow& window, WindowSystem windowSystem);
+    WindowActivation(QWindow& window, WindowSystem windowSystem, WindowStay stay);
 
     void show();
-    /// The focus goes back to where it was.
+    /// If the window has the focus, it goes back to where it was; from a window that has stayed for long, to
+    /// where the window manager thinks best.
     void hide();
 
   private:
     QWindow* window_;
     WindowSystem windowSystem_;
+    WindowStay stay_;
     QTimer activation_;
     std::function<void()> restoreFocus_;
 };

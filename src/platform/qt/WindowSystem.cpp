@@ -26,14 +26,34 @@ WindowSystem makeWindowSystem(std::function<std::uint32_t()> userTime) {
             [x11](const QWindow& window) {
                 return windowOf(window) != XCB_NONE && x11.isWithin(x11.inputFocus(), windowOf(window));
             },
-        .activate = [x11, userTime = std::move(userTime)](
-                        QWindow& window) { x11.askToActivate(windowOf(window), userTime()); },
+        .takeFocus =
+            [x11](QWindow& window) {
+                // Qt goes on asking a window manager that was killed.
+                if (x11.hasWindowManager()) {
+                    window.requestActivate();
+                } else {
+                    x11.setInputFocus(windowOf(window));
+                }
+            },
+        .activate =
+            [x11, userTime = std::move(userTime)](QWindow& window) {
+                if (x11.hasWindowManager()) {
+                    x11.askToActivate(windowOf(window), userTime());
+                } else {
+                    x11.setInputFocus(windowOf(window));
+                }
+            },
         .rememberFocus = [x11]() -> std::function<void()> {
-            if (x11.hasWindowManager()) {
+            const xcb_window_t focused = x11.inputFocus();
+            // Where the manager keeps the focus to itself there is no application to give it back to.
+            if (x11.hasWindowManager() && !x11.isWithin(focused, x11.activeWindow())) {
                 return [] {};
             }
-            return [x11, window = x11.inputFocus()] { x11.setInputFocus(window); };
+            return [x11, focused] { x11.setInputFocus(focused); };
         },
+        .isManaged = [x11] { return x11.hasWindowManager(); },
+        .isFirstButtonDown = [x11] { return x11.isFirstButtonDown(); },
+        .endMove = [x11](QWindow& window) { x11.askToEndMove(windowOf(window)); },
         .activeWindowFrame = [x11] { return x11.activeWindowFrame(); },
     };
 }

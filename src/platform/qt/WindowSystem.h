@@ -19,11 +19,26 @@ struct WindowSystem {
         return window.isActive();
     };
 
-    /// Gives the window the focus on behalf of the user's latest key press.
+    /// Gives a window that has just been shown the focus.
+    std::function<void(QWindow&)> takeFocus = [](QWindow& window) { window.requestActivate(); };
+
+    /// The same on behalf of the user's latest key press, for where the first request was refused.
     std::function<void(QWindow&)> activate = [](QWindow& window) { window.requestActivate(); };
 
-    /// Called before a window takes the focus: what puts it back where it was, for where nobody else does.
+    /// Called before a window takes the focus: what puts it back where it was. Called while the window still
+    /// has it, because a window manager that sees a focused window go chooses the next one itself, and some
+    /// take the topmost.
     std::function<std::function<void()>()> rememberFocus = [] { return [] {}; };
+
+    /// Whether someone gives the focus to another window when one that has it goes.
+    std::function<bool()> isManaged = [] { return true; };
+
+    /// Whether the first button of the pointer is down now, whatever events are still on their way.
+    std::function<bool()> isFirstButtonDown = [] { return true; };
+
+    /// Called when the button is up with which a window was being moved: a window manager that was asked to
+    /// move it only a moment before would wait for that.
+    std::function<void(QWindow&)> endMove = [](QWindow&) {};
 
     /// The active window, whoever's, in pixels of the screen with y growing downwards.
     std::function<std::optional<QRect>()> activeWindowFrame = [] { return std::optional<QRect>(); };

@@ -1,6 +1,7 @@
 #include "platform/qt/X11.h"
 
 #include <QGuiApplication>
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
@@ -31,7 +32,9 @@ bool X11::isComposited() const {
 }
 
 bool X11::hasWindowManager() const {
-    return windowProperty("_NET_SUPPORTING_WM_CHECK") != XCB_NONE;
+    constexpr std::string_view check = "_NET_SUPPORTING_WM_CHECK";
+    const xcb_window_t announced = windowProperty(root_, check);
+    return announced != XCB_NONE && windowProperty(announced, check) == announced;
 }
 
 bool X11::hasSystemTray() const {
@@ -45,8 +48,16 @@ xcb_window_t X11::inputFocus() const {
 }
 
 void X11::setInputFocus(xcb_window_t window) const {
-    xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
-    xcb_flush(connection_);
+    // The error is taken here: Qt would write it to standard error.
+    const auto request =
+        xcb_set_input_focus_checked(connection_, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
+    owned(xcb_request_check(connection_, request));
+}
+
+bool X11::isFirstButtonDown() const {
+    const auto reply =
+        owned(xcb_query_pointer_reply(connection_, xcb_query_pointer(connection_, root_), nullptr));
+    return reply && (reply->mask & XCB_BUTTON_MASK_1) != 0;
 }
 
 bool X11::isWithin(xcb_window_t window, xcb_window_t ancestor) const {
@@ -64,8 +75,12 @@ bool X11::isWithin(xcb_window_t window, xcb_window_t ancestor) const {
     return false;
 }
 
+xcb_window_t X11::activeWindow() const {
+    return hasWindowManager() ? windowProperty(root_, "_NET_ACTIVE_WINDOW") : xcb_window_t{XCB_NONE};
+}
+
 std::optional<QRect> X11::activeWindowFrame() const {
-    const xcb_window_t window = windowProperty("_NET_ACTIVE_WINDOW");
+    const xcb_window_t window = activeWindow();
     if (window == XCB_NONE) {
         return std::nullopt;
     }
@@ -80,13 +95,23 @@ std::optional<QRect> X11::activeWindowFrame() const {
 }
 
 void X11::askToActivate(xcb_window_t window, std::uint32_t time) const {
+    constexpr std::uint32_t onOrderOfTheUser = 2; // EWMH 1.5, source indication
+    sendToWindowManager(window, "_NET_ACTIVE_WINDOW", {onOrderOfTheUser, time});
+}
+
+void X11::askToEndMove(xcb_window_t window) const {
+    constexpr std::uint32_t cancel = 11; // EWMH 1.5, _NET_WM_MOVERESIZE_CANCEL
+    sendToWindowManager(window, "_NET_WM_MOVERESIZE", {0, 0, cancel});
+}
+
+void X11::sendToWindowManager(xcb_window_t window, std::string_view message,
+                              const std::array<std::uint32_t, 5>& data) const {
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;
     event.format = 32;
     event.window = window;
-    event.type = atom("_NET_ACTIVE_WINDOW");
-    event.data.data32[0] = 2; // as on direct order of the user (EWMH 1.5, source indication)
-    event.data.data32[1] = time;
+    event.type = atom(message);
+    std::copy(data.begin(), data.end(), &event.data.data32[0]);
     xcb_send_event(connection_, 0, root_,
                    XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                    reinterpret_cast<const char*>(&event));
@@ -105,9 +130,11 @@ bool X11::hasOwner(std::string_view selection) const {
     return reply && reply->owner != XCB_NONE;
 }
 
-xcb_window_t X11::windowProperty(std::string_view name) const {
-    const auto cookie = xcb_get_property(connection_, 0, root_, atom(name), XCB_ATOM_WINDOW, 0, 1);
-    const auto reply = owned(xcb_get_property_reply(connection_, cookie, nullptr));
+xcb_window_t X11::windowProperty(xcb_window_t window, std::string_view name) const {
+    const auto cookie = xcb_get_property(connection_, 0, window, atom(name), XCB_ATOM_WINDOW, 0, 1);
+    xcb_generic_error_t* error = nullptr;
+    const auto reply = owned(xcb_get_property_reply(connection_, cookie, &error));
+    owned(error); // The window may be gone by now.
     if (!reply || reply->format != 32 || xcb_get_property_value_length(reply.get()) < 4) {
         return XCB_NONE;
     }

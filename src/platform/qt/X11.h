@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRect>
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -16,26 +17,35 @@ class X11 {
     static std::optional<X11> ofQt();
 
     [[nodiscard]] bool isComposited() const;
+    /// Whether one runs; of one that was killed, what it has said stays on the root window.
     [[nodiscard]] bool hasWindowManager() const;
     [[nodiscard]] bool hasSystemTray() const;
 
     [[nodiscard]] xcb_window_t inputFocus() const;
+    /// A window that is gone or cannot be seen does not get it.
     void setInputFocus(xcb_window_t window) const;
+    [[nodiscard]] bool isFirstButtonDown() const;
     /// Whether the window is the ancestor or lies in it.
     [[nodiscard]] bool isWithin(xcb_window_t window, xcb_window_t ancestor) const;
 
+    /// What the window manager says is active; none where there is no manager.
+    [[nodiscard]] xcb_window_t activeWindow() const;
     /// In pixels of the screen; absent when no window is active.
     [[nodiscard]] std::optional<QRect> activeWindowFrame() const;
     /// Asks the window manager to activate the window on behalf of what the user did at `time`.
     void askToActivate(xcb_window_t window, std::uint32_t time) const;
+    /// Asks the window manager to move the window no longer with the pointer, if it does.
+    void askToEndMove(xcb_window_t window) const;
 
   private:
     explicit X11(xcb_connection_t* connection);
 
+    void sendToWindowManager(xcb_window_t window, std::string_view message,
+                             const std::array<std::uint32_t, 5>& data) const;
     [[nodiscard]] xcb_atom_t atom(std::string_view name) const;
     [[nodiscard]] bool hasOwner(std::string_view selection) const;
-    /// A property of the root window that names a window.
-    [[nodiscard]] xcb_window_t windowProperty(std::string_view name) const;
+    /// A property that names a window.
+    [[nodiscard]] xcb_window_t windowProperty(xcb_window_t window, std::string_view name) const;
 
     xcb_connection_t* connection_;
     xcb_window_t root_;

@@ -61,8 +61,8 @@ FocusScope {
         id: box
 
         anchors.centerIn: parent
-        width: 460
-        height: 500
+        width: Math.min(460, dialog.width - 24)
+        height: Math.min(500, dialog.height - 24)
         radius: 24
         from: SettingsTheme.card
         borderWidth: 1

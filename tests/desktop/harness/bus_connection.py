@@ -52,4 +52,6 @@ class BusConnection:
                   GLib.Variant("(ssv)", (interface, prop, value)))
 
     def close(self):
-        self._connection.close_sync(None)
+        # The bus may be gone by now.
+        if not self._connection.is_closed():
+            self._connection.close_sync(None)

@@ -20,6 +20,9 @@ from .windows import Windows
 from .witness import Witness
 
 
+DEFAULT_SIZE = (1280, 800)
+
+
 class Desktop:
     """A context manager: entered, there is a desktop; left in whatever way, nothing of it remains.
 
@@ -28,7 +31,7 @@ class Desktop:
 
     _entered = False
 
-    def __init__(self, size=(1280, 800), with_buses=True, window_manager=("openbox", "--sm-disable")):
+    def __init__(self, size=DEFAULT_SIZE, with_buses=True, window_manager=("openbox", "--sm-disable")):
         """`with_buses`: without them there are windows, but no session bus and no accessibility.
         `window_manager`: how it is started, or None for a desktop that has none."""
         self._size = size
@@ -69,10 +72,10 @@ class Desktop:
         """Starts an application and returns it once its window is visible and, if `accessible`, its tree is on
         the accessibility bus."""
         require(command[0])
-        process = self._processes.start(command, self.environment, cwd=self.home)
+        process = self.processes.start(command, self.environment, cwd=self.home)
 
         def visible_window():
-            self._processes.require_running(process, command[0])
+            self.processes.require_running(process, command[0])
             return self.windows.of_process(process.pid)
 
         window = wait_until(visible_window, f"a window of {command[0]}")[0]
@@ -93,7 +96,7 @@ class Desktop:
         return self.windows.active() if self._window_manager else self.windows.focused()
 
     def end(self, application):
-        self._processes.end(application.process)
+        self.processes.end(application.process)
         wait_until(lambda: application.window not in self.windows.of_process(application.pid),
                    "the application's window to go")
 
@@ -103,6 +106,23 @@ class Desktop:
     def take_picture(self, path):
         take_picture(self.environment, path)
 
+    def start_window_manager(self):
+        self._window_manager_process = self.processes.start(list(self._window_manager), self.environment)
+        wait_until(self.windows.has_window_manager, "the window manager")
+
+    def kill_window_manager(self):
+        """It cannot tidy up: what it has said on the display stays there."""
+        self._window_manager_process.kill()
+        self._window_manager_process.wait()
+
+    def replace_session_bus(self):
+        """Ends the session bus and starts another one at the same address. Who was on the first is on none."""
+        self.processes.end(self._session_bus)
+        self._session_bus = start_session_bus(self.processes, self.environment)
+
+    def end_session_bus(self):
+        self.processes.end(self._session_bus)
+
     def _set_up(self):
         root = Path(tempfile.mkdtemp(prefix="tovrel-desktop-"))
         self._teardown.callback(shutil.rmtree, root, ignore_errors=True)
@@ -110,21 +130,20 @@ class Desktop:
         self.home = Path(self.environment["HOME"])
         logs = root / "logs"
         logs.mkdir()
-        self._processes = Processes(logs)
-        self._teardown.callback(self._processes.close)
-        start_display(self._processes, root, self.environment, self._size)
+        self.processes = Processes(logs)
+        self._teardown.callback(self.processes.close)
+        start_display(self.processes, root, self.environment, self._size)
         self.windows = Windows(self.environment)
         paint_background(self.environment, self._size)
         if self._with_buses:
-            start_session_bus(self._processes, self.environment)
+            self._session_bus = start_session_bus(self.processes, self.environment)
             self.witness = Witness(start_accessibility_bus(self.environment["DBUS_SESSION_BUS_ADDRESS"]))
             self._teardown.callback(self.witness.close)
         # The first key pressed on a display makes every client read the keyboard's layout anew, and a window
         # manager that does so misses keys; so it is pressed before there is one.
         self.windows.press_keys("Shift_L")
         if self._window_manager:
-            self._processes.start(list(self._window_manager), self.environment)
-            wait_until(self.windows.has_window_manager, "the window manager")
+            self.start_window_manager()
 
     def _has_menu_bar(self, process_id):
         root = self.witness.application(process_id)

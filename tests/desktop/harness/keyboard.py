@@ -39,6 +39,9 @@ class Keyboard:
         self._x11.XGrabKeyboard.argtypes = [display, ctypes.c_ulong, ctypes.c_int, ctypes.c_int, ctypes.c_int,
                                             ctypes.c_ulong]
         self._x11.XUngrabKeyboard.argtypes = [display, ctypes.c_ulong]
+        self._x11.XGrabPointer.argtypes = [display, ctypes.c_ulong, ctypes.c_int, ctypes.c_uint, ctypes.c_int,
+                                           ctypes.c_int, ctypes.c_ulong, ctypes.c_ulong, ctypes.c_ulong]
+        self._x11.XUngrabPointer.argtypes = [display, ctypes.c_ulong]
         self._x11.XGrabKey.argtypes = [display, ctypes.c_int, ctypes.c_uint, ctypes.c_ulong, ctypes.c_int,
                                        ctypes.c_int, ctypes.c_int]
         self._x11.XSync.argtypes = [display, ctypes.c_int]
@@ -90,6 +93,15 @@ class Keyboard:
         answer = self._x11.XGrabKeyboard(self._display, self._x11.XDefaultRootWindow(self._display), 0,
                                          asynchronous, asynchronous, 0)
         self._x11.XUngrabKeyboard(self._display, 0)
+        self._x11.XSync(self._display, 0)
+        return answer == 0
+
+    def can_pointer_be_grabbed(self):
+        """Whether nobody holds the pointer, as a window manager does while it moves a window."""
+        asynchronous = 1
+        answer = self._x11.XGrabPointer(self._display, self._x11.XDefaultRootWindow(self._display), 0, 0,
+                                        asynchronous, asynchronous, 0, 0, 0)
+        self._x11.XUngrabPointer(self._display, 0)
         self._x11.XSync(self._display, 0)
         return answer == 0
 

@@ -32,16 +32,16 @@ class Program:
             raise RuntimeError("TOVREL_PROGRAM must name the program under test")
         self._environment = environment
 
-    def run(self, *arguments, environment=None):
-        """Runs it to its end and returns the answer, whatever the exit status."""
+    def run(self, *arguments, environment=None, deadline=ANSWER_DEADLINE):
+        """Runs it to its end and returns the answer, whatever the exit status; raises after so many seconds."""
         answer = subprocess.run([self.path, *map(str, arguments)], env=environment or self._environment,
                                 stdin=subprocess.DEVNULL, capture_output=True, text=True, encoding="utf-8",
-                                errors="surrogateescape", timeout=ANSWER_DEADLINE, check=False)
+                                errors="surrogateescape", timeout=deadline, check=False)
         return Answer(answer.returncode, answer.stdout, answer.stderr)
 
-    def expect(self, *arguments, environment=None):
+    def expect(self, *arguments, environment=None, deadline=ANSWER_DEADLINE):
         """As `run`, but a failure of the program is a failure of the test."""
-        answer = self.run(*arguments, environment=environment)
+        answer = self.run(*arguments, environment=environment, deadline=deadline)
         if answer.status != 0:
             raise AssertionError(f"tovrel {' '.join(map(str, arguments))} ended with status {answer.status}: "
                                  f"{answer.errors.strip()}")

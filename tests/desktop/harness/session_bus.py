@@ -7,7 +7,7 @@ from .waiting import wait_until
 
 
 def start_session_bus(processes, environment):
-    """Starts a session bus and sets DBUS_SESSION_BUS_ADDRESS. What the bus starts on demand gets the
+    """Starts a session bus, sets DBUS_SESSION_BUS_ADDRESS and returns the bus's process. What the bus starts on demand gets the
     environment as it is now, so the display must be there already."""
     socket = Path(environment["XDG_RUNTIME_DIR"]) / "bus"
     daemon = processes.start(
@@ -19,6 +19,7 @@ def start_session_bus(processes, environment):
 
     wait_until(listening, "the session bus to listen")
     environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={socket}"
+    return daemon
 
 
 def accepts_connections(socket):

@@ -36,6 +36,14 @@ class Windows:
         return tuple(int(values[name]) for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width",
                                                     "Height"))
 
+    def frame(self, window):
+        """As `geometry`, with what the window manager draws around the window."""
+        left, top, width, height = self.geometry(window)
+        answer = self._run("xprop", "-id", str(window), "_NET_FRAME_EXTENTS").stdout.rpartition("=")[2]
+        extents = [int(number) for number in answer.split(",") if number.strip().isdigit()]
+        before, after, above, below = extents if len(extents) == 4 else (0, 0, 0, 0)
+        return left - before, top - above, width + before + after, height + above + below
+
     def stacking(self):
         """The windows that the window manager knows, the lowest first."""
         answer = self._run("xprop", "-root", "_NET_CLIENT_LIST_STACKING").stdout
@@ -62,6 +70,22 @@ class Windows:
         x, y, width, height = self.geometry(window)
         self._xdotool("mousemove", str(x + width // 2), str(y + height // 2), "click", str(button))
 
+    def point_at(self, x, y):
+        self._xdotool("mousemove", str(x), str(y))
+
+    def move_pointer(self, right, down):
+        self._xdotool("mousemove_relative", "--", str(right), str(down))
+
+    def hold_button(self):
+        self._xdotool("mousedown", "1")
+
+    def release_button(self):
+        self._xdotool("mouseup", "1")
+
+    def flick(self, right, down):
+        """A drag that is over before anyone can have done anything about it."""
+        self._xdotool("mousedown", "1", "mousemove_relative", "--", str(right), str(down), "mouseup", "1")
+
     def has_window_manager(self):
         # It announces itself before it listens; then it tells, in an order of its own, of windows and focus.
         announced = self._window_property(None, "_NET_SUPPORTING_WM_CHECK")
@@ -75,7 +99,7 @@ class Windows:
         return int(answer) if answer.isdigit() and int(answer) > 1 else None
 
     def give_focus(self, window):
-        """Sets the input focus, as only one does who has no window manager to ask."""
+        """Sets the input focus without asking a window manager: the window stays below those that are above it."""
         self._xdotool("windowfocus", str(window))
 
     def _window_property(self, window, name):

@@ -160,10 +160,9 @@ class ToolkitChecks:
         self.running.application.kill()
         self.running.application.process.wait()
         begun = time.monotonic()
-        answer = self.tovrel.run("press", *self.source, command)
+        answer = self.tovrel.run("press", *self.source, command, deadline=NO_HANG)
         took = time.monotonic() - begun
         self.assert_fails_in_one_line(answer)
-        self.assertLess(took, NO_HANG)
         self.results.measured(killed_ms=round(1000 * took))
 
     def _prepare(self):

@@ -3,6 +3,8 @@
 #include <QTest>
 #include <utility>
 
+#include "support/Fatal.h"
+
 namespace tovrel {
 
 void PaletteStage::show(std::vector<Command> commands, std::optional<Text> appName,
@@ -10,7 +12,9 @@ void PaletteStage::show(std::vector<Command> commands, std::optional<Text> appNa
     viewModel.updateCommands(std::move(commands), std::move(appName), std::move(appIcon));
     panel.showAndMakeKey();
     viewModel.requestSearchFocus();
-    static_cast<void>(QTest::qWaitForWindowActive(&panel.window()));
+    if (!QTest::qWaitForWindowActive(&panel.window())) {
+        fatal("the palette never became active");
+    }
 }
 
 } // namespace tovrel

@@ -29,7 +29,7 @@ int runPictureProgram(int argc, char** argv, const std::function<void(const QDir
         }
         return 0;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", TOVREL_TEST_PLATFORM);
     configureQtEnvironment();
     const QApplication application(argc, argv);
     QGuiApplication::styleHints()->setCursorFlashTime(0);

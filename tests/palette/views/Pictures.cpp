@@ -15,6 +15,7 @@
 #include "commands/CommandSamples.h"
 #include "menus/AccessibilityPermissionService.h"
 #include "platform/qt/QtUserInterface.h"
+#include "support/Fatal.h"
 
 namespace tovrel {
 namespace {
@@ -89,7 +90,9 @@ class Pictures {
             for (QWindow* window : QGuiApplication::topLevelWindows()) {
                 auto* view = qobject_cast<QQuickView*>(window);
                 if (view != nullptr && view != &stage_.panel.window()) {
-                    static_cast<void>(QTest::qWaitForWindowActive(view));
+                    if (!QTest::qWaitForWindowActive(view)) {
+                        fatal("the alert never became active");
+                    }
                     save("alert", *view);
                     view->close();
                 }

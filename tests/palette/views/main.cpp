@@ -7,7 +7,7 @@
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", TOVREL_TEST_PLATFORM);
     tovrel::configureQtEnvironment();
     const QApplication application(argc, argv);
     QGuiApplication::styleHints()->setCursorFlashTime(0);

@@ -252,7 +252,6 @@ TEST_F(LinuxAccessibilityTest, AHungApplicationCostsTheSilenceOnce) {
     start(smallEditor(), manners);
     EXPECT_EQ(menuBar(), nullptr);
     EXPECT_EQ(outcome(), MenuReadOutcome::applicationSilent);
-    EXPECT_GE(linux_.lastReport()->elapsed, limits().silence);
     EXPECT_LE(application_->calls(), 2U) << "asked again while it was silent";
     EXPECT_EQ(root_->element("AXMenuBar"), nullptr);
     EXPECT_LE(application_->calls(), 2U) << "read again";
@@ -273,7 +272,7 @@ TEST_F(LinuxAccessibilityTest, WhatCameBeforeTheSilenceIsUsed) {
     EXPECT_LT(found.size(), 3U);
 }
 
-TEST_F(LinuxAccessibilityTest, ASlowApplicationHasTheWholeTimeAndNoMore) {
+TEST_F(LinuxAccessibilityTest, AnApplicationThatIsSlowButNeverSilentIsCutOff) {
     FakeApplication::Manners manners;
     manners.delay = 20ms;
     std::vector<std::size_t> entries(100);
@@ -288,9 +287,10 @@ TEST_F(LinuxAccessibilityTest, ASlowApplicationHasTheWholeTimeAndNoMore) {
     LinuxAccessibility linux(buses(), {}, tight);
     const auto element = linux.applicationElement(getpid());
     ASSERT_NE(element, nullptr);
-    (void)element->element("AXMenuBar");
+    const auto bar = element->element("AXMenuBar");
     EXPECT_EQ(linux.lastReport()->outcome, MenuReadOutcome::tooSlow);
-    EXPECT_GE(linux.lastReport()->elapsed, tight.total);
+    ASSERT_NE(bar, nullptr);
+    EXPECT_LT(titles(*bar).size(), entries.size()) << "all of it came";
 }
 
 TEST_F(LinuxAccessibilityTest, AnApplicationThatLeavesIsGone) {

@@ -30,7 +30,9 @@ class PreferencesDurability : public PreferencesFixture {
 /// Writes numbered values until it is killed, and one byte for each that the domain said is stored.
 TEST_F(PreferencesDurability, AProcessKilledWhileWritingLosesNoAcknowledgedValue) {
     constexpr int rounds = 20;
-    std::minstd_rand random(std::random_device{}()); // NOLINT(cert-msc51-cpp)
+    const std::random_device::result_type seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::minstd_rand random(seed); // NOLINT(cert-msc51-cpp)
     std::uniform_int_distribution<int> microseconds(500, 30'000);
     for (int round = 0; round < rounds; ++round) {
         std::filesystem::remove(file());

@@ -28,6 +28,14 @@ class X11WindowsTest : public testing::Test {
         connection_.reset(xcb_connect(display_.c_str(), nullptr));
         ASSERT_EQ(xcb_connection_has_error(connection_.get()), 0);
         root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_.get())).data->root;
+        announceManager();
+    }
+
+    /// As window managers do; the window goes when one is killed, and the rest stays.
+    void announceManager() {
+        manager_ = makeWindow(1, "Manager");
+        setNumbers(manager_, "_NET_SUPPORTING_WM_CHECK", {manager_});
+        setNumbers(root_, "_NET_SUPPORTING_WM_CHECK", {manager_});
     }
 
     xcb_atom_t atom(const std::string& name) {
@@ -65,6 +73,7 @@ class X11WindowsTest : public testing::Test {
     std::string display_ = ":" + server_.announced();
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     xcb_window_t root_ = 0;
+    xcb_window_t manager_ = 0;
 };
 
 TEST_F(X11WindowsTest, DescribesWindowsFromTheTop) {
@@ -109,6 +118,25 @@ TEST_F(X11WindowsTest, WaitsWhileNoWindowIsActive) {
     ASSERT_TRUE(active);
     EXPECT_EQ(active->title, Text("Next"));
     EXPECT_TRUE(windows.waitUntilActive(11, after(0ms)));
+}
+
+TEST_F(X11WindowsTest, WhatAKilledWindowManagerHasSaidCountsNoMore) {
+    const xcb_window_t active = makeWindow(11, "Active");
+    const xcb_window_t focused = makeWindow(12, "Focused");
+    setText(focused, "WM_CLASS", std::string("focused\0Focused\0", 16));
+    xcb_map_window(connection_.get(), focused);
+    xcb_set_input_focus(connection_.get(), XCB_INPUT_FOCUS_POINTER_ROOT, focused, XCB_CURRENT_TIME);
+    setNumbers(root_, "_NET_ACTIVE_WINDOW", {active});
+    X11Windows windows(display_.c_str());
+    EXPECT_EQ(windows.activeWindow(after(0ms))->title, Text("Active"));
+    xcb_destroy_window(connection_.get(), manager_);
+    setNumbers(root_, "_NET_ACTIVE_WINDOW", {active});
+    EXPECT_EQ(windows.activeWindow(after(0ms))->title, Text("Focused"));
+    // Somebody else may have got the number of the window since.
+    setNumbers(root_, "_NET_SUPPORTING_WM_CHECK", {active});
+    EXPECT_EQ(windows.activeWindow(after(0ms))->title, Text("Focused"));
+    announceManager();
+    EXPECT_EQ(windows.activeWindow(after(0ms))->title, Text("Active"));
 }
 
 TEST_F(X11WindowsTest, AsksTheWindowManagerToActivate) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "KeyboardShortcuts/SymbolicText.h"
+#include "support/Fatal.h"
 
 namespace tovrel {
 namespace {
@@ -65,7 +66,9 @@ void SettingsStage::show(SettingsTab tab) {
     state_ = state.get();
     window.setContent(std::move(state));
     window.showAndMakeKey();
-    static_cast<void>(QTest::qWaitForWindowActive(&window.window()));
+    if (!QTest::qWaitForWindowActive(&window.window())) {
+        fatal("the settings never became active");
+    }
     state_->selectedTab.set(tab);
     QCoreApplication::processEvents();
 }

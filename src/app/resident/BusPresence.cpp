@@ -1,0 +1,88 @@
+#include "app/resident/BusPresence.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <algorithm>
+
+#include "app/DBusNames.h"
+#include "app/resident/LostConnection.h"
+#include "platform/linux/DBus.h"
+
+namespace tovrel {
+namespace {
+
+using std::chrono_literals::operator""ms;
+using std::chrono_literals::operator""s;
+
+constexpr auto patienceAtStart = 5s;
+/// Nothing else of the program goes on meanwhile.
+constexpr auto patienceLater = 100ms;
+constexpr auto firstRetry = 250ms;
+/// A session without its bus has other troubles than a wake-up now and then.
+constexpr auto longestRetry = 8s;
+
+QString connectionName() {
+    return QStringLiteral("tovrel");
+}
+
+/// Qt waits for a bus that does not answer as long as it takes.
+bool isBusAnswering(std::chrono::milliseconds patience) {
+    auto bus = DBusConnection::openSessionBus();
+    if (!bus) {
+        return false;
+    }
+    const auto question =
+        bus->methodCall("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetId");
+    return bus->call(question, std::chrono::steady_clock::now() + patience).has_value();
+}
+
+} // namespace
+
+BusPresence::~BusPresence() {
+    disappear();
+}
+
+BusPresence::Outcome BusPresence::appear() {
+    QObject::connect(&retry_, &QTimer::timeout, this, [this] { tryAgain(); });
+    return appear(patienceAtStart);
+}
+
+BusPresence::Outcome BusPresence::appear(std::chrono::milliseconds patience) {
+    if (!isBusAnswering(patience)) {
+        return Outcome::noBus;
+    }
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName());
+    if (bus.isConnected() && tellLoss(bus, *this, SLOT(connectionLost())) &&
+        bus.registerObject(dbus_names::objectPath, object_,
+                           QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties)) {
+        const auto reply =
+            bus.interface()->registerService(dbus_names::service, QDBusConnectionInterface::QueueService);
+        if (reply.isValid()) {
+            return reply.value() == QDBusConnectionInterface::ServiceRegistered ? Outcome::hasName
+                                                                                : Outcome::waitsForName;
+        }
+    }
+    disappear();
+    return Outcome::noBus;
+}
+
+void BusPresence::connectionLost() {
+    disappear();
+    retry_.start(firstRetry);
+}
+
+void BusPresence::tryAgain() {
+    if (appear(patienceLater) == Outcome::noBus) {
+        retry_.setInterval(
+            std::min<std::chrono::milliseconds>(2 * retry_.intervalAsDuration(), longestRetry));
+    } else {
+        retry_.stop();
+    }
+}
+
+void BusPresence::disappear() {
+    QDBusConnection(connectionName()).unregisterObject(dbus_names::objectPath);
+    QDBusConnection::disconnectFromBus(connectionName());
+}
+
+} // namespace tovrel

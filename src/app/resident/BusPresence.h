@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <chrono>
+
+namespace tovrel {
+
+/// Has an object on the session bus under the program's name, and again after the bus has gone and come back
+/// at its address: the connection that Qt shares stays lost for good, so this one is made anew each time.
+class BusPresence : public QObject {
+    Q_OBJECT
+
+  public:
+    enum class Outcome {
+        hasName,
+        waitsForName, ///< Another process has it; it comes here when that one ends.
+        noBus,
+    };
+
+    /// `object` outlives it.
+    explicit BusPresence(QObject& object) : object_(&object) {}
+    ~BusPresence() override;
+    BusPresence(const BusPresence&) = delete;
+    BusPresence& operator=(const BusPresence&) = delete;
+
+    /// Offers the object and then asks for the name. Waits up to 5 s for a bus that does not answer.
+    [[nodiscard]] Outcome appear();
+
+  private Q_SLOTS:
+    void connectionLost();
+
+  private:
+    Outcome appear(std::chrono::milliseconds patience);
+    static void disappear();
+    void tryAgain();
+
+    QObject* object_;
+    QTimer retry_;
+};
+
+} // namespace tovrel
