@@ -22,12 +22,23 @@ DBusConnection sessionBus() {
     return *std::move(bus);
 }
 
-DBusMessage answered(DBusConnection& bus, const DBusMessage& call, bool mayStart) {
+/// The unique name of the running program. `mayStart`: it is started when it does not run, as the user wants
+/// who asks it to show something.
+std::string resident(DBusConnection& bus, bool mayStart) {
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    auto owner = bus.owner(dbus_names::service, deadline);
+    if (!owner && mayStart && bus.startService(dbus_names::service, deadline)) {
+        owner = bus.owner(dbus_names::service, deadline);
+    }
+    if (!owner) {
+        throw Failure("tovrel is not running");
+    }
+    return *std::move(owner);
+}
+
+DBusMessage answered(DBusConnection& bus, const DBusMessage& call) {
     if (!call) {
         throw Failure("out of memory");
-    }
-    if (!mayStart) {
-        sd_bus_message_set_auto_start(call.handle(), 0);
     }
     auto answer = bus.call(call, std::chrono::steady_clock::now() + patience);
     if (!answer) {
@@ -106,12 +117,12 @@ void ResidentClient::quit() {
 }
 
 ResidentStatus ResidentClient::status() {
-    const DBusMessage call = bus_.methodCall(dbus_names::service, dbus_names::objectPath,
+    const DBusMessage call = bus_.methodCall(resident(bus_, false).c_str(), dbus_names::objectPath,
                                              "org.freedesktop.DBus.Properties", "GetAll");
     if (call) {
         sd_bus_message_append(call.handle(), "s", dbus_names::interface);
     }
-    DBusMessage answer = answered(bus_, call, false);
+    DBusMessage answer = answered(bus_, call);
     ResidentStatus status;
     sd_bus_message* handle = answer.handle();
     if (sd_bus_message_enter_container(handle, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
@@ -126,9 +137,8 @@ ResidentStatus ResidentClient::status() {
 }
 
 void ResidentClient::call(const char* member, bool mayStart) {
-    answered(bus_,
-             bus_.methodCall(dbus_names::service, dbus_names::objectPath, dbus_names::interface, member),
-             mayStart);
+    answered(bus_, bus_.methodCall(resident(bus_, mayStart).c_str(), dbus_names::objectPath,
+                                   dbus_names::interface, member));
 }
 
 } // namespace tovrel

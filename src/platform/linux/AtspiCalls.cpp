@@ -74,11 +74,10 @@ std::optional<std::vector<std::string>> readChildren(DBusMessage& answer, std::s
 }
 
 std::optional<AtspiStates> readStates(DBusMessage& answer) {
-    const auto words = answer.readUint32Array();
-    if (!words || words->size() < 2) {
-        return std::nullopt;
-    }
-    return static_cast<AtspiStates>((*words)[0]) | (static_cast<AtspiStates>((*words)[1]) << 32U);
+    const auto words = answer.readTwoUint32s();
+    return words ? std::optional(static_cast<AtspiStates>(words->first) |
+                                 (static_cast<AtspiStates>(words->second) << 32U))
+                 : std::nullopt;
 }
 
 } // namespace tovrel

@@ -1,5 +1,7 @@
 #include "platform/linux/DBusMenuReader.h"
 
+#include <algorithm>
+#include <chrono>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -230,40 +232,28 @@ class Reader {
 
 std::optional<DBusMenuAddress> registeredMenu(DBusConnection& connection, std::uint32_t window,
                                               const MenuReadLimits& limits, SteadyTime started) {
-    BoundedCalls calls(connection, limits, started);
-    bool isRunning = false;
-    calls.ask(
-        [](const DBusConnection& bus) {
-            DBusMessage question = bus.methodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                                  "org.freedesktop.DBus", "NameHasOwner");
-            return question && sd_bus_message_append(question.handle(), "s", registrarName) >= 0
-                       ? std::move(question)
-                       : DBusMessage();
-        },
-        [&](DBusMessage& answer) { isRunning = answer.readBoolean().value_or(false); });
-    calls.run();
-    if (!isRunning) {
+    const SteadyTime deadline =
+        std::min(started + limits.total, std::chrono::steady_clock::now() + limits.silence);
+    const auto registrar = connection.owner(registrarName, deadline);
+    if (!registrar) {
         return std::nullopt;
     }
-    std::optional<DBusMenuAddress> address;
-    calls.ask(
-        [window](const DBusConnection& bus) {
-            DBusMessage question =
-                bus.methodCall(registrarName, registrarPath, registrarName, "GetMenuForWindow");
-            return question && sd_bus_message_set_auto_start(question.handle(), 0) >= 0 &&
-                           sd_bus_message_append(question.handle(), "u", window) >= 0
-                       ? std::move(question)
-                       : DBusMessage();
-        },
-        [&](DBusMessage& answer) {
-            const char* busName = nullptr;
-            const char* path = nullptr;
-            if (sd_bus_message_read(answer.handle(), "so", &busName, &path) > 0 && *busName != '\0') {
-                address = {busName, path};
-            }
-        });
-    calls.run();
-    return address;
+    const DBusMessage question =
+        connection.methodCall(registrar->c_str(), registrarPath, registrarName, "GetMenuForWindow");
+    if (!question || sd_bus_message_append(question.handle(), "u", window) < 0) {
+        return std::nullopt;
+    }
+    const auto answer = connection.call(question, deadline);
+    const char* busName = nullptr;
+    const char* path = nullptr;
+    if (!answer || !answer->errorName().empty() ||
+        sd_bus_message_read(answer->handle(), "so", &busName, &path) <= 0) {
+        return std::nullopt;
+    }
+    // Registrars keep the unique name of whom they were told by; the protocol lets them tell another one.
+    const auto owner =
+        isUniqueName(busName) ? std::optional<std::string>(busName) : connection.owner(busName, deadline);
+    return owner ? std::optional(DBusMenuAddress{*owner, path}) : std::nullopt;
 }
 
 MenuReading readDBusMenuBar(DBusConnection& connection, const DBusMenuAddress& address,

@@ -99,7 +99,7 @@ MenuReading readGtkMenuBar(DBusConnection& connection, const GtkMenuAddress& add
     reader.describe("win.", address.windowPath);
     calls.run();
     // The application would else tell of every change from now on. Nobody waits for the answer.
-    connection.send(callWithGroups(connection, address, "End", reader.started()));
+    connection.tell(callWithGroups(connection, address, "End", reader.started()));
 
     MenuTree tree = calls.stopped() ? MenuTree() : reader.tree();
     return finishedReading(std::move(tree), reader.isTooLarge(), calls, started);
