@@ -50,7 +50,7 @@ class Reader {
                                              "DescribeAll");
             },
             [this, prefix = std::move(prefix), objectPath](DBusMessage& answer) {
-                actions_.push_back({prefix, objectPath, readGtkActions(answer)});
+                actions_.push_back({prefix, objectPath, readGtkActions(answer, calls_.budget())});
             });
     }
 
@@ -66,7 +66,7 @@ class Reader {
   private:
     void take(DBusMessage& answer) {
         Groups linked;
-        if (!readGtkMenus(answer, calls_.limits().entriesPerMenu, model_, linked)) {
+        if (!readGtkMenus(answer, calls_.budget(), model_, linked)) {
             isTooLarge_ = true;
         }
         for (const std::uint32_t group : started_) {

@@ -8,6 +8,7 @@
 
 #include "platform/linux/AtspiBus.h"
 #include "platform/linux/DBus.h"
+#include "platform/linux/DBusValue.h"
 #include "platform/linux/FakeAccessibility.h"
 
 namespace tovrel {
@@ -109,6 +110,47 @@ TEST_F(DBusConnectionTest, AnErrorIsNoAddressAndAWellKnownNameNoApplication) {
     AtspiBus refused;
     EXPECT_FALSE(refused.answers());
     EXPECT_TRUE(refused.isEnabled());
+}
+
+TEST_F(DBusConnectionTest, ValuesAreKeptWhileTheyAreSmallAndPassedByOtherwise) {
+    const DBusMessage message = connection_->busCall("Any");
+    sd_bus_message* raw = message.handle();
+    sd_bus_message_append(raw, "v", "(sa{sv}d)", "text", 2, "a", "ax", 2, std::int64_t{-1}, std::int64_t{2},
+                          "b", "v", "ab", 1, 1, 0.5);
+    sd_bus_message_append(raw, "v", "s", std::string(largestValue, 'x').c_str());
+    sd_bus_message_open_container(raw, 'v', "a(ii)");
+    sd_bus_message_open_container(raw, 'a', "(ii)");
+    for (int index = 0; index < 500; ++index) {
+        sd_bus_message_append(raw, "(ii)", index, index);
+    }
+    sd_bus_message_close_container(raw);
+    sd_bus_message_close_container(raw);
+    sd_bus_message_append(raw, "vvvi", "s", "text", "i", 5, "y", 7, 9);
+    sd_bus_message_seal(raw, 1, 0);
+
+    MenuReadBudget budget({}, std::chrono::steady_clock::now());
+    const auto value = readVariant(raw, budget);
+    ASSERT_TRUE(value.has_value());
+    EXPECT_EQ(value->signature, "(sa{sv}d)");
+    EXPECT_EQ(readVariant(raw, budget), std::nullopt) << "a long text";
+    EXPECT_EQ(readVariant(raw, budget), std::nullopt) << "many parts";
+    EXPECT_EQ(readVariantText(raw, budget), "text");
+    EXPECT_EQ(readVariantText(raw, budget), std::nullopt);
+    skipVariant(raw, budget);
+    std::int32_t last = 0;
+    EXPECT_GT(sd_bus_message_read(raw, "i", &last), 0);
+    EXPECT_EQ(last, 9);
+
+    const DBusMessage copy = connection_->busCall("Any");
+    ASSERT_TRUE(appendVariant(copy.handle(), *value));
+    sd_bus_message_seal(copy.handle(), 2, 0);
+    EXPECT_EQ(readVariant(copy.handle(), budget), value) << "sent back it is the same";
+    sd_bus_message_rewind(copy.handle(), 1);
+    MenuReadLimits few;
+    few.values = 5;
+    MenuReadBudget small(few, std::chrono::steady_clock::now());
+    EXPECT_EQ(readVariant(copy.handle(), small), std::nullopt);
+    EXPECT_TRUE(small.isExhausted());
 }
 
 } // namespace
