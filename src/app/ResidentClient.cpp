@@ -26,12 +26,23 @@ bool isOfAnotherDisplay(const ResidentStatus& status) {
     return !status.display.empty() && !own.empty() && status.display != own;
 }
 
-DBusMessage answered(DBusConnection& connection, const DBusMessage& call, bool mayStart) {
+/// The unique name of the program that has the name on the bus. `mayStart`: it is started when it does not
+/// run, as the user wants who asks it to show something.
+std::string ownerOnBus(DBusConnection& bus, bool mayStart) {
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    auto owner = bus.owner(dbus_names::service, deadline);
+    if (!owner && mayStart && bus.startService(dbus_names::service, deadline)) {
+        owner = bus.owner(dbus_names::service, deadline);
+    }
+    if (!owner) {
+        throw NotRunning();
+    }
+    return *std::move(owner);
+}
+
+DBusMessage answered(DBusConnection& connection, const DBusMessage& call) {
     if (!call) {
         throw Failure("out of memory");
-    }
-    if (!mayStart) {
-        sd_bus_message_set_auto_start(call.handle(), 0);
     }
     auto answer = connection.call(call, std::chrono::steady_clock::now() + patience);
     if (!answer) {
@@ -97,7 +108,7 @@ ResidentClient::ResidentClient() : ResidentClient(ofThisDisplay()) {}
 
 std::optional<ResidentClient> ResidentClient::ofSeat(const ResidentSeat& seat) {
     auto direct = DBusConnection::openPeer(seat.address());
-    return direct ? std::optional(ResidentClient(*std::move(direct), nullptr)) : std::nullopt;
+    return direct ? std::optional(ResidentClient(*std::move(direct), Road::direct)) : std::nullopt;
 }
 
 ResidentClient ResidentClient::ofSessionBus() {
@@ -105,7 +116,7 @@ ResidentClient ResidentClient::ofSessionBus() {
     if (!bus) {
         throw Failure("there is no session bus to find the running tovrel on");
     }
-    return {*std::move(bus), dbus_names::service};
+    return {*std::move(bus), Road::bus};
 }
 
 ResidentClient ResidentClient::ofThisDisplay() {
@@ -142,12 +153,11 @@ void ResidentClient::quit() {
 }
 
 ResidentStatus ResidentClient::status() {
-    const DBusMessage call = connection_.methodCall(destination_, dbus_names::objectPath,
-                                                    "org.freedesktop.DBus.Properties", "GetAll");
+    const DBusMessage call = methodCall("org.freedesktop.DBus.Properties", "GetAll", false);
     if (call) {
         sd_bus_message_append(call.handle(), "s", dbus_names::interface);
     }
-    DBusMessage answer = answered(connection_, call, false);
+    DBusMessage answer = answered(connection_, call);
     ResidentStatus status;
     sd_bus_message* handle = answer.handle();
     if (sd_bus_message_enter_container(handle, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
@@ -162,9 +172,13 @@ ResidentStatus ResidentClient::status() {
 }
 
 void ResidentClient::call(const char* member, bool mayStart) {
-    answered(connection_,
-             connection_.methodCall(destination_, dbus_names::objectPath, dbus_names::interface, member),
-             mayStart);
+    answered(connection_, methodCall(dbus_names::interface, member, mayStart));
+}
+
+DBusMessage ResidentClient::methodCall(const char* interface, const char* member, bool mayStart) {
+    const std::string owner = road_ == Road::bus ? ownerOnBus(connection_, mayStart) : "";
+    return connection_.methodCall(road_ == Road::bus ? owner.c_str() : nullptr, dbus_names::objectPath,
+                                  interface, member);
 }
 
 bool isShownOverSessionBus() {

@@ -44,15 +44,17 @@ class ResidentClient {
     [[nodiscard]] ResidentStatus status();
 
   private:
-    /// `destination` is null for a direct connection.
-    ResidentClient(DBusConnection connection, const char* destination)
-        : connection_(std::move(connection)), destination_(destination) {}
+    enum class Road { direct, bus };
+
+    ResidentClient(DBusConnection connection, Road road) : connection_(std::move(connection)), road_(road) {}
 
     static ResidentClient ofThisDisplay();
     void call(const char* member, bool mayStart);
+    /// `mayStart`: the bus may start the program for it.
+    [[nodiscard]] DBusMessage methodCall(const char* interface, const char* member, bool mayStart);
 
     DBusConnection connection_;
-    const char* destination_;
+    Road road_;
 };
 
 /// Whether the session bus knows a resident program of this display; it then shows its palette.

@@ -8,6 +8,7 @@
 #include "platform/linux/AtspiMenus.h"
 #include "platform/linux/DBusMenuReader.h"
 #include "platform/linux/GtkMenuReader.h"
+#include "platform/linux/MenuBounds.h"
 #include "platform/linux/MenuJoin.h"
 #include "platform/linux/MenuPress.h"
 
@@ -22,6 +23,11 @@ bool isUnreachable(MenuReadOutcome outcome) {
 
 bool hasEntries(const MenuReading& reading) {
     return !reading.tree.empty() && !reading.tree.front().children.empty();
+}
+
+/// The limits were met before anything could be made of it.
+bool isTooMuch(const MenuReading& reading) {
+    return reading.report.outcome == MenuReadOutcome::treeTooLarge;
 }
 
 MenuReading nothing() {
@@ -45,7 +51,8 @@ const X11Window* publisherOf(const std::vector<X11Window>& windows) {
 /// Late answers of an application that was given up would else be kept account of by the bus.
 template <typename Bus>
 void forgetIfAbandoned(Bus& bus, MenuReadOutcome outcome) {
-    if (outcome == MenuReadOutcome::applicationSilent || outcome == MenuReadOutcome::tooSlow) {
+    if (outcome == MenuReadOutcome::applicationSilent || outcome == MenuReadOutcome::tooSlow ||
+        outcome == MenuReadOutcome::treeTooLarge) {
         bus.disconnect();
     }
 }
@@ -72,18 +79,21 @@ MenuReading ApplicationMenus::read() {
                                   : readAccessible(publisher != nullptr ? publisher : frontOf(windows),
                                                    published.tree, started);
     std::size_t calls = published.report.calls + reading.report.calls;
-    if (hasEntries(published)) {
+    if (hasEntries(published) || (reading.tree.empty() && isTooMuch(published))) {
         reading = std::move(published);
     }
     if (!isUnreachable(reading.report.outcome) && (!hasEntries(reading) || hasEmptyMenu(reading.tree))) {
         const auto menu = registeredMenu(windows, started);
         MenuReading registered = menu ? readRegistered(*menu, started) : nothing();
         calls += registered.report.calls;
-        if (!hasEntries(reading) && hasEntries(registered)) {
+        if (!hasEntries(reading) && (hasEntries(registered) || isTooMuch(registered))) {
             reading = std::move(registered);
         } else {
             joinMenus(reading.tree, registered.tree);
         }
+    }
+    if (boundPaths(reading.tree, limits_.pathBytes) && reading.report.outcome == MenuReadOutcome::completed) {
+        reading.report.outcome = MenuReadOutcome::treeTooLarge;
     }
     reading.report.calls = calls;
     reading.report.elapsed =

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include "model/MenuTitle.h"
 #include "platform/linux/AtspiKeyBinding.h"
 #include "platform/linux/EntriesByTitle.h"
 
@@ -40,7 +41,8 @@ class Additions {
         objects->missing = paths.size();
         for (std::size_t index = 0; index < paths.size(); ++index) {
             calls_.ask(paths[index], Question::name, [this, menu, objects, index](DBusMessage& answer) {
-                objects->titles[index] = trimmed(Text(answer.readVariantString().value_or("")));
+                objects->titles[index] =
+                    menuTitle(calls_.budget().keptTitle(answer.readVariantString().value_or("")));
                 if (--objects->missing == 0) {
                     askAbout(addition_.match(menu, *objects), *objects);
                 }
@@ -62,7 +64,8 @@ class Additions {
 
     void askForEntries(std::size_t menu, const std::string& path) {
         calls_.ask(path, Question::children, [this, menu](DBusMessage& answer) {
-            if (const auto paths = readChildren(answer, calls_.busName(), calls_.limits().entriesPerMenu)) {
+            if (const auto paths =
+                    readChildren(answer, calls_.busName(), calls_.limits().entriesPerMenu, calls_.budget())) {
                 read(menu, *paths);
             }
         });
@@ -91,7 +94,8 @@ class Accelerators {
             return;
         }
         calls_.ask(path, Question::keyBinding, [this, entry](DBusMessage& answer) {
-            tree_[entry].shortcut = menuShortcut(answer.readString().value_or(""), AtspiToolkit::gtk, "");
+            tree_[entry].shortcut =
+                menuShortcut(readKeyBinding(answer, calls_.budget()), AtspiToolkit::gtk, "");
         });
     }
 

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "platform/linux/BoundedCalls.h"
 #include "platform/linux/DBusCallWindow.h"
 
 namespace tovrel {
@@ -17,13 +18,13 @@ constexpr auto busPatience = 500ms;
 
 constexpr std::size_t callsInFlight = 64;
 
+/// A desktop has some dozens.
+constexpr std::size_t maximumApplications = 1'000;
+
+constexpr const char* launcherName = "org.a11y.Bus";
+
 SteadyTime after(std::chrono::milliseconds duration) {
     return std::chrono::steady_clock::now() + duration;
-}
-
-DBusMessage busCall(const DBusConnection& connection, const char* member) {
-    return connection.methodCall("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
-                                 member);
 }
 
 std::vector<AtspiApplication> readReferences(DBusMessage& answer) {
@@ -32,8 +33,11 @@ std::vector<AtspiApplication> readReferences(DBusMessage& answer) {
     if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "(so)") > 0) {
         const char* busName = nullptr;
         const char* path = nullptr;
-        while (sd_bus_message_read(message, "(so)", &busName, &path) > 0) {
-            applications.push_back({busName, path, 0});
+        while (applications.size() < maximumApplications &&
+               sd_bus_message_read(message, "(so)", &busName, &path) > 0) {
+            if (isUniqueName(busName)) {
+                applications.push_back({busName, path, 0});
+            }
         }
     }
     return applications;
@@ -44,23 +48,45 @@ std::vector<AtspiApplication> readReferences(DBusMessage& answer) {
 AtspiBus::AtspiBus(std::function<std::optional<std::string>()> addressOnScreen)
     : addressOnScreen_(std::move(addressOnScreen)) {}
 
+bool AtspiBus::findLauncher(SteadyTime deadline) {
+    if (!session_ || !session_->isOpen()) {
+        session_ = DBusConnection::openSessionBus();
+        launcher_.reset();
+    }
+    if (session_ && !launcher_) {
+        launcher_ = session_->owner(launcherName, deadline);
+        // The only service that is ever started for what is read: at the first start after a login nobody may
+        // have used the accessibility bus yet, and whether it is enabled only its launcher knows.
+        if (!launcher_ && session_->isOpen() && session_->startService(launcherName, deadline)) {
+            launcher_ = session_->owner(launcherName, deadline);
+        }
+    }
+    return session_ && launcher_;
+}
+
 template <typename Arguments>
 std::optional<DBusMessage> AtspiBus::askLauncher(const char* interface, const char* member,
                                                  Arguments arguments) {
-    // A connection kept from before may turn out lost; then a new one is tried.
-    for (const bool isKept : {true, false}) {
-        if (!isKept || !session_ || !session_->isOpen()) {
-            session_ = DBusConnection::openSessionBus();
+    const SteadyTime deadline = after(launchPatience);
+    // A connection or a launcher known from before may turn out lost; then a new one is tried.
+    for (const bool mayBeLost : {true, false}) {
+        if (!findLauncher(deadline)) {
+            if (session_ && session_->isOpen()) {
+                break;
+            }
+            continue;
         }
-        const DBusMessage call =
-            session_ ? session_->methodCall("org.a11y.Bus", "/org/a11y/bus", interface, member)
-                     : DBusMessage();
+        const DBusMessage call = session_->methodCall(launcher_->c_str(), "/org/a11y/bus", interface, member);
         if (!call || !arguments(call.handle())) {
-            return std::nullopt;
+            break;
         }
-        auto answer = session_->call(call, after(launchPatience));
-        if (answer || session_->isOpen()) {
+        auto answer = session_->call(call, deadline);
+        if (answer && mayBeLost && saysApplicationIsGone(answer->errorName())) {
+            launcher_.reset();
+        } else if (answer && answer->errorName().empty()) {
             return answer;
+        } else if (session_->isOpen()) {
+            break;
         }
     }
     return std::nullopt;
@@ -95,7 +121,7 @@ bool AtspiBus::answers() {
     if (bus == nullptr) {
         return false;
     }
-    const auto answer = bus->call(busCall(*bus, "GetId"), after(busPatience));
+    const auto answer = bus->call(bus->busCall("GetId"), after(busPatience));
     return answer && answer->errorName().empty();
 }
 
@@ -107,11 +133,12 @@ bool AtspiBus::isEnabled() {
 }
 
 bool AtspiBus::setEnabled(bool isEnabled) {
-    const auto answer = askLauncher("org.freedesktop.DBus.Properties", "Set", [&](sd_bus_message* call) {
-        return sd_bus_message_append(call, "ssv", "org.a11y.Status", "IsEnabled", "b", isEnabled ? 1 : 0) >=
-               0;
-    });
-    return answer && answer->errorName().empty();
+    return askLauncher("org.freedesktop.DBus.Properties", "Set",
+                       [&](sd_bus_message* call) {
+                           return sd_bus_message_append(call, "ssv", "org.a11y.Status", "IsEnabled", "b",
+                                                        isEnabled ? 1 : 0) >= 0;
+                       })
+        .has_value();
 }
 
 std::optional<std::vector<AtspiApplication>> AtspiBus::applications() {
@@ -120,7 +147,12 @@ std::optional<std::vector<AtspiApplication>> AtspiBus::applications() {
         return std::nullopt;
     }
     const SteadyTime deadline = after(busPatience);
-    auto answer = bus->call(bus->methodCall("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root",
+    const auto registry = bus->owner("org.a11y.atspi.Registry", deadline);
+    if (!registry) {
+        // The first application that registers starts it, so that without it there is none.
+        return answers() ? std::optional(std::vector<AtspiApplication>()) : std::nullopt;
+    }
+    auto answer = bus->call(bus->methodCall(registry->c_str(), "/org/a11y/atspi/accessible/root",
                                             "org.a11y.atspi.Accessible", "GetChildren"),
                             deadline);
     if (!answer || !answer->errorName().empty()) {
@@ -129,7 +161,7 @@ std::optional<std::vector<AtspiApplication>> AtspiBus::applications() {
     std::vector<AtspiApplication> applications = readReferences(*answer);
     DBusCallWindow window(*bus, callsInFlight);
     for (AtspiApplication& application : applications) {
-        const DBusMessage call = busCall(*bus, "GetConnectionUnixProcessID");
+        const DBusMessage call = bus->busCall("GetConnectionUnixProcessID");
         if (!call || sd_bus_message_append(call.handle(), "s", application.busName.c_str()) < 0) {
             continue;
         }

@@ -48,12 +48,16 @@ class AtspiBus {
   private:
     [[nodiscard]] std::optional<std::string> address();
 
-    /// What the object on the session bus answers that starts the accessibility bus.
+    /// Sees to it that `session_` and `launcher_` are known.
+    bool findLauncher(SteadyTime deadline);
+
+    /// What the object on the session bus answers that starts the accessibility bus; absent for an error.
     template <typename Arguments>
     std::optional<DBusMessage> askLauncher(const char* interface, const char* member, Arguments arguments);
 
     std::function<std::optional<std::string>()> addressOnScreen_;
     std::optional<DBusConnection> session_;
+    std::optional<std::string> launcher_; ///< Unique name of that object's owner on `session_`.
     std::optional<DBusConnection> connection_;
 };
 

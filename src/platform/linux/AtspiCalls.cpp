@@ -57,7 +57,7 @@ DBusMessage AtspiCalls::callFor(const DBusConnection& connection, const std::str
 }
 
 std::optional<std::vector<std::string>> readChildren(DBusMessage& answer, std::string_view busName,
-                                                     std::size_t limit) {
+                                                     std::size_t limit, MenuReadBudget& budget) {
     sd_bus_message* message = answer.handle();
     if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "(so)") <= 0) {
         return std::nullopt;
@@ -65,20 +65,26 @@ std::optional<std::vector<std::string>> readChildren(DBusMessage& answer, std::s
     std::vector<std::string> paths;
     const char* owner = nullptr;
     const char* path = nullptr;
-    while (paths.size() < limit && sd_bus_message_read(message, "(so)", &owner, &path) > 0) {
-        if (owner == busName && std::string_view(path) != nullPath) {
-            paths.emplace_back(path);
+    while (paths.size() < limit && budget.look() && sd_bus_message_read(message, "(so)", &owner, &path) > 0) {
+        if (owner != busName || std::string_view(path) == nullPath) {
+            continue;
+        }
+        if (std::string kept = budget.kept(path); !kept.empty()) {
+            paths.push_back(std::move(kept));
         }
     }
     return paths;
 }
 
+std::string readKeyBinding(DBusMessage& answer, MenuReadBudget& budget) {
+    return budget.kept(answer.readString().value_or(""), longestKeyBinding);
+}
+
 std::optional<AtspiStates> readStates(DBusMessage& answer) {
-    const auto words = answer.readUint32Array();
-    if (!words || words->size() < 2) {
-        return std::nullopt;
-    }
-    return static_cast<AtspiStates>((*words)[0]) | (static_cast<AtspiStates>((*words)[1]) << 32U);
+    const auto words = answer.readTwoUint32s();
+    return words ? std::optional(static_cast<AtspiStates>(words->first) |
+                                 (static_cast<AtspiStates>(words->second) << 32U))
+                 : std::nullopt;
 }
 
 } // namespace tovrel

@@ -21,7 +21,7 @@ namespace tovrel {
 class AtspiCalls {
   public:
     enum class Question { role, name, states, children, keyBinding, interfaces, toolkitName };
-    /// Gets the answer, which may be an error or of any type.
+    /// Gets the answer, which may be of any type; an empty message for an error.
     using Handler = BoundedCalls::Handler;
 
     /// `started` is when the read began, which `limits.total` counts from.
@@ -35,6 +35,7 @@ class AtspiCalls {
     [[nodiscard]] std::optional<MenuReadOutcome> stopped() const { return calls_.stopped(); }
     [[nodiscard]] const std::string& busName() const { return busName_; }
     [[nodiscard]] const MenuReadLimits& limits() const { return calls_.limits(); }
+    [[nodiscard]] MenuReadBudget& budget() { return calls_.budget(); }
     [[nodiscard]] std::size_t calls() const { return calls_.calls(); }
 
   private:
@@ -49,7 +50,13 @@ class AtspiCalls {
 /// objects are left out: menus never live elsewhere than their application, and waiting on it must not become
 /// waiting on another. Absent when the answer is something else.
 std::optional<std::vector<std::string>> readChildren(DBusMessage& answer, std::string_view busName,
-                                                     std::size_t limit);
+                                                     std::size_t limit, MenuReadBudget& budget);
+
+/// The longest answer to GetKeyBinding that is looked at: "mnemonic;path;accelerator" takes some dozens.
+inline constexpr std::size_t longestKeyBinding = 256;
+
+/// An answer to GetKeyBinding; empty when it is something else.
+std::string readKeyBinding(DBusMessage& answer, MenuReadBudget& budget);
 
 /// The value of an answer to GetState; absent when it is something else.
 std::optional<AtspiStates> readStates(DBusMessage& answer);

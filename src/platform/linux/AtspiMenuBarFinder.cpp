@@ -90,7 +90,7 @@ class Search {
             calls_.ask(window.path, Question::states,
                        [&](DBusMessage& answer) { window.states = readStates(answer).value_or(0); });
             calls_.ask(window.path, Question::name,
-                       [&](DBusMessage& answer) { window.name = answer.readVariantString(); });
+                       [&](DBusMessage& answer) { window.name = keptName(answer); });
         }
         if (!calls_.run()) {
             return {};
@@ -146,10 +146,17 @@ class Search {
         return role ? std::optional(static_cast<AtspiRole>(*role)) : std::nullopt;
     }
 
+    /// Titles of windows are as long as documents are named.
+    std::optional<std::string> keptName(DBusMessage& answer) {
+        constexpr std::size_t longestTitle = 4096;
+        const auto name = answer.readVariantString();
+        return name ? std::optional(calls_.budget().kept(*name, longestTitle)) : std::nullopt;
+    }
+
     std::vector<std::string> entriesOf(const std::string& bar) {
         std::vector<std::string> entries;
         calls_.ask(bar, Question::children, [this, &entries](DBusMessage& answer) {
-            entries = readChildren(answer, calls_.busName(), calls_.limits().nodes)
+            entries = readChildren(answer, calls_.busName(), calls_.limits().nodes, calls_.budget())
                           .value_or(std::vector<std::string>());
         });
         return calls_.run() ? entries : std::vector<std::string>();
@@ -162,7 +169,7 @@ class Search {
         for (std::size_t index = 0; index < parents.size(); ++index) {
             calls_.ask(parents[index], Question::children,
                        [this, &families, index, limit](DBusMessage& answer) {
-                           if (auto paths = readChildren(answer, calls_.busName(), limit)) {
+                           if (auto paths = readChildren(answer, calls_.busName(), limit, calls_.budget())) {
                                families[index] = std::move(*paths);
                            }
                        });

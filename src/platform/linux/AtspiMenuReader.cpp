@@ -12,9 +12,6 @@ namespace {
 
 using Question = AtspiCalls::Question;
 
-/// Menu titles end long before this many bytes; the rest of a longer name is not kept.
-constexpr std::size_t maximumNameLength = 4096;
-
 /// Grows a tree from its menu bar. Of each object the role is asked first, and then only what objects of that
 /// role can answer to a purpose: nothing more of a separator, key bindings of leaves only, children of
 /// containers only. That is a third fewer questions than asking everything of everyone.
@@ -77,7 +74,7 @@ class TreeReader {
             break;
         case Question::name:
             if (const auto name = answer.readVariantString()) {
-                node.name = name->substr(0, maximumNameLength);
+                node.name = calls_.budget().keptTitle(*name);
             }
             break;
         case Question::states:
@@ -92,7 +89,7 @@ class TreeReader {
             takeChildren(index, answer);
             break;
         case Question::keyBinding:
-            node.keyBinding = answer.readString().value_or("");
+            node.keyBinding = readKeyBinding(answer, calls_.budget());
             break;
         case Question::interfaces:
             node.hasComponent = readHasComponent(answer);
@@ -135,7 +132,7 @@ class TreeReader {
 
     void takeChildren(std::size_t index, DBusMessage& answer) {
         const std::size_t room = calls_.limits().nodes - tree_.nodes.size();
-        const auto paths = readChildren(answer, calls_.busName(), room + 1);
+        const auto paths = readChildren(answer, calls_.busName(), room + 1, calls_.budget());
         if (paths && !paths->empty()) {
             addChildren(index, *paths);
         } else if (tree_.nodes[index].role != AtspiRole::menu &&
@@ -144,11 +141,15 @@ class TreeReader {
         }
     }
 
-    static std::optional<bool> readHasComponent(DBusMessage& answer) {
+    std::optional<bool> readHasComponent(DBusMessage& answer) {
         if (sd_bus_message_enter_container(answer.handle(), SD_BUS_TYPE_ARRAY, "s") <= 0) {
             return std::nullopt;
         }
-        while (const auto interface = answer.readString()) {
+        while (calls_.budget().look()) {
+            const auto interface = answer.readString();
+            if (!interface) {
+                break;
+            }
             if (*interface == "org.a11y.atspi.Component") {
                 return true;
             }

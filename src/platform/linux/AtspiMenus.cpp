@@ -4,6 +4,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "model/MenuTitle.h"
+#include "platform/linux/AtspiCalls.h"
 #include "platform/linux/AtspiKeyBinding.h"
 
 namespace tovrel {
@@ -71,9 +73,10 @@ MenuTree menuTreeOf(const AtspiMenuTree& tree) {
         MenuNode& shown = all[index];
         const std::string_view name = node.name ? std::string_view(*node.name) : std::string_view();
         const std::size_t tab = name.find('\t');
-        shown.title = trimmed(Text(name.substr(0, tab)));
-        shown.shortcut = menuShortcut(node.keyBinding, tree.toolkit,
-                                      tab == std::string_view::npos ? "" : name.substr(tab + 1));
+        shown.title = menuTitle(name.substr(0, tab));
+        shown.shortcut =
+            menuShortcut(node.keyBinding, tree.toolkit,
+                         tab == std::string_view::npos ? "" : name.substr(tab + 1, longestKeyBinding));
         shown.isChecked = isChecked(node);
         shown.isEnabled = index > 0 ? isEnabled(node, all[node.parent].isEnabled) : true;
         shown.isMenu = node.role == AtspiRole::menu || node.role == AtspiRole::menuBar;

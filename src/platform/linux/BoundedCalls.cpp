@@ -6,8 +6,9 @@
 namespace tovrel {
 
 BoundedCalls::BoundedCalls(DBusConnection& connection, const MenuReadLimits& limits, SteadyTime started)
-    : connection_(connection), limits_(limits), started_(started),
-      lastAnswer_(std::chrono::steady_clock::now()), window_(connection, limits.callsInFlight) {}
+    : connection_(connection), budget_(limits, started), started_(started),
+      receivedBefore_(connection.received()), lastAnswer_(std::chrono::steady_clock::now()),
+      window_(connection, limits.callsInFlight) {}
 
 void BoundedCalls::ask(Call call, Handler handler) {
     queue_.push_back({std::move(call), std::move(handler)});
@@ -38,8 +39,11 @@ void BoundedCalls::sendNext() {
         if (saysApplicationIsGone(answer.errorName())) {
             stopped_ =
                 connection_.isOpen() ? MenuReadOutcome::applicationGone : MenuReadOutcome::noAccessibilityBus;
-        } else {
+        } else if (answer.errorName().empty()) {
             handler(answer);
+        } else {
+            DBusMessage nothing;
+            handler(nothing);
         }
     });
     if (sent) {
@@ -50,13 +54,16 @@ void BoundedCalls::sendNext() {
 }
 
 void BoundedCalls::waitForAnswer() {
-    const SteadyTime end = started_ + limits_.total;
-    const SteadyTime silentAt = lastAnswer_ + limits_.silence;
+    const SteadyTime end = started_ + limits().total;
+    const SteadyTime silentAt = lastAnswer_ + limits().silence;
     const bool answered = window_.wait(std::min(end, silentAt));
     if (stopped_) {
         return;
     }
-    if (answered) {
+    if (isTooMuch()) {
+        const bool isLate = std::chrono::steady_clock::now() >= end;
+        stopped_ = isLate ? MenuReadOutcome::tooSlow : MenuReadOutcome::treeTooLarge;
+    } else if (answered) {
         const bool done = window_.isIdle() && queue_.empty();
         if (!done && std::chrono::steady_clock::now() >= end) {
             stopped_ = MenuReadOutcome::tooSlow;
@@ -66,6 +73,11 @@ void BoundedCalls::waitForAnswer() {
     } else {
         stopped_ = silentAt <= end ? MenuReadOutcome::applicationSilent : MenuReadOutcome::tooSlow;
     }
+}
+
+bool BoundedCalls::isTooMuch() const {
+    return budget_.isExhausted() || connection_.wasOverwhelmed() ||
+           connection_.received() - receivedBefore_ > limits().received;
 }
 
 bool saysApplicationIsGone(std::string_view errorName) {

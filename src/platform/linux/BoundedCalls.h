@@ -1,13 +1,14 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <optional>
 #include <string_view>
 
 #include "platform/linux/DBusCallWindow.h"
-#include "platform/linux/MenuReadLimits.h"
+#include "platform/linux/MenuReadBudget.h"
 #include "platform/linux/MenuReadReport.h"
 
 namespace tovrel {
@@ -17,7 +18,7 @@ class BoundedCalls {
   public:
     /// Makes the call when its turn has come; an empty message is left out.
     using Call = std::function<DBusMessage(const DBusConnection&)>;
-    /// Gets the answer, which may be an error or of any type.
+    /// Gets the answer, which may be of any type; an empty message for an error.
     using Handler = DBusCallWindow::Handler;
 
     /// `started` is when the read began, which `limits.total` counts from.
@@ -32,7 +33,9 @@ class BoundedCalls {
     bool run();
 
     [[nodiscard]] std::optional<MenuReadOutcome> stopped() const { return stopped_; }
-    [[nodiscard]] const MenuReadLimits& limits() const { return limits_; }
+    [[nodiscard]] const MenuReadLimits& limits() const { return budget_.limits(); }
+    /// What handlers decode answers with. The calls stop when it is exhausted.
+    [[nodiscard]] MenuReadBudget& budget() { return budget_; }
     [[nodiscard]] std::size_t calls() const { return calls_; }
 
   private:
@@ -43,10 +46,12 @@ class BoundedCalls {
 
     void sendNext();
     void waitForAnswer();
+    [[nodiscard]] bool isTooMuch() const;
 
     DBusConnection& connection_;
-    MenuReadLimits limits_;
+    MenuReadBudget budget_;
     SteadyTime started_;
+    std::uint64_t receivedBefore_;
     SteadyTime lastAnswer_;
     std::deque<Asked> queue_;
     std::size_t calls_ = 0;

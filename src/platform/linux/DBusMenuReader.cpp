@@ -1,5 +1,7 @@
 #include "platform/linux/DBusMenuReader.h"
 
+#include <algorithm>
+#include <chrono>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -16,7 +18,7 @@ constexpr const char* menuInterface = "com.canonical.dbusmenu";
 /// The properties of one item, each with the protocol's default.
 struct Item {
     std::int32_t identifier = 0;
-    std::string label;
+    Text title;
     bool isSeparator = false;
     bool isEnabled = true;
     bool isVisible = true;
@@ -25,22 +27,17 @@ struct Item {
     std::optional<MenuShortcut> shortcut;
 };
 
-bool isText(const DBusValue& value, std::string_view text) {
-    const auto* content = std::get_if<std::string>(&value.content);
-    return content != nullptr && *content == text;
-}
-
-bool isInteger(const DBusValue& value, std::int64_t integer) {
-    const auto* content = std::get_if<std::int64_t>(&value.content);
+bool isInteger(const std::optional<DBusValue>& value, std::int64_t integer) {
+    const auto* content = value ? std::get_if<std::int64_t>(&value->content) : nullptr;
     return content != nullptr && *content == integer;
 }
 
 /// An aas: keys of one stroke after the other.
-std::optional<MenuShortcut> shortcutIn(const DBusValue& value) {
-    if (value.signature != "aas") {
+std::optional<MenuShortcut> shortcutIn(const std::optional<DBusValue>& value) {
+    if (!value || value->signature != "aas") {
         return std::nullopt;
     }
-    const auto& strokes = std::get<std::vector<DBusValue>>(value.content);
+    const auto& strokes = std::get<std::vector<DBusValue>>(value->content);
     if (strokes.size() != 1) {
         return std::nullopt;
     }
@@ -51,43 +48,43 @@ std::optional<MenuShortcut> shortcutIn(const DBusValue& value) {
     return shortcutOfKeyNames(names);
 }
 
-void take(Item& item, std::string_view property, const DBusValue& value) {
+/// Reads the property's value, at which the message stands. What was not asked for is passed by.
+void take(Item& item, std::string_view property, sd_bus_message* message, MenuReadBudget& budget) {
     if (property == "label") {
-        if (const auto* label = std::get_if<std::string>(&value.content)) {
-            item.label = *label;
-        }
+        item.title = titleOfLabel(budget.keptTitle(readVariantText(message, budget).value_or("")));
     } else if (property == "type") {
-        item.isSeparator = isText(value, "separator");
+        item.isSeparator = readVariantText(message, budget) == "separator";
     } else if (property == "enabled") {
-        item.isEnabled = !isInteger(value, 0);
+        item.isEnabled = !isInteger(readVariant(message, budget), 0);
     } else if (property == "visible") {
-        item.isVisible = !isInteger(value, 0);
+        item.isVisible = !isInteger(readVariant(message, budget), 0);
     } else if (property == "children-display") {
-        item.hasSubmenu = isText(value, "submenu");
+        item.hasSubmenu = readVariantText(message, budget) == "submenu";
     } else if (property == "toggle-state") {
-        item.isChecked = isInteger(value, 1);
+        item.isChecked = isInteger(readVariant(message, budget), 1);
     } else if (property == "shortcut") {
-        item.shortcut = shortcutIn(value);
+        item.shortcut = shortcutIn(readVariant(message, budget));
+    } else {
+        skipVariant(message, budget);
     }
 }
 
 /// The number and the properties of an item (ia{sv}…), which the message stands within.
-std::optional<Item> readItem(sd_bus_message* message) {
+std::optional<Item> readItem(sd_bus_message* message, MenuReadBudget& budget) {
     Item item;
-    if (sd_bus_message_read_basic(message, SD_BUS_TYPE_INT32, &item.identifier) <= 0 ||
+    if (!budget.look() || sd_bus_message_read_basic(message, SD_BUS_TYPE_INT32, &item.identifier) <= 0 ||
         sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
         return std::nullopt;
     }
-    while (sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "sv") > 0) {
+    while (budget.look() && sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "sv") > 0) {
         const char* property = nullptr;
         if (sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &property) <= 0) {
             return std::nullopt;
         }
-        const auto value = readVariant(message);
-        if (!value || sd_bus_message_exit_container(message) < 0) {
+        take(item, property, message, budget);
+        if (sd_bus_message_exit_container(message) < 0) {
             return std::nullopt;
         }
-        take(item, property, *value);
     }
     return sd_bus_message_exit_container(message) < 0 ? std::nullopt : std::optional(std::move(item));
 }
@@ -132,7 +129,7 @@ class Reader {
                 std::uint32_t revision = 0;
                 if (sd_bus_message_read_basic(message, SD_BUS_TYPE_UINT32, &revision) > 0 &&
                     sd_bus_message_enter_container(message, SD_BUS_TYPE_STRUCT, "ia{sv}av") > 0 &&
-                    readItem(message)) {
+                    readItem(message, calls_.budget())) {
                     addChildren(message, node);
                 }
             });
@@ -170,7 +167,7 @@ class Reader {
     bool addChildren(sd_bus_message* message, std::size_t parent) {
         if (depths_[parent] >= calls_.limits().depth) {
             isTooLarge_ = true;
-            return sd_bus_message_skip(message, "av") >= 0;
+            return skipValue(message, calls_.budget());
         }
         if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "v") <= 0) {
             return false;
@@ -179,7 +176,7 @@ class Reader {
             const bool isFull = tree_.size() >= calls_.limits().nodes ||
                                 tree_[parent].children.size() >= calls_.limits().entriesPerMenu;
             isTooLarge_ = isTooLarge_ || isFull;
-            if (isFull ? sd_bus_message_skip(message, "v") < 0 : !addChild(message, parent)) {
+            if (isFull ? !skipValue(message, calls_.budget()) : !addChild(message, parent)) {
                 return false;
             }
         }
@@ -191,15 +188,15 @@ class Reader {
             sd_bus_message_enter_container(message, SD_BUS_TYPE_STRUCT, "ia{sv}av") <= 0) {
             return false;
         }
-        auto item = readItem(message);
+        auto item = readItem(message, calls_.budget());
         if (!item) {
             return false;
         }
-        MenuNode node;
-        node.title = titleOfLabel(item->label);
-        if (item->isSeparator || !item->isVisible || node.title.empty()) {
-            return sd_bus_message_skip(message, "av") >= 0 && leaveContainers(message, 2);
+        if (item->isSeparator || !item->isVisible || item->title.empty()) {
+            return skipValue(message, calls_.budget()) && leaveContainers(message, 2);
         }
+        MenuNode node;
+        node.title = std::move(item->title);
         node.isEnabled = item->isEnabled && tree_[parent].isEnabled == true;
         node.isChecked = item->isChecked;
         node.isMenu = item->hasSubmenu;
@@ -230,40 +227,28 @@ class Reader {
 
 std::optional<DBusMenuAddress> registeredMenu(DBusConnection& connection, std::uint32_t window,
                                               const MenuReadLimits& limits, SteadyTime started) {
-    BoundedCalls calls(connection, limits, started);
-    bool isRunning = false;
-    calls.ask(
-        [](const DBusConnection& bus) {
-            DBusMessage question = bus.methodCall("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                                  "org.freedesktop.DBus", "NameHasOwner");
-            return question && sd_bus_message_append(question.handle(), "s", registrarName) >= 0
-                       ? std::move(question)
-                       : DBusMessage();
-        },
-        [&](DBusMessage& answer) { isRunning = answer.readBoolean().value_or(false); });
-    calls.run();
-    if (!isRunning) {
+    const SteadyTime deadline =
+        std::min(started + limits.total, std::chrono::steady_clock::now() + limits.silence);
+    const auto registrar = connection.owner(registrarName, deadline);
+    if (!registrar) {
         return std::nullopt;
     }
-    std::optional<DBusMenuAddress> address;
-    calls.ask(
-        [window](const DBusConnection& bus) {
-            DBusMessage question =
-                bus.methodCall(registrarName, registrarPath, registrarName, "GetMenuForWindow");
-            return question && sd_bus_message_set_auto_start(question.handle(), 0) >= 0 &&
-                           sd_bus_message_append(question.handle(), "u", window) >= 0
-                       ? std::move(question)
-                       : DBusMessage();
-        },
-        [&](DBusMessage& answer) {
-            const char* busName = nullptr;
-            const char* path = nullptr;
-            if (sd_bus_message_read(answer.handle(), "so", &busName, &path) > 0 && *busName != '\0') {
-                address = {busName, path};
-            }
-        });
-    calls.run();
-    return address;
+    const DBusMessage question =
+        connection.methodCall(registrar->c_str(), registrarPath, registrarName, "GetMenuForWindow");
+    if (!question || sd_bus_message_append(question.handle(), "u", window) < 0) {
+        return std::nullopt;
+    }
+    const auto answer = connection.call(question, deadline);
+    const char* busName = nullptr;
+    const char* path = nullptr;
+    if (!answer || !answer->errorName().empty() ||
+        sd_bus_message_read(answer->handle(), "so", &busName, &path) <= 0) {
+        return std::nullopt;
+    }
+    // Registrars keep the unique name of whom they were told by; the protocol lets them tell another one.
+    const auto owner =
+        isUniqueName(busName) ? std::optional<std::string>(busName) : connection.owner(busName, deadline);
+    return owner ? std::optional(DBusMenuAddress{*owner, path}) : std::nullopt;
 }
 
 MenuReading readDBusMenuBar(DBusConnection& connection, const DBusMenuAddress& address,

@@ -12,7 +12,7 @@ namespace tovrel {
 
 /// Where an application serves a menu bar as com.canonical.dbusmenu.
 struct DBusMenuAddress {
-    std::string busName;
+    std::string busName; ///< Unique name.
     std::string path;
 };
 

@@ -8,7 +8,11 @@ namespace {
 
 constexpr int deepest = 16;
 
-std::optional<DBusValue> readValue(sd_bus_message* message, int depth);
+/// Types whose arrays lie in the message as they lie in memory. Those of booleans do too, but the library
+/// does not take them back so.
+bool isFixed(char type) {
+    return std::string_view("ynqiuxtd").find(type) != std::string_view::npos;
+}
 
 bool isString(char type) {
     return type == SD_BUS_TYPE_STRING || type == SD_BUS_TYPE_OBJECT_PATH || type == SD_BUS_TYPE_SIGNATURE;
@@ -45,28 +49,6 @@ std::optional<std::int64_t> readInteger(sd_bus_message* message, char type) {
     }
 }
 
-std::optional<DBusValue> readBasic(sd_bus_message* message, char type) {
-    DBusValue value{std::string(1, type), {}};
-    if (isString(type)) {
-        const char* text = nullptr;
-        if (sd_bus_message_read_basic(message, type, &text) <= 0) {
-            return std::nullopt;
-        }
-        value.content = std::string(text);
-    } else if (type == SD_BUS_TYPE_DOUBLE) {
-        double number = 0;
-        if (sd_bus_message_read_basic(message, type, &number) <= 0) {
-            return std::nullopt;
-        }
-        value.content = number;
-    } else if (const auto integer = readInteger(message, type)) {
-        value.content = *integer;
-    } else {
-        return std::nullopt;
-    }
-    return value;
-}
-
 std::string containerSignature(char type, std::string_view contents) {
     switch (type) {
     case SD_BUS_TYPE_ARRAY:
@@ -80,34 +62,116 @@ std::string containerSignature(char type, std::string_view contents) {
     }
 }
 
-std::optional<DBusValue> readContainer(sd_bus_message* message, char type, const std::string& contents,
-                                       int depth) {
-    if (depth >= deepest || sd_bus_message_enter_container(message, type, contents.c_str()) <= 0) {
-        return std::nullopt;
-    }
-    std::vector<DBusValue> parts;
-    while (sd_bus_message_at_end(message, 0) == 0) {
-        auto part = readValue(message, depth + 1);
-        if (!part) {
-            return std::nullopt;
-        }
-        parts.push_back(std::move(*part));
-    }
-    if (sd_bus_message_exit_container(message) < 0) {
-        return std::nullopt;
-    }
-    return DBusValue{containerSignature(type, contents), std::move(parts)};
-}
+/// Goes through a value from its start to its end, and keeps it on the way as long as it is small.
+class Walk {
+  public:
+    Walk(sd_bus_message* message, MenuReadBudget& budget) : message_(message), budget_(budget) {}
 
-std::optional<DBusValue> readValue(sd_bus_message* message, int depth) {
-    char type = 0;
-    const char* contents = nullptr;
-    if (sd_bus_message_peek_type(message, &type, &contents) <= 0) {
-        return std::nullopt;
+    /// Passes the next value, which fills `kept` unless that is null. False when the message cannot be read
+    /// further.
+    bool pass(DBusValue* kept, int depth = 0) {
+        char type = 0;
+        const char* contents = nullptr;
+        if (!budget_.look() || sd_bus_message_peek_type(message_, &type, &contents) <= 0) {
+            return false;
+        }
+        if (contents == nullptr) {
+            return passBasic(type, kept);
+        }
+        // What `contents` points to lives in the message only until the container is entered.
+        const std::string inner(contents);
+        return type == SD_BUS_TYPE_ARRAY && inner.size() == 1 && isFixed(inner.front())
+                   ? passNumbers(inner, kept)
+                   : passContainer(type, inner, kept, depth);
     }
-    // What `contents` points to lives in the message only until the container is entered.
-    return contents == nullptr ? readBasic(message, type)
-                               : readContainer(message, type, std::string(contents), depth);
+
+    /// What was filled is a part only.
+    [[nodiscard]] bool isTooLarge() const { return isTooLarge_; }
+    [[nodiscard]] std::size_t size() const { return size_; }
+
+  private:
+    /// Whether there is room for so many bytes more.
+    bool keeps(const DBusValue* kept, std::size_t bytes) {
+        size_ += kept == nullptr ? 0 : sizeof(DBusValue) + bytes;
+        isTooLarge_ = isTooLarge_ || size_ > largestValue;
+        return kept != nullptr && !isTooLarge_;
+    }
+
+    bool passBasic(char type, DBusValue* kept) {
+        DBusValue value{std::string(1, type), {}};
+        std::size_t bytes = 0;
+        if (isString(type)) {
+            const char* text = nullptr;
+            if (sd_bus_message_read_basic(message_, type, &text) <= 0) {
+                return false;
+            }
+            const std::string_view view(text);
+            bytes = view.size();
+            if (kept != nullptr && bytes <= largestValue) {
+                value.content = std::string(view);
+            }
+        } else if (type == SD_BUS_TYPE_DOUBLE) {
+            double number = 0;
+            if (sd_bus_message_read_basic(message_, type, &number) <= 0) {
+                return false;
+            }
+            value.content = number;
+        } else if (const auto integer = readInteger(message_, type)) {
+            value.content = *integer;
+        } else {
+            return false;
+        }
+        if (keeps(kept, bytes)) {
+            *kept = std::move(value);
+        }
+        return true;
+    }
+
+    bool passNumbers(const std::string& type, DBusValue* kept) {
+        const void* data = nullptr;
+        std::size_t size = 0;
+        if (sd_bus_message_read_array(message_, type.front(), &data, &size) < 0) {
+            return false;
+        }
+        if (keeps(kept, size)) {
+            *kept = {containerSignature(SD_BUS_TYPE_ARRAY, type),
+                     std::string(static_cast<const char*>(data), size)};
+        }
+        return true;
+    }
+
+    bool passContainer(char type, const std::string& contents, DBusValue* kept, int depth) {
+        if (sd_bus_message_enter_container(message_, type, contents.c_str()) <= 0) {
+            return false;
+        }
+        isTooLarge_ = isTooLarge_ || depth >= deepest;
+        bool isKept = keeps(kept, contents.size());
+        std::vector<DBusValue> parts;
+        while (sd_bus_message_at_end(message_, 0) == 0) {
+            DBusValue part;
+            if (!pass(isKept ? &part : nullptr, depth + 1)) {
+                return false;
+            }
+            isKept = isKept && !isTooLarge_;
+            if (isKept) {
+                parts.push_back(std::move(part));
+            }
+        }
+        if (isKept) {
+            *kept = {containerSignature(type, contents), std::move(parts)};
+        }
+        return sd_bus_message_exit_container(message_) >= 0;
+    }
+
+    sd_bus_message* message_;
+    MenuReadBudget& budget_;
+    std::size_t size_ = 0;
+    bool isTooLarge_ = false;
+};
+
+bool isAtVariant(sd_bus_message* message) {
+    char type = 0;
+    return sd_bus_message_peek_type(message, &type, nullptr) > 0 && type == SD_BUS_TYPE_VARIANT;
 }
 
 bool appendValue(sd_bus_message* message, const DBusValue& value);
@@ -158,6 +222,9 @@ bool appendParts(sd_bus_message* message, const std::string& signature, const st
 bool appendValue(sd_bus_message* message, const DBusValue& value) {
     const char type = value.signature.front();
     if (const auto* text = std::get_if<std::string>(&value.content)) {
+        if (type == SD_BUS_TYPE_ARRAY) {
+            return sd_bus_message_append_array(message, value.signature[1], text->data(), text->size()) >= 0;
+        }
         return sd_bus_message_append_basic(message, type, text->c_str()) >= 0;
     }
     if (const auto* number = std::get_if<double>(&value.content)) {
@@ -171,13 +238,39 @@ bool appendValue(sd_bus_message* message, const DBusValue& value) {
 
 } // namespace
 
-std::optional<DBusValue> readVariant(sd_bus_message* message) {
-    auto variant = readValue(message, 0);
-    if (!variant || variant->signature != "v") {
+std::optional<DBusValue> readVariant(sd_bus_message* message, MenuReadBudget& budget) {
+    Walk walk(message, budget);
+    DBusValue variant;
+    if (!isAtVariant(message) || !walk.pass(&variant) || walk.isTooLarge() ||
+        !budget.keepsValue(walk.size())) {
         return std::nullopt;
     }
-    auto& parts = std::get<std::vector<DBusValue>>(variant->content);
+    auto& parts = std::get<std::vector<DBusValue>>(variant.content);
     return parts.size() == 1 ? std::optional(std::move(parts.front())) : std::nullopt;
+}
+
+std::optional<std::string_view> readVariantText(sd_bus_message* message, MenuReadBudget& budget) {
+    char type = 0;
+    const char* contents = nullptr;
+    const char* text = nullptr;
+    if (sd_bus_message_peek_type(message, &type, &contents) <= 0 || type != SD_BUS_TYPE_VARIANT ||
+        std::string_view(contents) != "s") {
+        skipVariant(message, budget);
+        return std::nullopt;
+    }
+    return budget.look() && sd_bus_message_read(message, "v", "s", &text) > 0
+               ? std::optional<std::string_view>(text)
+               : std::nullopt;
+}
+
+void skipVariant(sd_bus_message* message, MenuReadBudget& budget) {
+    if (isAtVariant(message)) {
+        skipValue(message, budget);
+    }
+}
+
+bool skipValue(sd_bus_message* message, MenuReadBudget& budget) {
+    return Walk(message, budget).pass(nullptr);
 }
 
 bool appendVariant(sd_bus_message* message, const DBusValue& value) {

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
 #include <systemd/sd-bus.h>
+
+#include "platform/linux/MenuReadBudget.h"
 
 namespace tovrel {
 
@@ -15,15 +19,33 @@ struct DBusValue {
     /// The type as the protocol writes it: "s", "i", "(ss)", "a{sv}", "v".
     std::string signature;
     /// What it holds: integers and booleans in 64 bits as they are, floating-point numbers, strings (also
-    /// paths and signatures), and the parts of what has parts.
+    /// paths and signatures), the bytes of an array of numbers as they were sent, and the parts
+    /// of what else has parts.
     std::variant<std::int64_t, double, std::string, std::vector<DBusValue>> content;
 
     friend bool operator==(const DBusValue&, const DBusValue&) = default;
 };
 
-/// The value in the variant at which the message stands; the message then stands behind it. Absent for
-/// anything else, for file descriptors, and for what is nested deeper than a menu's values ever are.
-std::optional<DBusValue> readVariant(sd_bus_message* message);
+/// What a value may take in memory, its parts included.
+inline constexpr std::size_t largestValue = std::size_t{16} << 10U;
+
+/// The following read the value in the variant at which the message stands, which then stands behind it.
+/// When the budget runs out, and with what is no variant, the message stands somewhere within, and cannot be
+/// read further.
+
+/// Absent for what is larger than `largestValue`, or nested deeper than a menu's values ever are, and for
+/// file descriptors.
+std::optional<DBusValue> readVariant(sd_bus_message* message, MenuReadBudget& budget);
+
+/// A string, as long as the message lives; absent for any other type.
+std::optional<std::string_view> readVariantText(sd_bus_message* message, MenuReadBudget& budget);
+
+/// Passes by the value, whatever it is.
+void skipVariant(sd_bus_message* message, MenuReadBudget& budget);
+
+/// Passes by the value of any type at which the message stands. False when the message cannot be read
+/// further.
+bool skipValue(sd_bus_message* message, MenuReadBudget& budget);
 
 /// Appends the value within a variant; false when the message does not take it.
 bool appendVariant(sd_bus_message* message, const DBusValue& value);

@@ -24,6 +24,8 @@ class FileDescriptor {
 
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
     [[nodiscard]] int get() const { return descriptor_; }
+    /// Leaves the descriptor to someone else.
+    int release() { return std::exchange(descriptor_, -1); }
 
   private:
     int descriptor_;

@@ -7,66 +7,99 @@
 namespace tovrel {
 namespace {
 
-std::string stringIn(const std::optional<DBusValue>& value) {
-    const auto* text = value ? std::get_if<std::string>(&value->content) : nullptr;
-    return text == nullptr ? std::string() : *text;
+std::string keptText(sd_bus_message* message, MenuReadBudget& budget) {
+    const auto text = readVariantText(message, budget);
+    return text ? budget.kept(*text) : std::string();
 }
 
 /// The (uu) of a link.
-std::optional<GtkMenuReference> referenceIn(const std::optional<DBusValue>& value) {
-    if (!value || value->signature != "(uu)") {
+std::optional<GtkMenuReference> readReference(sd_bus_message* message, MenuReadBudget& budget) {
+    char type = 0;
+    const char* contents = nullptr;
+    GtkMenuReference reference{0, 0};
+    if (sd_bus_message_peek_type(message, &type, &contents) <= 0 || type != SD_BUS_TYPE_VARIANT ||
+        std::string_view(contents) != "(uu)") {
+        skipVariant(message, budget);
         return std::nullopt;
     }
-    const auto& parts = std::get<std::vector<DBusValue>>(value->content);
-    return GtkMenuReference{static_cast<std::uint32_t>(std::get<std::int64_t>(parts[0].content)),
-                            static_cast<std::uint32_t>(std::get<std::int64_t>(parts[1].content))};
+    return budget.look() && sd_bus_message_read(message, "v", "(uu)", &reference.first, &reference.second) > 0
+               ? std::optional(reference)
+               : std::nullopt;
 }
 
-void take(GtkMenuEntry& entry, std::string_view attribute, std::optional<DBusValue> value) {
+/// Reads the attribute's value, at which the message stands. What nobody asks for, such as pictures, which
+/// are large, is passed by.
+void take(GtkMenuEntry& entry, std::string_view attribute, sd_bus_message* message, MenuReadBudget& budget) {
     if (attribute == "label") {
-        entry.label = stringIn(value);
+        entry.label = budget.keptTitle(readVariantText(message, budget).value_or(""));
     } else if (attribute == "action") {
-        entry.action = stringIn(value);
+        entry.action = keptText(message, budget);
     } else if (attribute == "target") {
-        entry.target = std::move(value);
+        entry.target = readVariant(message, budget);
+        entry.lacksTarget = !entry.target;
     } else if (attribute == "accel") {
-        entry.accelerator = stringIn(value);
+        entry.accelerator = keptText(message, budget);
     } else if (attribute == "hidden-when") {
-        entry.hiddenWhen = stringIn(value);
+        entry.hiddenWhen = keptText(message, budget);
     } else if (attribute == "action-namespace") {
-        entry.actionNamespace = stringIn(value);
+        entry.actionNamespace = keptText(message, budget);
     } else if (attribute == "submenu-action") {
-        entry.submenuAction = stringIn(value);
+        entry.submenuAction = keptText(message, budget);
     } else if (attribute == ":section") {
-        entry.section = referenceIn(value);
+        entry.section = readReference(message, budget);
     } else if (attribute == ":submenu") {
-        entry.submenu = referenceIn(value);
+        entry.submenu = readReference(message, budget);
+    } else {
+        skipVariant(message, budget);
     }
 }
 
 /// The a{sv} at which the message stands.
-std::optional<GtkMenuEntry> readEntry(sd_bus_message* message) {
+std::optional<GtkMenuEntry> readEntry(sd_bus_message* message, MenuReadBudget& budget) {
     GtkMenuEntry entry;
-    if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
+    if (!budget.look() || sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
         return std::nullopt;
     }
-    while (sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "sv") > 0) {
+    while (budget.look() && sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "sv") > 0) {
         const char* attribute = nullptr;
         if (sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &attribute) <= 0) {
             return std::nullopt;
         }
-        const std::string_view name(attribute);
-        // Pictures are large, and nobody here shows them.
-        if (name == "icon" || name == "verb-icon") {
-            sd_bus_message_skip(message, "v");
-        } else {
-            take(entry, name, readVariant(message));
-        }
+        take(entry, attribute, message, budget);
         if (sd_bus_message_exit_container(message) < 0) {
             return std::nullopt;
         }
     }
     return sd_bus_message_exit_container(message) < 0 ? std::nullopt : std::optional(std::move(entry));
+}
+
+/// Adds the entries of a menu, the aa{sv} at which the message stands, as far as they make sense. False when
+/// the message cannot be read further.
+bool readEntries(sd_bus_message* message, MenuReadBudget& budget, std::vector<GtkMenuEntry>& entries,
+                 std::set<std::uint32_t>& linked, bool& isEverything) {
+    if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "a{sv}") <= 0) {
+        return false;
+    }
+    while (sd_bus_message_at_end(message, 0) == 0) {
+        if (entries.size() >= budget.limits().entriesPerMenu || !budget.keepsEntry()) {
+            isEverything = false;
+            if (!skipValue(message, budget)) {
+                return false;
+            }
+            continue;
+        }
+        auto entry = readEntry(message, budget);
+        if (!entry) {
+            return false;
+        }
+        for (const auto& link : {entry->section, entry->submenu}) {
+            if (link) {
+                linked.insert(link->first);
+            }
+        }
+        entries.push_back(std::move(*entry));
+    }
+    return leaveContainers(message, 2);
 }
 
 struct FoundAction {
@@ -183,7 +216,7 @@ class TreeBuilder {
         if (entry.submenu) {
             // Its action, if it has one, is told of its opening and closing.
             node.isEnabled = tree_[menu.node].isEnabled;
-        } else if (found.description != nullptr) {
+        } else if (found.description != nullptr && !entry.lacksTarget) {
             node.isEnabled =
                 tree_[menu.node].isEnabled == true && isEnabled(*found.description, entry.target);
             node.isChecked = isChecked(*found.description, entry.target);
@@ -212,54 +245,39 @@ class TreeBuilder {
 
 } // namespace
 
-bool readGtkMenus(DBusMessage& answer, std::size_t entriesPerMenu, GtkMenuModel& model,
+bool readGtkMenus(DBusMessage& answer, MenuReadBudget& budget, GtkMenuModel& model,
                   std::set<std::uint32_t>& linked) {
     sd_bus_message* message = answer.handle();
     bool isEverything = true;
     if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "(uuaa{sv})") <= 0) {
         return isEverything;
     }
-    while (sd_bus_message_enter_container(message, SD_BUS_TYPE_STRUCT, "uuaa{sv}") > 0) {
+    while (budget.look() && sd_bus_message_enter_container(message, SD_BUS_TYPE_STRUCT, "uuaa{sv}") > 0) {
+        if (model.size() >= budget.limits().nodes) {
+            return false;
+        }
         GtkMenuReference reference{0, 0};
-        if (sd_bus_message_read(message, "uu", &reference.first, &reference.second) <= 0 ||
-            sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "a{sv}") <= 0) {
+        if (sd_bus_message_read(message, "uu", &reference.first, &reference.second) <= 0) {
             break;
         }
         std::vector<GtkMenuEntry>& entries = model[reference];
         entries.clear();
-        while (sd_bus_message_at_end(message, 0) == 0) {
-            if (entries.size() >= entriesPerMenu) {
-                isEverything = false;
-                if (sd_bus_message_skip(message, "a{sv}") < 0) {
-                    break;
-                }
-                continue;
-            }
-            auto entry = readEntry(message);
-            if (!entry) {
-                return isEverything;
-            }
-            for (const auto& link : {entry->section, entry->submenu}) {
-                if (link) {
-                    linked.insert(link->first);
-                }
-            }
-            entries.push_back(std::move(*entry));
-        }
-        if (!leaveContainers(message, 2)) {
+        if (!readEntries(message, budget, entries, linked, isEverything)) {
             break;
         }
     }
-    return isEverything;
+    return isEverything && !budget.isExhausted();
 }
 
-std::map<std::string, GtkActionDescription, std::less<>> readGtkActions(DBusMessage& answer) {
+std::map<std::string, GtkActionDescription, std::less<>> readGtkActions(DBusMessage& answer,
+                                                                        MenuReadBudget& budget) {
     std::map<std::string, GtkActionDescription, std::less<>> actions;
     sd_bus_message* message = answer.handle();
     if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{s(bgav)}") <= 0) {
         return actions;
     }
-    while (sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "s(bgav)") > 0) {
+    while (actions.size() < budget.limits().nodes && budget.look() &&
+           sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "s(bgav)") > 0) {
         const char* name = nullptr;
         int isEnabled = 0;
         const char* parameterType = nullptr;
@@ -269,11 +287,16 @@ std::map<std::string, GtkActionDescription, std::less<>> readGtkActions(DBusMess
             sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "v") <= 0) {
             break;
         }
-        GtkActionDescription& action = actions[name];
+        GtkActionDescription action;
         action.isEnabled = isEnabled != 0;
         action.parameterType = parameterType;
         if (sd_bus_message_at_end(message, 0) == 0) {
-            action.state = readVariant(message);
+            action.state = readVariant(message, budget);
+        }
+        while (sd_bus_message_at_end(message, 0) == 0 && skipValue(message, budget)) {
+        }
+        if (std::string kept = budget.kept(name); !kept.empty()) {
+            actions.insert_or_assign(std::move(kept), std::move(action));
         }
         if (!leaveContainers(message, 3)) {
             break;

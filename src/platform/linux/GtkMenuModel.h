@@ -23,6 +23,7 @@ struct GtkMenuEntry {
     std::string label;                       ///< With underscores before mnemonics.
     std::string action;                      ///< With its prefix: "win.save"; empty for an entry without one.
     std::optional<DBusValue> target;         ///< What the action is activated with.
+    bool lacksTarget = false;                ///< It has one, which is too large to be kept.
     std::string accelerator;                 ///< "accel": "<Primary>s"; most applications keep it elsewhere.
     std::string hiddenWhen;                  ///< "hidden-when": "action-missing" or "action-disabled".
     std::string actionNamespace;             ///< Put before the actions of the linked menu.
@@ -33,9 +34,9 @@ struct GtkMenuEntry {
 
 using GtkMenuModel = std::map<GtkMenuReference, std::vector<GtkMenuEntry>>;
 
-/// Adds the menus in an answer of org.gtk.Menus.Start, and to `linked` the groups they lead to. Of each menu
-/// at most `entriesPerMenu` are kept; false when one had more.
-bool readGtkMenus(DBusMessage& answer, std::size_t entriesPerMenu, GtkMenuModel& model,
+/// Adds the menus in an answer of org.gtk.Menus.Start, and to `linked` the groups they lead to. False when
+/// that is not everything because of the limits.
+bool readGtkMenus(DBusMessage& answer, MenuReadBudget& budget, GtkMenuModel& model,
                   std::set<std::uint32_t>& linked);
 
 /// An action as org.gtk.Actions describes it.
@@ -53,12 +54,13 @@ struct GtkActionGroup {
 };
 
 /// The actions in an answer of org.gtk.Actions.DescribeAll, by their names without prefix.
-std::map<std::string, GtkActionDescription, std::less<>> readGtkActions(DBusMessage& answer);
+std::map<std::string, GtkActionDescription, std::less<>> readGtkActions(DBusMessage& answer,
+                                                                        MenuReadBudget& budget);
 
 /// The menu bar (group 0, menu 0) as GTK would show it: sections joined to the menu they stand in, mnemonic
 /// marks taken off, entries enabled and checked as their actions are. An entry without a known action is
-/// disabled, as is one whose target is not of the type that the action takes. Checked is an action whose
-/// state is true, or, for one of several choices, equal to the entry's target.
+/// disabled, as is one whose target is not of the type that the action takes or is too large. Checked is an
+/// action whose state is true, or, for one of several choices, equal to the entry's target.
 ///
 /// A submenu that stands twice in one menu, with one action for its opening, is one: LibreOffice publishes
 /// its whole bar in two forms.

@@ -50,7 +50,7 @@ class Reader {
                                              "DescribeAll");
             },
             [this, prefix = std::move(prefix), objectPath](DBusMessage& answer) {
-                actions_.push_back({prefix, objectPath, readGtkActions(answer)});
+                actions_.push_back({prefix, objectPath, readGtkActions(answer, calls_.budget())});
             });
     }
 
@@ -66,7 +66,7 @@ class Reader {
   private:
     void take(DBusMessage& answer) {
         Groups linked;
-        if (!readGtkMenus(answer, calls_.limits().entriesPerMenu, model_, linked)) {
+        if (!readGtkMenus(answer, calls_.budget(), model_, linked)) {
             isTooLarge_ = true;
         }
         for (const std::uint32_t group : started_) {
@@ -99,7 +99,7 @@ MenuReading readGtkMenuBar(DBusConnection& connection, const GtkMenuAddress& add
     reader.describe("win.", address.windowPath);
     calls.run();
     // The application would else tell of every change from now on. Nobody waits for the answer.
-    connection.send(callWithGroups(connection, address, "End", reader.started()));
+    connection.tell(callWithGroups(connection, address, "End", reader.started()));
 
     MenuTree tree = calls.stopped() ? MenuTree() : reader.tree();
     return finishedReading(std::move(tree), reader.isTooLarge(), calls, started);

@@ -28,8 +28,7 @@ PressResult deliver(DBusConnection& connection, const DBusMessage& press) {
     // The bus works through one connection's messages in order: its answer to a question sent behind the
     // press says that the press has been passed on.
     const auto pressed = connection.send(press);
-    const auto confirmation = connection.send(connection.methodCall(
-        "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetId"));
+    const auto confirmation = connection.send(connection.busCall("GetId"));
     if (!pressed || !confirmation) {
         return PressResult::refused;
     }

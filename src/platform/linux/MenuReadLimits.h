@@ -14,8 +14,9 @@ struct MenuReadLimits {
     /// For one read in whole, however steadily the application answers. The largest menu bar measured (985
     /// objects) takes 65 ms; ten times its size on a machine three times slower still fits.
     std::chrono::milliseconds total{2000};
-    /// Objects in a menu bar; more are a mistake or an attack, and would not be read in `total` either.
-    std::size_t nodes = 20'000;
+    /// Objects in a menu bar; more are a mistake or an attack. Ten times the largest that was measured; each
+    /// costs about 2 KB by the time it can be searched for.
+    std::size_t nodes = 10'000;
     /// Entries of one menu; the rest is left out. Nobody reads further down in a menu, but lists of bookmarks
     /// or of recent files that an application puts there without measure would use up the time for the
     /// others.
@@ -29,6 +30,27 @@ struct MenuReadLimits {
     std::size_t searchedDepth = 8;
     /// Calls under way at a time. Measured: 8 take 1.6 times as long, 512 save no more than a tenth.
     std::size_t callsInFlight = 64;
+
+    // What an application may send, and what is kept of it. The following hold for each source of one read.
+
+    /// Bytes that are received, whatever they are. The largest menu bar measured (985 objects over the
+    /// accessibility bus) takes 600 KB, an office suite's published menus 300 KB.
+    std::size_t received = std::size_t{16} << 20U;
+    /// Values in the answers that are looked at, also those that nobody wants and that are only passed by to
+    /// come to the next: a steady machine passes five in a microsecond. The largest menu bar measured has
+    /// 25,000.
+    std::size_t values = 250'000;
+    /// Bytes of text that are kept while an answer is put together with the others: titles, names of actions,
+    /// paths of objects. The largest menu bar measured has 60 KB.
+    std::size_t textBytes = std::size_t{2} << 20U;
+    /// Bytes of values that are kept to be compared and sent back: targets and states of actions. Real ones
+    /// are a number or a word.
+    std::size_t valueBytes = std::size_t{256} << 10U;
+
+    /// Bytes of the menu paths of all entries together, each title counted with what a text takes besides:
+    /// every entry carries its whole path from here on, so that one long title over many entries costs their
+    /// product, about twelve times until it can be searched for. The largest menu bar measured has 140 KB.
+    std::size_t pathBytes = std::size_t{1} << 20U;
 };
 
 } // namespace tovrel

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "model/MenuTitle.h"
+
 namespace tovrel {
 namespace {
 
@@ -20,6 +22,7 @@ std::vector<std::size_t> nodesWithPath(const MenuTree& tree, const std::vector<T
 } // namespace
 
 Text titleOfLabel(std::string_view label) {
+    label = label.substr(0, longestMenuName);
     std::string shown;
     shown.reserve(label.size());
     for (std::size_t index = 0; index < label.size(); ++index) {
@@ -30,7 +33,7 @@ Text titleOfLabel(std::string_view label) {
             shown += label[index];
         }
     }
-    return trimmed(Text(shown));
+    return menuTitle(shown);
 }
 
 std::vector<Text> menuPath(const MenuTree& tree, std::size_t node) {

@@ -8,6 +8,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/linux/DBus.h"
 #include "platform/linux/X11Properties.h"
 #include "platform/linux/XcbOwned.h"
 
@@ -45,7 +46,7 @@ std::optional<std::int32_t> processIn(const X11Properties& properties) {
 std::optional<GtkMenuAddress> gtkMenusIn(const X11Properties& properties) {
     auto menuBar = properties.bytes("_GTK_MENUBAR_OBJECT_PATH");
     auto busName = properties.bytes("_GTK_UNIQUE_BUS_NAME");
-    if (!menuBar || !busName) {
+    if (!menuBar || !busName || !isUniqueName(*busName)) {
         return std::nullopt;
     }
     return GtkMenuAddress{std::move(*busName), std::move(*menuBar),

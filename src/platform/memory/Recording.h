@@ -17,8 +17,8 @@
 ///
 /// An ELEMENT is an object with any of "AXTitle", "AXEnabled", "AXMenuItemMarkChar", "AXMenuItemCmdChar",
 /// "AXMenuItemCmdModifiers" and "AXChildren". Every member may be missing, and one of a wrong type counts as
-/// missing, as does an entry of "AXChildren" that is no object. Of members with the same name the last
-/// counts.
+/// missing, as does an entry of "AXChildren" that is no object. Titles are cut at `longestMenuTitle`. Of
+/// members with the same name the last counts.
 namespace tovrel::recording {
 
 /// Why a document is no recording, or why no recording can be made. The message is one line.

@@ -5,6 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "model/MenuTitle.h"
 #include "platform/memory/MemoryApplication.h"
 #include "platform/memory/MemoryElement.h"
 #include "platform/memory/Recording.h"
@@ -69,7 +70,9 @@ std::optional<MemoryElement::Value> valueOf(const json::Value& value) {
 std::shared_ptr<MemoryElement> elementOf(const json::Value& object) {
     MemoryElement::Attributes attributes;
     for (const auto& [name, member] : object.items()) {
-        if (auto value = valueOf(member)) {
+        if (name == "AXTitle" && member.is_string()) {
+            attributes.emplace(name, cutMenuTitle(json::textFrom(member)));
+        } else if (auto value = valueOf(member)) {
             attributes.emplace(name, std::move(*value));
         }
     }

@@ -50,6 +50,7 @@ void StatusBarWait::askForStatusNotifierHost() {
     QDBusMessage question = QDBusMessage::createMethodCall(watcherService, watcherPath,
                                                            QStringLiteral("org.freedesktop.DBus.Properties"),
                                                            QStringLiteral("Get"));
+    question.setAutoStartService(false);
     question.setArguments({watcherService, QStringLiteral("IsStatusNotifierHostRegistered")});
     auto* call = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
