@@ -11,14 +11,20 @@
 namespace tovrel {
 namespace {
 
-/// Costly to make, and as small as a pointer to keep. Null when ICU lacks its data.
+/// Null when ICU lacks its data.
+std::unique_ptr<icu::BreakIterator> makeClusterIterator() {
+    UErrorCode status = U_ZERO_ERROR;
+    std::unique_ptr<icu::BreakIterator> made(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    if (U_FAILURE(status)) {
+        made.reset();
+    }
+    return made;
+}
+
+/// It is costly to make, and a text may be cut thousands of times in a row.
 icu::BreakIterator* clusterIterator() {
-    thread_local const std::unique_ptr<icu::BreakIterator> iterator = [] {
-        UErrorCode status = U_ZERO_ERROR;
-        std::unique_ptr<icu::BreakIterator> made(
-            icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-        return U_SUCCESS(status) ? std::move(made) : nullptr;
-    }();
+    thread_local const std::unique_ptr<icu::BreakIterator> iterator = makeClusterIterator();
     return iterator.get();
 }
 
