@@ -11,21 +11,12 @@
 namespace tovrel {
 namespace {
 
-/// Null when ICU lacks its data.
-std::unique_ptr<icu::BreakIterator> makeClusterIterator() {
-    UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::BreakIterator> made(
-        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-    if (U_FAILURE(status)) {
-        made.reset();
-    }
-    return made;
-}
-
-/// It is costly to make, and a text may be cut thousands of times in a row.
+/// Costly to make, while a text may be cut thousands of times in a row. Null when ICU lacks its data.
 icu::BreakIterator* clusterIterator() {
-    thread_local const std::unique_ptr<icu::BreakIterator> iterator = makeClusterIterator();
-    return iterator.get();
+    static thread_local UErrorCode status = U_ZERO_ERROR;
+    static thread_local const std::unique_ptr<icu::BreakIterator> iterator(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    return U_SUCCESS(status) ? iterator.get() : nullptr;
 }
 
 /// The last boundary of clusters up to `place`, which lies within the text; 0 when there is none.
