@@ -11,15 +11,12 @@
 namespace tovrel {
 namespace {
 
-/// Costly to make, and as small as a pointer to keep. Null when ICU lacks its data.
+/// Costly to make, while a text may be cut thousands of times in a row. Null when ICU lacks its data.
 icu::BreakIterator* clusterIterator() {
-    thread_local const std::unique_ptr<icu::BreakIterator> iterator = [] {
-        UErrorCode status = U_ZERO_ERROR;
-        std::unique_ptr<icu::BreakIterator> made(
-            icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-        return U_SUCCESS(status) ? std::move(made) : nullptr;
-    }();
-    return iterator.get();
+    static thread_local UErrorCode status = U_ZERO_ERROR;
+    static thread_local const std::unique_ptr<icu::BreakIterator> iterator(
+        icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    return U_SUCCESS(status) ? iterator.get() : nullptr;
 }
 
 /// The last boundary of clusters up to `place`, which lies within the text; 0 when there is none.

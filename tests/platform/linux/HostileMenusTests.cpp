@@ -5,6 +5,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <unistd.h>
@@ -176,6 +177,23 @@ class HostileMenusTest : public testing::TestWithParam<Attack> {
         sd_bus_message_unref(reply);
     }
 
+    static std::string searched(LinuxAccessibility& linux, const TextServices& textServices,
+                                CommandHistoryStore& history, std::int32_t reader) {
+        const auto items = MenuScanner(linux, textServices).scan(MemoryApplication(reader, {}, {}));
+        auto commands = CommandIndex::buildCommands(items, {}, {}, {}, {}, history);
+        const std::size_t count = commands.size();
+        const bool isLong = std::any_of(commands.begin(), commands.end(), [](const Command& command) {
+            return command.title.view().size() > 1024 || command.menuPath.front().view().size() > 1024;
+        });
+        const CommandSearchIndex index(std::move(commands), textServices);
+        const MenuReadOutcome outcome = linux.lastReport().value().outcome;
+        return std::string(count > 0 ? "items" : "nothing") + (isLong ? ", long" : "") +
+               (index.entries().size() > count ? ", more than there are" : "") +
+               (outcome == MenuReadOutcome::completed      ? ", complete"
+                : outcome == MenuReadOutcome::treeTooLarge ? ", cut"
+                                                           : ", unlike");
+    }
+
     /// In a process of its own, the menus of this one read, scanned, made commands of and searchable: how
     /// many commands that gives, and what a text shows that must not be.
     std::string road(bool isGtk) {
@@ -196,19 +214,11 @@ class HostileMenusTest : public testing::TestWithParam<Attack> {
             MemoryPreferencesDomain preferences;
             CommandHistoryStore history(preferences, "history", textServices);
             limitMemoryTo(roomBytes);
-            const auto items = MenuScanner(linux, textServices).scan(MemoryApplication(reader, {}, {}));
-            auto commands = CommandIndex::buildCommands(items, {}, {}, {}, {}, history);
-            const std::size_t count = commands.size();
-            const bool isLong = std::any_of(commands.begin(), commands.end(), [](const Command& command) {
-                return command.title.view().size() > 1024 || command.menuPath.front().view().size() > 1024;
-            });
-            const CommandSearchIndex index(std::move(commands), textServices);
-            const MenuReadOutcome outcome = linux.lastReport().value().outcome;
-            return std::string(count > 0 ? "items" : "nothing") + (isLong ? ", long" : "") +
-                   (index.entries().size() > count ? ", more than there are" : "") +
-                   (outcome == MenuReadOutcome::completed      ? ", complete"
-                    : outcome == MenuReadOutcome::treeTooLarge ? ", cut"
-                                                               : ", unlike");
+            try {
+                return searched(linux, textServices, history, reader);
+            } catch (const std::bad_alloc&) {
+                return std::string("out of memory");
+            }
         });
     }
 
