@@ -162,8 +162,8 @@
 <context>
     <name>CommandFailure</name>
     <message>
-        <source>“%@” failed</source>
-        <translation>„%@“ ist fehlgeschlagen</translation>
+        <source>Custom command failed</source>
+        <translation>Eigener Befehl fehlgeschlagen</translation>
     </message>
     <message>
         <source>There is nothing to open.</source>

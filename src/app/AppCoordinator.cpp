@@ -207,8 +207,8 @@ void AppCoordinator::executeCustom(const Command& command, const CustomCommand& 
 void AppCoordinator::tellOfFailure(const Text& title, const CommandExecutionResult& result) {
     const auto failure = commandFailureForPeople(result, platform_.localized);
     if (failure && notificationSettingsStore_.commandFailures()) {
-        platform_.notifications.show(filled(platform_.localized("CommandFailure", "“%@” failed"), title),
-                                     *failure);
+        platform_.notifications.show(platform_.localized("CommandFailure", "Custom command failed"),
+                                     joined({title, *failure}, "\n"));
     }
 }
 

@@ -314,18 +314,20 @@ TEST_F(AppCoordinatorTest, CustomCommandsThatFailAreToldByTheirTitles) {
     std::get<CustomCommand>(nowhere.action).payload = "";
     coordinator_->execute(nowhere);
     queue_.runDue();
-    using Shown = std::vector<MemoryUserNotifications::Notification>;
-    const Shown shown{
-        {"“quick” failed", "It ended with status 3."},
-        {"“slow” failed", "It was ended by signal 9."},
-        {"“script” failed", "/usr/bin/osascript could not be started: No such file or directory."},
-        {"“nowhere” failed", "There is nothing to open."}};
-    EXPECT_EQ(notifications_.shown(), shown);
+    std::vector<Text> told;
+    for (const auto& [title, body] : notifications_.shown()) {
+        EXPECT_EQ(title, "Custom command failed");
+        told.push_back(body);
+    }
+    EXPECT_EQ(told, (std::vector<Text>{
+                        "quick\nIt ended with status 3.", "slow\nIt was ended by signal 9.",
+                        "script\n/usr/bin/osascript could not be started: No such file or directory.",
+                        "nowhere\nThere is nothing to open."}));
 
     NotificationSettingsStore(preferences_, "notifications.commandFailures").setCommandFailures(false);
     execute("script", CustomCommandKind::appleScript);
     queue_.runDue();
-    EXPECT_EQ(notifications_.shown(), shown);
+    EXPECT_EQ(notifications_.shown().size(), told.size());
 }
 
 TEST_F(AppCoordinatorTest, CallbacksDoNothingOnceTheCoordinatorIsGone) {

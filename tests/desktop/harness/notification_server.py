@@ -19,23 +19,20 @@ INTERFACE = f"""
 class NotificationServer:
     """One on a session bus, until it is closed."""
 
-    def __init__(self, session_address):
+    def __init__(self, session_address, reads_markup):
+        self._capabilities = ["body", *["body-markup"] * reads_markup]
         self._bus = BusConnection(session_address)
         self._shown = []
-        self._bus.serve(NAME, PATH, INTERFACE, {"GetCapabilities": self._capabilities, "Notify": self._notify})
+        self._bus.serve(NAME, PATH, INTERFACE, {"GetCapabilities": lambda: ("(as)", (self._capabilities,)), "Notify": self._notify})
 
     def close(self):
         self._bus.close()
 
     def shown(self):
-        """Title and body of each notification, the oldest first."""
+        """The bodies, the oldest first."""
         self._bus.hear()
         return self._shown
 
-    @staticmethod
-    def _capabilities():
-        return "(as)", (["body"],)
-
-    def _notify(self, _application, _replaces, _icon, title, body, *_):
-        self._shown.append((title, body))
+    def _notify(self, _application, _replaces, _icon, _title, body, *_):
+        self._shown.append(body)
         return "(u)", (len(self._shown),)

@@ -1,110 +1,57 @@
 #include <cerrno>
-#include <fcntl.h>
+#include <functional>
 #include <map>
-#include <memory>
 #include <string>
-#include <type_traits>
-#include <unistd.h>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
-#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/PosixProcessRunner.h"
 #include "platform/linux/TestLoop.h"
 #include "platform/memory/MemoryProcessRunner.h"
-#include "support/TemporaryDirectory.h"
 
 namespace tovrel {
 namespace {
 
-struct MemoryProcesses {
-    [[nodiscard]] CommandProcessRequest request() { return {"/bin/sh", {"-c", "…"}}; }
-    void end(std::size_t number, int status) { runner.end(number, ProcessEnd{status, false}); }
-    CommandProcessRequest missing() {
-        runner.refuse(ENOENT);
-        return {"/no/such/program", {}};
-    }
+/// Outcomes by what was started; each is told once, and by the queue alone.
+void keepsTheContract(ProcessRunner& runner, TestLoop& loop, const std::function<void()>& endThem,
+                      const std::function<void()>& removePrograms) {
+    std::map<std::string, std::vector<ProcessOutcome>> outcomes;
+    const auto noteAs = [&](const std::string& name) {
+        return [&, name](const ProcessOutcome& outcome) { outcomes[name].push_back(outcome); };
+    };
+    runner.start({"/bin/sh", {"-c", "sleep 0.2; exit 7"}}, noteAs("slow"));
+    runner.start({"/bin/sh", {"-c", "exit 3"}}, noteAs("quick"));
+    endThem();
+    EXPECT_TRUE(outcomes.empty());
+    EXPECT_TRUE(loop.runUntil([&] { return outcomes.size() == 2; }));
+    EXPECT_EQ(outcomes["slow"], std::vector<ProcessOutcome>{(ProcessEnd{7, false})});
+    EXPECT_EQ(outcomes["quick"], std::vector<ProcessOutcome>{(ProcessEnd{3, false})});
 
-    TestLoop loop;
-    MemoryProcessRunner runner{loop};
-};
-
-/// Each process waits to read its exit status from a pipe.
-struct PosixProcesses {
-    PosixProcesses() { loop.watch(runner); }
-    [[nodiscard]] CommandProcessRequest request() {
-        const std::string pipe = directory.path() / std::to_string(pipes.size());
-        mkfifo(pipe.c_str(), 0600);
-        pipes.emplace_back(open(pipe.c_str(), O_RDWR | O_CLOEXEC));
-        return {"/bin/sh", {"-c", Text("read status <" + pipe + "; exit $status")}};
-    }
-    void end(std::size_t number, int status) {
-        const std::string line = std::to_string(status) + "\n";
-        EXPECT_EQ(write(pipes.at(number).get(), line.data(), line.size()), static_cast<ssize_t>(line.size()));
-    }
-    static CommandProcessRequest missing() { return {"/no/such/program", {}}; }
-
-    testing_support::TemporaryDirectory directory;
-    std::vector<FileDescriptor> pipes;
-    TestLoop loop;
-    PosixProcessRunner runner{loop};
-};
-
-template <typename Processes>
-class ProcessRunnerContract : public testing::Test {
-  protected:
-    ProcessRunner::Completion noteAs(const std::string& name) {
-        return [this, name](const ProcessOutcome& outcome) { outcomes_[name].push_back(outcome); };
-    }
-    void waitFor(const std::string& name) {
-        EXPECT_FALSE(outcomes_.contains(name)) << "told by the queue alone";
-        EXPECT_TRUE(processes_.loop.runUntil([&] { return outcomes_.contains(name); })) << name;
-    }
-
-    Processes processes_;
-    std::map<std::string, std::vector<ProcessOutcome>> outcomes_;
-};
-
-using Implementations = testing::Types<MemoryProcesses, PosixProcesses>;
-
-class ImplementationNames {
-  public:
-    template <typename Processes>
-    static std::string
-    GetName(int /*index*/) { // NOLINT(readability-identifier-naming): a name of the framework
-        return std::is_same_v<Processes, MemoryProcesses> ? "Memory" : "Posix";
-    }
-};
-
-TYPED_TEST_SUITE(ProcessRunnerContract, Implementations, ImplementationNames);
-
-TYPED_TEST(ProcessRunnerContract, TellsTheEndOfEachProcessOnceInWhateverOrderTheyEnd) {
-    auto& processes = this->processes_;
-    for (const char* name : {"first", "second", "third"}) {
-        processes.runner.start(processes.request(), this->noteAs(name));
-    }
-    processes.end(1, 3);
-    this->waitFor("second");
-    EXPECT_EQ(this->outcomes_.size(), 1U) << "the others run on";
-    processes.end(2, 0);
-    this->waitFor("third");
-    processes.end(0, 255);
-    this->waitFor("first");
-    const auto ended = [](int status) { return std::vector<ProcessOutcome>{ProcessEnd{status, false}}; };
-    EXPECT_EQ(this->outcomes_,
-              (decltype(this->outcomes_){{"first", ended(255)}, {"second", ended(3)}, {"third", ended(0)}}));
+    removePrograms();
+    const CommandProcessRequest missing{"/no/such/program", {}};
+    runner.start(missing, [&](const ProcessOutcome&) { runner.start(missing, noteAs("missing")); });
+    EXPECT_EQ(outcomes.size(), 2U);
+    EXPECT_TRUE(loop.runUntil([&] { return outcomes.size() == 3; }));
+    EXPECT_EQ(outcomes["missing"], std::vector<ProcessOutcome>{(LaunchFailure{"/no/such/program", ENOENT})});
 }
 
-TYPED_TEST(ProcessRunnerContract, TellsAFailedStartAsItTellsAnEndAndStandsAStartInACompletion) {
-    auto& processes = this->processes_;
-    const CommandProcessRequest missing = processes.missing();
-    processes.runner.start(
-        missing, [&](const ProcessOutcome&) { processes.runner.start(missing, this->noteAs("again")); });
-    this->waitFor("again");
-    EXPECT_EQ(this->outcomes_["again"],
-              std::vector<ProcessOutcome>{(LaunchFailure{missing.executablePath, ENOENT})});
+TEST(ProcessRunnerContract, Memory) {
+    TestLoop loop;
+    MemoryProcessRunner runner(loop);
+    const auto endThem = [&] {
+        runner.end(1, ProcessEnd{3, false});
+        runner.end(0, ProcessEnd{7, false});
+    };
+    keepsTheContract(runner, loop, endThem, [&] { runner.refuse(ENOENT); });
+}
+
+TEST(ProcessRunnerContract, Posix) {
+    TestLoop loop;
+    PosixProcessRunner runner(loop);
+    loop.watch(runner);
+    keepsTheContract(
+        runner, loop, [] {}, [] {});
 }
 
 } // namespace

@@ -3,20 +3,16 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <fcntl.h>
-#include <memory>
 #include <optional>
 #include <string>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include "platform/linux/FileDescriptor.h"
 #include "platform/linux/TestLoop.h"
-#include "support/TemporaryDirectory.h"
 
 namespace tovrel {
 namespace {
@@ -40,14 +36,14 @@ class NoMoreDescriptors {
 
 class PosixProcessRunnerTest : public testing::Test {
   protected:
-    PosixProcessRunnerTest() { loop_.watch(*runner_); }
+    PosixProcessRunnerTest() { loop_.watch(runner_); }
     void TearDown() override {
         EXPECT_TRUE(waitpid(-1, nullptr, WNOHANG) < 0 && errno == ECHILD) << "a process was left";
     }
 
     void start(const CommandProcessRequest& request) {
         outcome_.reset();
-        runner_->start(request, [this](const ProcessOutcome& outcome) {
+        runner_.start(request, [this](const ProcessOutcome& outcome) {
             EXPECT_FALSE(outcome_);
             outcome_ = outcome;
         });
@@ -65,7 +61,7 @@ class PosixProcessRunnerTest : public testing::Test {
     }
 
     TestLoop loop_;
-    std::unique_ptr<PosixProcessRunner> runner_ = std::make_unique<PosixProcessRunner>(loop_);
+    PosixProcessRunner runner_{loop_};
     std::optional<ProcessOutcome> outcome_;
 };
 
@@ -115,27 +111,6 @@ TEST_F(PosixProcessRunnerTest, GivesTheProgramAnUnspoiltStart) {
     EXPECT_EQ(shell("test $(cut -d ' ' -f 6 /proc/$$/stat) = $$"), ProcessOutcome(ProcessEnd{}))
         << "a session of its own";
     sigprocmask(SIG_SETMASK, &before, nullptr);
-}
-
-TEST(PosixProcessRunner, LeavesItsProcessesToThemselvesWhenItEnds) {
-    const testing_support::TemporaryDirectory directory;
-    const std::string gate = directory.path() / "gate";
-    const std::string done = directory.path() / "done";
-    ASSERT_EQ(mkfifo(gate.c_str(), 0600), 0);
-    const FileDescriptor opened(open(gate.c_str(), O_RDWR | O_CLOEXEC));
-    TestLoop loop;
-    bool isTold = false;
-    {
-        PosixProcessRunner runner(loop);
-        const NoMoreDescriptors none; // so that a timer waits for it as well
-        runner.start({"/bin/sh", {"-c", Text("ulimit -S -n 64; read word <" + gate + "; : >" + done)}},
-                     [&](const ProcessOutcome&) { isTold = true; });
-    }
-    ASSERT_EQ(write(opened.get(), "go\n", 3), 3);
-    EXPECT_TRUE(loop.runUntil([&] { return access(done.c_str(), F_OK) == 0; }));
-    EXPECT_GT(waitpid(-1, nullptr, 0), 0) << "nobody else has waited for it";
-    EXPECT_TRUE(loop.runUntil([&] { return loop.isIdle(); }));
-    EXPECT_FALSE(isTold);
 }
 
 } // namespace

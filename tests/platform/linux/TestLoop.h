@@ -22,9 +22,6 @@ class TestLoop : public MainQueue {
     bool runUntil(const std::function<bool()>& condition,
                   std::chrono::milliseconds patience = std::chrono::seconds(10));
 
-    /// Whether no task is waiting.
-    [[nodiscard]] bool isIdle() const { return tasks_.empty(); }
-
     /// How many times a source had something to tell, timers aside.
     [[nodiscard]] int wakeUps() const { return wakeUps_; }
 
