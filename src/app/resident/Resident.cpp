@@ -27,18 +27,6 @@ using namespace std::chrono_literals;
 constexpr auto patienceWithAnother = 5s;
 constexpr auto pauseBetweenAttempts = 10ms;
 
-bool isShownBy(const ResidentSeat& seat) {
-    try {
-        auto client = ResidentClient::ofSeat(seat);
-        if (client) {
-            client->show();
-        }
-        return client.has_value();
-    } catch (const Failure&) {
-        return false;
-    }
-}
-
 /// The seat of this display for this process; null when another has it, which then has shown its palette.
 std::unique_ptr<SeatLock> lockUnlessShown(const ResidentSeat& seat) {
     const auto deadline = std::chrono::steady_clock::now() + patienceWithAnother;
@@ -47,13 +35,22 @@ std::unique_ptr<SeatLock> lockUnlessShown(const ResidentSeat& seat) {
         if (!lock->isTakenByAnother()) {
             return lock;
         }
-        if (isShownBy(seat)) {
-            return nullptr;
-        }
-        if (std::chrono::steady_clock::now() >= deadline) {
-            if (isShownOverSessionBus()) {
+        const bool isLate = std::chrono::steady_clock::now() >= deadline;
+        try {
+            if (auto client = ResidentClient::ofSeat(seat)) {
+                client->show();
                 return nullptr;
             }
+        } catch (const Failure&) {
+            if (std::chrono::steady_clock::now() >= deadline) {
+                throw;
+            }
+        }
+        // The socket may have been taken away from it.
+        if (isLate && isShownOverSessionBus()) {
+            return nullptr;
+        }
+        if (isLate) {
             throw Failure("the running tovrel does not answer");
         }
         std::this_thread::sleep_for(pauseBetweenAttempts); // Nothing tells when it listens, or has ended.

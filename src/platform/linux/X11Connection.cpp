@@ -8,6 +8,12 @@
 #include "platform/linux/XcbOwned.h"
 
 namespace tovrel {
+namespace {
+
+constexpr const char* supportingCheck = "_NET_SUPPORTING_WM_CHECK";
+
+} // namespace
+
 X11Connection::X11Connection(const char* display) {
     int screen = 0;
     connection_.reset(xcb_connect(display, &screen));
@@ -50,14 +56,19 @@ std::vector<std::uint32_t> X11Connection::numbers(xcb_window_t window, const cha
 }
 
 bool X11Connection::hasWindowManager() {
-    constexpr const char* check = "_NET_SUPPORTING_WM_CHECK";
-    const auto announced = numbers(root_, check);
-    return !announced.empty() && numbers(announced.front(), check) == announced;
+    return isManager(numbers(root_, supportingCheck));
 }
 
 std::optional<xcb_window_t> X11Connection::activeWindow() {
-    const auto active = numbers(root_, "_NET_ACTIVE_WINDOW");
-    return !active.empty() && hasWindowManager() ? std::optional(active.front()) : std::nullopt;
+    constexpr const char* activeWindowName = "_NET_ACTIVE_WINDOW";
+    const X11Properties properties(*this, root_, {activeWindowName, supportingCheck});
+    const auto active = properties.numbers(activeWindowName);
+    return !active.empty() && isManager(properties.numbers(supportingCheck)) ? std::optional(active.front())
+                                                                             : std::nullopt;
+}
+
+bool X11Connection::isManager(const std::vector<std::uint32_t>& announced) {
+    return !announced.empty() && numbers(announced.front(), supportingCheck) == announced;
 }
 
 void X11Connection::watchRootProperties(bool isWanted) {

@@ -57,6 +57,9 @@ class X11Connection {
                              const std::vector<std::uint32_t>& data);
 
   private:
+    /// Whether this is the window of a manager that runs, as its property says.
+    [[nodiscard]] bool isManager(const std::vector<std::uint32_t>& announced);
+
     struct Disconnect {
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
     };

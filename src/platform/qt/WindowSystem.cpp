@@ -28,10 +28,9 @@ WindowSystem makeWindowSystem(std::function<std::uint32_t()> userTime) {
             },
         .takeFocus =
             [x11](QWindow& window) {
+                window.requestActivate();
                 // Qt goes on asking a window manager that was killed.
-                if (x11.hasWindowManager()) {
-                    window.requestActivate();
-                } else {
+                if (!x11.hasWindowManager()) {
                     x11.setInputFocus(windowOf(window));
                 }
             },
@@ -46,7 +45,8 @@ WindowSystem makeWindowSystem(std::function<std::uint32_t()> userTime) {
         .rememberFocus = [x11]() -> std::function<void()> {
             const xcb_window_t focused = x11.inputFocus();
             // Where the manager keeps the focus to itself there is no application to give it back to.
-            if (x11.hasWindowManager() && !x11.isWithin(focused, x11.activeWindow())) {
+            const auto active = x11.activeWindow();
+            if (active && !x11.isWithin(focused, *active)) {
                 return [] {};
             }
             return [x11, focused] { x11.setInputFocus(focused); };

@@ -25,16 +25,18 @@ std::optional<X11> X11::ofQt() {
 }
 
 X11::X11(xcb_connection_t* connection)
-    : connection_(connection), root_(xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root) {}
+    : connection_(connection), root_(xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root),
+      atoms_{.supportingCheck = atom("_NET_SUPPORTING_WM_CHECK"),
+             .activeWindow = atom("_NET_ACTIVE_WINDOW"),
+             .moveResize = atom("_NET_WM_MOVERESIZE")} {}
 
 bool X11::isComposited() const {
     return hasOwner("_NET_WM_CM_S0"); // every compositing manager owns it (EWMH 1.5)
 }
 
 bool X11::hasWindowManager() const {
-    constexpr std::string_view check = "_NET_SUPPORTING_WM_CHECK";
-    const xcb_window_t announced = windowProperty(root_, check);
-    return announced != XCB_NONE && windowProperty(announced, check) == announced;
+    const xcb_window_t announced = windowProperty(root_, atoms_.supportingCheck);
+    return announced != XCB_NONE && windowProperty(announced, atoms_.supportingCheck) == announced;
 }
 
 bool X11::hasSystemTray() const {
@@ -75,12 +77,16 @@ bool X11::isWithin(xcb_window_t window, xcb_window_t ancestor) const {
     return false;
 }
 
-xcb_window_t X11::activeWindow() const {
-    return hasWindowManager() ? windowProperty(root_, "_NET_ACTIVE_WINDOW") : xcb_window_t{XCB_NONE};
+std::optional<xcb_window_t> X11::activeWindow() const {
+    const auto activeCookie =
+        xcb_get_property(connection_, 0, root_, atoms_.activeWindow, XCB_ATOM_WINDOW, 0, 1);
+    const bool isManaged = hasWindowManager();
+    const xcb_window_t active = windowIn(activeCookie);
+    return isManaged ? std::optional(active) : std::nullopt;
 }
 
 std::optional<QRect> X11::activeWindowFrame() const {
-    const xcb_window_t window = activeWindow();
+    const xcb_window_t window = activeWindow().value_or(XCB_NONE);
     if (window == XCB_NONE) {
         return std::nullopt;
     }
@@ -96,21 +102,21 @@ std::optional<QRect> X11::activeWindowFrame() const {
 
 void X11::askToActivate(xcb_window_t window, std::uint32_t time) const {
     constexpr std::uint32_t onOrderOfTheUser = 2; // EWMH 1.5, source indication
-    sendToWindowManager(window, "_NET_ACTIVE_WINDOW", {onOrderOfTheUser, time});
+    sendToWindowManager(window, atoms_.activeWindow, {onOrderOfTheUser, time});
 }
 
 void X11::askToEndMove(xcb_window_t window) const {
     constexpr std::uint32_t cancel = 11; // EWMH 1.5, _NET_WM_MOVERESIZE_CANCEL
-    sendToWindowManager(window, "_NET_WM_MOVERESIZE", {0, 0, cancel});
+    sendToWindowManager(window, atoms_.moveResize, {0, 0, cancel});
 }
 
-void X11::sendToWindowManager(xcb_window_t window, std::string_view message,
+void X11::sendToWindowManager(xcb_window_t window, xcb_atom_t message,
                               const std::array<std::uint32_t, 5>& data) const {
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;
     event.format = 32;
     event.window = window;
-    event.type = atom(message);
+    event.type = message;
     std::copy(data.begin(), data.end(), &event.data.data32[0]);
     xcb_send_event(connection_, 0, root_,
                    XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
@@ -130,8 +136,11 @@ bool X11::hasOwner(std::string_view selection) const {
     return reply && reply->owner != XCB_NONE;
 }
 
-xcb_window_t X11::windowProperty(xcb_window_t window, std::string_view name) const {
-    const auto cookie = xcb_get_property(connection_, 0, window, atom(name), XCB_ATOM_WINDOW, 0, 1);
+xcb_window_t X11::windowProperty(xcb_window_t window, xcb_atom_t name) const {
+    return windowIn(xcb_get_property(connection_, 0, window, name, XCB_ATOM_WINDOW, 0, 1));
+}
+
+xcb_window_t X11::windowIn(xcb_get_property_cookie_t cookie) const {
     xcb_generic_error_t* error = nullptr;
     const auto reply = owned(xcb_get_property_reply(connection_, cookie, &error));
     owned(error); // The window may be gone by now.
