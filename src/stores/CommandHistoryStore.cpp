@@ -60,7 +60,7 @@ std::shared_ptr<const CommandHistorySnapshot> CommandHistoryStore::snapshot() {
 void CommandHistoryStore::recordUse(const Text& commandID, PointInTime date) {
     CommandHistorySnapshot::Records records = snapshot()->records();
     CommandRankSignals& record = records[commandID];
-    record.usageCount = checkedAdd(record.usageCount, 1);
+    record.usageCount = saturatingAdd(record.usageCount, 1);
     record.lastUsedAt = date;
     save(std::move(records));
 }

@@ -59,8 +59,8 @@ class CommandHistoryStore {
     [[nodiscard]] std::shared_ptr<const CommandHistorySnapshot> snapshot();
 
     /// Counts one use at `date`, which becomes the time of last use even if it is earlier than the one
-    /// before. A date that is not finite cannot be written: nothing changes. A count above 2^63 - 1 ends the
-    /// process.
+    /// before. A date that is not finite cannot be written: nothing changes. A count of 2^63 - 1, which only
+    /// a damaged document has, stays.
     void recordUse(const Text& commandID, PointInTime date);
 
     /// Sets the mark, creating the record of a command that has none, also when the mark is cleared.
