@@ -121,7 +121,7 @@ std::vector<Command> AppCoordinator::refreshCommands() {
         return {};
     }
     currentApplication_ = std::move(target);
-    currentMenuItems_ = menuItems(*currentApplication_);
+    currentMenuItems_ = menuItems(currentApplication_);
     return CommandIndex::buildCommands(currentMenuItems_, customCommandStore_.customCommands(), bundleID,
                                        rulesStore_.menuBlacklistRules(), rulesStore_.menuCommandAliasRules(),
                                        commandHistoryStore_);
@@ -180,13 +180,13 @@ void AppCoordinator::clearTarget() {
     currentMenuItems_.clear();
 }
 
-std::vector<ScannedMenuItem> AppCoordinator::menuItems(const RunningApplication& application) {
-    const MenuCacheKey key{application.bundleIdentifier(), application.processIdentifier()};
-    if (auto cached = menuCache_.cachedItems(key, platform_.now())) {
+std::vector<ScannedMenuItem>
+AppCoordinator::menuItems(const std::shared_ptr<RunningApplication>& application) {
+    if (auto cached = menuCache_.cachedItems(MenuCacheKey::of(*application), platform_.uptime())) {
         return *std::move(cached);
     }
-    std::vector<ScannedMenuItem> items = menuScanner_.scan(application);
-    menuCache_.store(key, items, platform_.now());
+    std::vector<ScannedMenuItem> items = menuScanner_.scan(*application);
+    menuCache_.store(application, items, platform_.uptime());
     return items;
 }
 
@@ -266,18 +266,19 @@ void AppCoordinator::showSettings() {
         SettingsStores{rulesStore_, commandHistoryStore_, customCommandStore_, paletteSettingsStore_},
         SettingsProviders{
             .currentApplication = [context = currentApplicationContext(target.get())] { return context; },
-            .menuItems = [items = settingsMenuItems(target.get())] { return items; },
+            .menuItems = [items = settingsMenuItems(target)] { return items; },
             .accessibilityPermission = [&accessibility =
                                             platform_.accessibility] { return accessibility.isTrusted(); }});
     platform_.userInterface.activate();
     platform_.settingsWindowController.show(std::move(model));
 }
 
-std::vector<ScannedMenuItem> AppCoordinator::settingsMenuItems(const RunningApplication* application) {
-    if (application == nullptr || !accessibilityPermissionService_.isTrusted()) {
+std::vector<ScannedMenuItem>
+AppCoordinator::settingsMenuItems(const std::shared_ptr<RunningApplication>& application) {
+    if (!application || !accessibilityPermissionService_.isTrusted()) {
         return {};
     }
-    return menuItems(*application);
+    return menuItems(application);
 }
 
 void AppCoordinator::showAccessibilityOnboardingIfNeeded() {

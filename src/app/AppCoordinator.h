@@ -33,6 +33,7 @@
 #include "support/LocalizedString.h"
 #include "support/PointInTime.h"
 #include "support/TextServices.h"
+#include "support/Uptime.h"
 
 namespace tovrel {
 
@@ -51,6 +52,7 @@ struct Platform {
     std::optional<Text> ownBundleIdentifier;
     PalettePanelFactory makePalettePanel;
     std::function<PointInTime()> now;
+    std::function<Uptime()> uptime;
     CommandExecutor::UrlOpener openURL;
     CommandExecutor::FileExists fileExists;
     LocalizedString localized;
@@ -118,7 +120,8 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     [[nodiscard]] PaletteTarget paletteTarget() const;
     PaletteWindowController& paletteWindowController();
     void clearTarget();
-    [[nodiscard]] std::vector<ScannedMenuItem> menuItems(const RunningApplication& application);
+    [[nodiscard]] std::vector<ScannedMenuItem>
+    menuItems(const std::shared_ptr<RunningApplication>& application);
     void executeCustom(const Command& command, const CustomCommand& custom);
     void executeMenu(const Command& command, const MenuAction& action);
     [[nodiscard]] bool confirmCustomCommand(const CustomCommand& command);
@@ -126,7 +129,8 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     [[nodiscard]] StatusMenuItem statusMenuItem(Text title, std::optional<Text> keyEquivalent, Text symbol,
                                                 void (AppCoordinator::*action)());
     void quit();
-    [[nodiscard]] std::vector<ScannedMenuItem> settingsMenuItems(const RunningApplication* application);
+    [[nodiscard]] std::vector<ScannedMenuItem>
+    settingsMenuItems(const std::shared_ptr<RunningApplication>& application);
     void showAccessibilityOnboardingIfNeeded();
 
     Platform platform_;

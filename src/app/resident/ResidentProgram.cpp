@@ -95,6 +95,7 @@ Platform ResidentProgram::platform() {
                 },
             .now = currentTime,
             .openURL = [this](const Url& url) { openURL(url.text()); },
+            .uptime = currentUptime,
             .fileExists = fileExists,
             .localized = localizedByQt(),
             .settingsWindowController = settingsWindowController_};
