@@ -5,8 +5,10 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <unistd.h>
 
 #include "app/DBusNames.h"
+#include "app/DescriptorBuffer.h"
 #include "app/Failure.h"
 #include "app/ResidentClient.h"
 #include "app/resident/EndSignals.h"
@@ -26,6 +28,21 @@ bool isShownByAnother() {
         return false;
     }
 }
+
+/// Drops what cannot be written: a program that serves the user goes on, whoever stops reading it.
+class DroppingBuffer : public DescriptorBuffer {
+  public:
+    using DescriptorBuffer::DescriptorBuffer;
+
+  protected:
+    int sync() override {
+        try {
+            return DescriptorBuffer::sync();
+        } catch (const OutputError&) {
+            return 0;
+        }
+    }
+};
 
 } // namespace
 
@@ -49,7 +66,10 @@ int runResident(const command_line::Invocation& invocation, const Console& conso
     QApplication::setDesktopFileName(dbus_names::service);
     QApplication::setQuitOnLastWindowClosed(false);
 
-    ResidentProgram program(invocation, console);
+    DroppingBuffer buffer(STDOUT_FILENO);
+    std::ostream output(&buffer);
+    const Console lastingConsole{console.input, output, console.error, console.style};
+    ResidentProgram program(invocation, lastingConsole);
     if (!program.start()) {
         ResidentClient().show(); // another was quicker
         return 0;
