@@ -19,7 +19,6 @@
 #include "platform/HotKeyCenter.h"
 #include "platform/KeyEventPoster.h"
 #include "platform/MainQueue.h"
-#include "platform/PreferencesDomain.h"
 #include "platform/ProcessRunner.h"
 #include "platform/StatusItem.h"
 #include "platform/UserInterface.h"
@@ -28,6 +27,7 @@
 #include "stores/CommandHistoryStore.h"
 #include "stores/CustomCommandStore.h"
 #include "stores/FirstLaunchOnboardingStore.h"
+#include "stores/LastKnownPreferences.h"
 #include "stores/PaletteSettingsStore.h"
 #include "stores/RulesStore.h"
 #include "support/LocalizedString.h"
@@ -46,7 +46,7 @@ struct Platform {
     MainQueue& mainQueue;
     ProcessRunner& processRunner;
     UserInterface& userInterface;
-    PreferencesDomain& preferences;
+    LastKnownPreferences& preferences;
     KeyboardShortcuts& shortcuts;
     const TextServices& textServices;
     std::optional<Text> ownBundleIdentifier;

@@ -53,7 +53,8 @@ std::shared_ptr<const CommandHistorySnapshot> CommandHistoryStore::snapshot() {
             std::move(records).value_or(CommandHistorySnapshot::Records()));
         snapshotBytes_ = std::move(bytes);
     }
-    checkedRevision_ = revision;
+    // What is not the document as it is now must be looked at again.
+    checkedRevision_ = userDefaults_.lastReadSucceeded() ? std::optional(revision) : std::nullopt;
     return snapshot_;
 }
 

@@ -81,10 +81,10 @@ class CommandHistoryStore {
     const TextServices& text_;
 
     // What was last read or written: the decoded document, its bytes (absent when there was no data), and the
-    // domain's revision before they were read.
+    // domain's revision before they were read (absent when they could not be).
     std::shared_ptr<const CommandHistorySnapshot> snapshot_;
     std::optional<std::string> snapshotBytes_;
-    std::uint64_t checkedRevision_ = 0;
+    std::optional<std::uint64_t> checkedRevision_;
 };
 
 } // namespace tovrel

@@ -11,11 +11,11 @@
 #include "platform/memory/MemoryHotKeyCenter.h"
 #include "platform/memory/MemoryKeyEventPoster.h"
 #include "platform/memory/MemoryPalettePanel.h"
-#include "platform/memory/MemoryPreferencesDomain.h"
 #include "platform/memory/MemoryProcessRunner.h"
 #include "platform/memory/MemorySettingsWindow.h"
 #include "platform/memory/MemoryUserInterface.h"
 #include "platform/memory/MemoryWorkspace.h"
+#include "stores/FailingPreferencesDomain.h"
 
 namespace tovrel {
 namespace {
@@ -124,7 +124,8 @@ class AppCoordinatorTest : public testing::Test {
     ManualQueue queue_;
     MemoryProcessRunner runner_;
     MemoryUserInterface userInterface_;
-    MemoryPreferencesDomain preferences_;
+    FailingPreferencesDomain stored_;
+    LastKnownPreferences preferences_{stored_};
     std::ostringstream output_;
     KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};
     PointInTime now_ = start;

@@ -157,6 +157,21 @@ TEST_F(CommandHistory, IsReadOncePerChangeAndNeverStale) {
     EXPECT_THAT(other.entries(), IsEmpty());
 }
 
+TEST_F(CommandHistory, ADocumentThatCouldNotBeReadIsReadAgain) {
+    struct : FailingPreferencesDomain {
+        // The lock comes after the look at the revision.
+        [[nodiscard]] std::uint64_t revision() override { return MemoryPreferencesDomain::revision(); }
+    } locked;
+    CommandHistoryStore here(locked, storageKey, text);
+    CommandHistoryStore elsewhere(locked, storageKey, text);
+    here.recordUse("A", {1});
+    elsewhere.recordUse("A", {2});
+    locked.refusesReads = true;
+    EXPECT_EQ(here.rankSignals("A").usageCount, 0);
+    locked.refusesReads = false;
+    EXPECT_EQ(here.rankSignals("A").usageCount, 2);
+}
+
 TEST_F(CommandHistory, ACountThatIsDamagedIsCountedOnFromUpToTheLargest) {
     putDocument(R"({"A": {"usageCount": 9223372036854775806, "isFavorite": false},
                     "B": {"usageCount": -2000000000000000000, "isFavorite": false}})");

@@ -28,9 +28,10 @@ bool fileExists(const Text& path) {
 } // namespace
 
 ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, const Console& console)
-    : console_(&console), preferences_(preferencesFile(invocation.preferencesFile), {},
-                                       SqlitePreferencesDomain::interactivePatience),
-      textServices_(invocation.localeIdentifier), windows_(std::make_shared<X11Windows>()),
+    : console_(&console), storedPreferences_(preferencesFile(invocation.preferencesFile), {},
+                                             SqlitePreferencesDomain::interactive),
+      preferences_(storedPreferences_), textServices_(invocation.localeIdentifier),
+      windows_(std::make_shared<X11Windows>()),
       accessibilityBus_(
           std::make_shared<AtspiBus>([windows = windows_] { return windows->accessibilityBusAddress(); })),
       workspace_(std::make_shared<LinuxWorkspace>(
@@ -94,8 +95,8 @@ Platform ResidentProgram::platform() {
                     return panel;
                 },
             .now = currentTime,
-            .openURL = [this](const Url& url) { openURL(url.text()); },
             .uptime = currentUptime,
+            .openURL = [this](const Url& url) { openURL(url.text()); },
             .fileExists = fileExists,
             .localized = localizedByQt(),
             .settingsWindowController = settingsWindowController_};
