@@ -15,6 +15,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// Preferences that cannot be stored are tried again so much later.
+constexpr auto beforeNextAttempt = 5s;
+
 /// What the application needs to be in front again before its menu item is pressed.
 constexpr auto beforePress = 200ms;
 
@@ -69,6 +72,7 @@ void AppCoordinator::start() {
             manager->handleKeyUp();
         }
     });
+    storeDefaultShortcut();
     showAccessibilityOnboardingIfNeeded();
 }
 
@@ -282,6 +286,16 @@ AppCoordinator::settingsMenuItems(const std::shared_ptr<RunningApplication>& app
 }
 
 void AppCoordinator::showAccessibilityOnboardingIfNeeded() {
+void AppCoordinator::storeDefaultShortcut() {
+    if (!platform_.shortcuts.storeDefaults()) {
+        platform_.mainQueue.postAfter(beforeNextAttempt, [weak = weak_from_this()] {
+            if (const auto coordinator = weak.lock()) {
+                coordinator->storeDefaultShortcut();
+            }
+        });
+    }
+}
+
     if (accessibilityPermissionService_.isTrusted() ||
         firstLaunchOnboardingStore_.accessibilityOnboardingShown()) {
         return;

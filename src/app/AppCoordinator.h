@@ -137,6 +137,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     KeyboardShortcuts::Name togglePalette_;
     std::shared_ptr<HotKeyManager> hotKeyManager_;
     AccessibilityPermissionService accessibilityPermissionService_;
+    void storeDefaultShortcut();
     FrontmostAppMonitor frontmostAppMonitor_;
     MenuScanner menuScanner_;
     CommandExecutor commandExecutor_;

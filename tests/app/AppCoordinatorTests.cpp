@@ -129,8 +129,8 @@ class AppCoordinatorTest : public testing::Test {
     std::ostringstream output_;
     KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};
     PointInTime now_ = start;
-    std::vector<Text> opened_;
     Uptime uptime_{};
+    std::vector<Text> opened_;
     MemorySettingsWindow* settingsWindow_ = nullptr; // owned by the controller
     SettingsWindowController settings_{[this] {
         auto window = std::make_unique<MemorySettingsWindow>();
@@ -266,6 +266,22 @@ TEST_F(AppCoordinatorTest, WithoutAccessibilityOnlyTheWayToAllowItIsOffered) {
                                           "security?Privacy_Accessibility"}));
     EXPECT_EQ(history().rankSignals("custom.accessibility").usageCount, 1);
     EXPECT_FALSE(panel_->isVisible());
+}
+
+TEST_F(AppCoordinatorTest, TheDefaultShortcutIsStoredWhenThatBecomesPossible) {
+    constexpr const char* key = "KeyboardShortcuts_togglePalette";
+    coordinator_.reset();
+    stored_.remove(key);
+    stored_.refusesReads = true;
+    coordinator_ = makeCoordinator();
+    coordinator_->start();
+    pressHotKey();
+    EXPECT_TRUE(panel_->isVisible());
+    queue_.advance(10s);
+    stored_.refusesReads = false;
+    EXPECT_EQ(stored_.value(key), std::nullopt);
+    queue_.advance(5s);
+    EXPECT_TRUE(stored_.value(key));
 }
 
 TEST_F(AppCoordinatorTest, CustomCommandsAreConfirmedRunAndCounted) {
