@@ -267,7 +267,8 @@ void AppCoordinator::showSettings() {
     const std::shared_ptr<RunningApplication> target = frontmostAppMonitor_.resolveTargetApplication();
     // What the settings see of the application is what it is now.
     auto model = std::make_shared<SettingsViewModel>(
-        SettingsStores{rulesStore_, commandHistoryStore_, customCommandStore_, paletteSettingsStore_},
+        SettingsStores{rulesStore_, commandHistoryStore_, customCommandStore_, paletteSettingsStore_,
+                       platform_.preferences.unstoredChange()},
         SettingsProviders{
             .currentApplication = [context = currentApplicationContext(target.get())] { return context; },
             .menuItems = [items = settingsMenuItems(target)] { return items; },
@@ -285,7 +286,6 @@ AppCoordinator::settingsMenuItems(const std::shared_ptr<RunningApplication>& app
     return menuItems(application);
 }
 
-void AppCoordinator::showAccessibilityOnboardingIfNeeded() {
 void AppCoordinator::storeDefaultShortcut() {
     if (!platform_.shortcuts.storeDefaults()) {
         platform_.mainQueue.postAfter(beforeNextAttempt, [weak = weak_from_this()] {
@@ -296,6 +296,7 @@ void AppCoordinator::storeDefaultShortcut() {
     }
 }
 
+void AppCoordinator::showAccessibilityOnboardingIfNeeded() {
     if (accessibilityPermissionService_.isTrusted() ||
         firstLaunchOnboardingStore_.accessibilityOnboardingShown()) {
         return;

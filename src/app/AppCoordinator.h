@@ -106,6 +106,11 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
         return platform_.shortcuts.getShortcut(togglePalette_);
     }
 
+    /// Why the last change of the preferences could not be stored; absent when it could.
+    [[nodiscard]] const std::optional<PreferencesFailure>& unstoredChange() const {
+        return platform_.preferences.unstoredChange().get();
+    }
+
     /// By which the global shortcut is known.
     [[nodiscard]] const KeyboardShortcuts::Name& togglePalette() const { return togglePalette_; }
 
@@ -132,12 +137,12 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     [[nodiscard]] std::vector<ScannedMenuItem>
     settingsMenuItems(const std::shared_ptr<RunningApplication>& application);
     void showAccessibilityOnboardingIfNeeded();
+    void storeDefaultShortcut();
 
     Platform platform_;
     KeyboardShortcuts::Name togglePalette_;
     std::shared_ptr<HotKeyManager> hotKeyManager_;
     AccessibilityPermissionService accessibilityPermissionService_;
-    void storeDefaultShortcut();
     FrontmostAppMonitor frontmostAppMonitor_;
     MenuScanner menuScanner_;
     CommandExecutor commandExecutor_;

@@ -80,6 +80,8 @@ void readProperty(DBusMessage& message, std::string_view name, ResidentStatus& s
         readText(message, status.shortcut);
     } else if (name == "Target") {
         readText(message, status.target);
+    } else if (name == "UnstoredChange") {
+        readText(message, status.unstoredChange);
     } else {
         sd_bus_message_skip(message.handle(), "v");
     }

@@ -15,7 +15,9 @@ struct ResidentStatus {
     bool isPaletteVisible = false;
     bool isAccessibilityTrusted = false;
     std::string shortcut; ///< For people, such as "Ctrl+Shift+P"; empty when there is none.
-    std::string target;   ///< Identifier of the application the palette was last prepared for; may be empty.
+    std::string
+        unstoredChange; ///< Why the last change of the preferences could not be stored; empty: it could.
+    std::string target; ///< Identifier of the application the palette was last prepared for; may be empty.
 };
 
 /// Speaks to the resident program over the session bus. Throws Failure when there is no session bus, the

@@ -22,7 +22,8 @@ const Record* findByID(const std::vector<Record>& records, const Text& id) {
 
 SettingsViewModel::SettingsViewModel(SettingsStores stores, SettingsProviders providers)
     : store_(stores.rules), historyStore_(stores.history), customCommandStore_(stores.customCommands),
-      paletteSettingsStore_(stores.paletteSettings), providers_(std::move(providers)) {
+      paletteSettingsStore_(stores.paletteSettings), unstoredChange_(stores.unstoredChange),
+      providers_(std::move(providers)) {
     reload();
 }
 

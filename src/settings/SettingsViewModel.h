@@ -10,6 +10,7 @@
 #include "settings/SettingsRecords.h"
 #include "stores/CommandHistoryStore.h"
 #include "stores/CustomCommandStore.h"
+#include "stores/LastKnownPreferences.h"
 #include "stores/PaletteSettingsStore.h"
 #include "stores/RulesStore.h"
 #include "support/Observable.h"
@@ -23,13 +24,15 @@ struct SettingsStores {
     CommandHistoryStore& history;
     CustomCommandStore& customCommands;
     PaletteSettingsStore& paletteSettings;
+    const UnstoredChange& unstoredChange;
 };
 
 /// The state behind the settings window: what the stores and the providers say, and the edits. Each edit
 /// writes to a store and then reloads everything, so the model never holds what the stores do not.
 ///
-/// Nothing is reported: an edit that needs a current application or an entry that is not there does nothing,
-/// not even a reload. Duplicates are not looked for.
+/// An edit that cannot be stored shows in `unstoredChange`, and in nothing having changed. An edit that needs
+/// a current application or an entry that is not there does nothing, not even a reload. Duplicates are not
+/// looked for.
 class SettingsViewModel {
   public:
     /// Loads at once.
@@ -69,6 +72,9 @@ class SettingsViewModel {
         return commandShortcutOpensSettings_;
     }
     [[nodiscard]] const Observable<bool>& isAccessibilityTrusted() const { return isAccessibilityTrusted_; }
+
+    /// Why the last change could not be stored, one made elsewhere included; absent when it could.
+    [[nodiscard]] const UnstoredChange& unstoredChange() const { return unstoredChange_; }
 
     /// Takes everything anew, in a fixed order.
     void reload();
@@ -117,6 +123,7 @@ class SettingsViewModel {
     CommandHistoryStore& historyStore_;
     CustomCommandStore& customCommandStore_;
     PaletteSettingsStore& paletteSettingsStore_;
+    const UnstoredChange& unstoredChange_;
     SettingsProviders providers_;
 };
 

@@ -268,6 +268,34 @@ TEST_F(AppCoordinatorTest, WithoutAccessibilityOnlyTheWayToAllowItIsOffered) {
     EXPECT_FALSE(panel_->isVisible());
 }
 
+TEST_F(AppCoordinatorTest, PreferencesThatCannotBeReadAreAsTheyWereKnownLast) {
+    const Text mine = "Mine";
+    CustomCommandStore(preferences_, "customCommands")
+        .saveCustomCommand(customCommand(mine, CustomCommandKind::open));
+    const auto openAndClose = [this] {
+        pressHotKey();
+        EXPECT_TRUE(panel_->isVisible());
+        Titles shown = titles();
+        pressHotKey();
+        return shown;
+    };
+    const Titles known = openAndClose();
+    stored_.refusesReads = true;
+    EXPECT_EQ(openAndClose(), known);
+    EXPECT_FALSE(coordinator_->unstoredChange());
+    pressHotKey();
+    model_->setQuery("mine");
+    returnKey();
+    EXPECT_EQ(coordinator_->unstoredChange(), stored_.failure) << "a use that could not be counted";
+    stored_.refusesReads = false;
+    EXPECT_TRUE(history().entries().empty());
+    pressHotKey();
+    model_->setQuery("mine");
+    returnKey();
+    EXPECT_EQ(history().entries().size(), 1U);
+    EXPECT_FALSE(coordinator_->unstoredChange());
+}
+
 TEST_F(AppCoordinatorTest, TheDefaultShortcutIsStoredWhenThatBecomesPossible) {
     constexpr const char* key = "KeyboardShortcuts_togglePalette";
     coordinator_.reset();

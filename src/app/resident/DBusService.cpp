@@ -49,6 +49,12 @@ QString DBusService::target() const {
     return identifier ? QString::fromStdString(identifier->utf8()) : QString();
 }
 
+QString DBusService::unstoredChange() const {
+    const auto coordinator = coordinator_.lock();
+    const auto failure = coordinator ? coordinator->unstoredChange() : std::nullopt;
+    return failure ? QString::fromStdString(failure->reason) : QString();
+}
+
 void DBusService::Toggle() {
     if (const auto coordinator = coordinator_.lock()) {
         coordinator->handleTogglePalette();

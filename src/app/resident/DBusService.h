@@ -20,6 +20,7 @@ class DBusService : public QObject {
     Q_PROPERTY(bool AccessibilityTrusted READ isAccessibilityTrusted)
     Q_PROPERTY(QString Shortcut READ shortcut)
     Q_PROPERTY(QString Target READ target)
+    Q_PROPERTY(QString UnstoredChange READ unstoredChange)
 
   public:
     /// The shortcut as people read it, or empty.
@@ -38,6 +39,7 @@ class DBusService : public QObject {
     [[nodiscard]] bool isAccessibilityTrusted() const;
     [[nodiscard]] QString shortcut() const;
     [[nodiscard]] QString target() const;
+    [[nodiscard]] QString unstoredChange() const;
 
     // Named as methods are on the bus. NOLINTBEGIN(readability-identifier-naming)
   public Q_SLOTS:

@@ -57,7 +57,7 @@ SettingsStage::SettingsStage(const char* locale)
 
 void SettingsStage::show(SettingsTab tab) {
     auto model = std::make_shared<SettingsViewModel>(
-        SettingsStores{rules, history, customCommands, paletteSettings},
+        SettingsStores{rules, history, customCommands, paletteSettings, preferences.unstoredChange()},
         SettingsProviders{.currentApplication = [this] { return application; },
                           .menuItems = [this] { return menuItems; },
                           .accessibilityPermission = [this] { return isTrusted; }});
