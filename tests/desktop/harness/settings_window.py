@@ -78,7 +78,7 @@ class SettingsWindow:
                 met.append(f"{focused.role} {focused.name!r}")
             before = focused and focused.identity
             self.press("Tab")
-            wait_until(lambda: (self.focused() and self.focused().identity) not in (before, None),
+            wait_until(lambda: getattr(self.focused(), "identity", None) not in (before, None),
                        "the focus to move")
         raise TimedOut(f"the Tab key never reached the {role} {name!r}; it reached {', '.join(dict.fromkeys(met))}")
 
