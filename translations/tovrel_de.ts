@@ -611,7 +611,7 @@
     </message>
     <message>
         <source>A later version of Tovrel wrote the preferences, so they are left alone.</source>
-        <translation>Eine spätere Version von Tovrel hat die Einstellungen geschrieben, deshalb bleiben sie, wie sie sind.</translation>
+        <translation>Eine spätere Version von Tovrel hat die Einstellungen geschrieben, sie bleiben unverändert.</translation>
     </message>
     <message>
         <source>Another program&apos;s file is in the place of the preferences.</source>
