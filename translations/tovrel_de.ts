@@ -632,6 +632,30 @@
         <source>All Apps</source>
         <translation>Alle Apps</translation>
     </message>
+    <message>
+        <source>Another program keeps the preferences locked. Try again.</source>
+        <translation>Ein anderes Programm hält die Einstellungen gesperrt. Versuche es noch einmal.</translation>
+    </message>
+    <message>
+        <source>There is no room left on the disk for the preferences.</source>
+        <translation>Für die Einstellungen ist auf dem Datenträger kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to change the file of the preferences.</source>
+        <translation>Du darfst die Datei der Einstellungen nicht ändern.</translation>
+    </message>
+    <message>
+        <source>A later version of Tovrel wrote the preferences, so they are left alone.</source>
+        <translation>Eine spätere Version von Tovrel hat die Einstellungen geschrieben, sie bleiben unverändert.</translation>
+    </message>
+    <message>
+        <source>Another program&apos;s file is in the place of the preferences.</source>
+        <translation>An der Stelle der Einstellungen liegt die Datei eines anderen Programms.</translation>
+    </message>
+    <message>
+        <source>Something that is no file is in the place of the preferences.</source>
+        <translation>An der Stelle der Einstellungen ist etwas, das keine Datei ist.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsSidebar</name>
@@ -642,6 +666,13 @@
     <message>
         <source>Refresh</source>
         <translation>Aktualisieren</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>The last change was not stored</source>
+        <translation>Die letzte Änderung wurde nicht gespeichert</translation>
     </message>
 </context>
 <context>

@@ -25,36 +25,76 @@ KeyboardShortcuts::KeyboardShortcuts(PreferencesDomain& defaults, HotKeyCenter& 
 KeyboardShortcuts::Name KeyboardShortcuts::makeName(std::string rawValue,
                                                     std::optional<Shortcut> defaultShortcut) {
     Name name{std::move(rawValue), defaultShortcut};
-    // What could not be read may be the user's shortcut: it must not be replaced by the default.
-    if (defaultShortcut && !defaults_->value(storageKey(name)) && defaults_->lastReadSucceeded()) {
-        setShortcut(defaultShortcut, name);
+    if (defaultShortcut) {
+        unstoredDefaults_.insert_or_assign(name.rawValue, name);
+        storeDefaults();
     }
     return name;
 }
 
+bool KeyboardShortcuts::storeDefaults() {
+    const std::map<std::string, Name> names = unstoredDefaults_;
+    for (const auto& [rawValue, name] : names) {
+        storeDefault(name);
+    }
+    return unstoredDefaults_.empty();
+}
+
+void KeyboardShortcuts::storeDefault(const Name& name) {
+    const bool isAnyStored = defaults_->value(storageKey(name)).has_value();
+    // What could not be read may be the user's shortcut: it must not be replaced by the default.
+    if (!defaults_->lastReadSucceeded() ||
+        (!isAnyStored && !defaults_->set(storageKey(name), encodedShortcut(*name.defaultShortcut)))) {
+        return;
+    }
+    unstoredDefaults_.erase(name.rawValue);
+    if (!isAnyStored) {
+        registerOnce(*name.defaultShortcut);
+    } else if (registeredShortcuts_.contains(*name.defaultShortcut) &&
+               getShortcut(name) != name.defaultShortcut) {
+        // The default stood in for the user's own until that could be read.
+        unregister(*name.defaultShortcut);
+        enable({name});
+    } else {
+        return;
+    }
+    shortcutByNameDidChange_.notify(name);
+}
+
 std::optional<Shortcut> KeyboardShortcuts::getShortcut(const Name& name) const {
+    if (unstoredDefaults_.contains(name.rawValue)) {
+        return name.defaultShortcut;
+    }
     const auto value = defaults_->value(storageKey(name));
     const auto* text = value ? std::get_if<Text>(&*value) : nullptr;
     return text == nullptr ? std::nullopt : decodedShortcut(*text);
 }
 
 void KeyboardShortcuts::setShortcut(const std::optional<Shortcut>& shortcut, const Name& name) {
+    storeDefaults(); // as far as that is possible by now
     const std::optional<Shortcut> current = getShortcut(name);
     if (!shortcut && !current) {
         return;
     }
-    if (current) {
-        unregister(*current);
-    }
-    if (shortcut) {
-        registerOnce(*shortcut);
-        defaults_->set(storageKey(name), encodedShortcut(*shortcut));
-    } else if (name.defaultShortcut) {
-        defaults_->set(storageKey(name), false);
-    } else {
-        defaults_->remove(storageKey(name));
+    // Stored first: one that cannot be stored would never fire, for presses are compared with what is stored.
+    if (store(shortcut, name)) {
+        unstoredDefaults_.erase(name.rawValue);
+        if (current) {
+            unregister(*current);
+        }
+        if (shortcut) {
+            registerOnce(*shortcut);
+        }
     }
     shortcutByNameDidChange_.notify(name);
+}
+
+bool KeyboardShortcuts::store(const std::optional<Shortcut>& shortcut, const Name& name) {
+    if (shortcut) {
+        return defaults_->set(storageKey(name), encodedShortcut(*shortcut));
+    }
+    return name.defaultShortcut ? defaults_->set(storageKey(name), false)
+                                : defaults_->remove(storageKey(name));
 }
 
 void KeyboardShortcuts::onKeyDown(const Name& name, Handler handler) {

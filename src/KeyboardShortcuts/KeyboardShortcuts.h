@@ -37,13 +37,18 @@ class KeyboardShortcuts {
     KeyboardShortcuts(PreferencesDomain& defaults, HotKeyCenter& center, UserInterface& userInterface,
                       const TextServices& textServices, std::ostream& output);
 
-    /// Makes a name usable: stores its default when nothing at all is stored for it yet.
+    /// Makes a name usable: stores its default when nothing at all is stored for it yet. While it cannot be
+    /// known whether anything is, or the default cannot be stored, the default holds as if it were.
     Name makeName(std::string rawValue, std::optional<Shortcut> defaultShortcut);
+
+    /// Stores the defaults that could not be stored yet. A shortcut of the user's that can be read by now
+    /// takes its place instead. True when nothing is left to be stored.
+    bool storeDefaults();
 
     [[nodiscard]] std::optional<Shortcut> getShortcut(const Name& name) const;
 
     /// Stores and registers the shortcut in place of the one before; an absent one removes that. A name
-    /// without a shortcut stays untouched by its removal.
+    /// without a shortcut stays untouched by its removal, and so does every name when this cannot be stored.
     void setShortcut(const std::optional<Shortcut>& shortcut, const Name& name);
 
     /// Adds a handler, called after those added before. Registers the name's shortcut if it is not yet.
@@ -74,12 +79,15 @@ class KeyboardShortcuts {
     };
     using HandlersByName = std::map<std::string, Handlers>;
 
+    void storeDefault(const Name& name);
+    bool store(const std::optional<Shortcut>& shortcut, const Name& name);
     void addHandler(HandlersByName& handlersByName, const Name& name, Handler handler);
     void callHandlers(const HandlersByName& handlersByName, const Shortcut& fired) const;
     void registerOnce(const Shortcut& shortcut);
     void unregister(const Shortcut& shortcut);
 
     PreferencesDomain* defaults_;
+    std::map<std::string, Name> unstoredDefaults_; ///< By raw value: names whose default is to be stored.
     HandlersByName keyDownHandlers_;
     HandlersByName keyUpHandlers_;
     std::set<Shortcut> registeredShortcuts_;

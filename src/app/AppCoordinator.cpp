@@ -16,6 +16,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// Preferences that cannot be stored are tried again so much later.
+constexpr auto beforeNextAttempt = 5s;
+
 /// What the application needs to be in front again before its menu item is pressed.
 constexpr auto beforePress = 200ms;
 
@@ -69,6 +72,7 @@ void AppCoordinator::start() {
             manager->handleKeyUp();
         }
     });
+    storeDefaultShortcut();
     showAccessibilityOnboardingIfNeeded();
 }
 
@@ -121,7 +125,7 @@ std::vector<Command> AppCoordinator::refreshCommands() {
         return {};
     }
     currentApplication_ = std::move(target);
-    currentMenuItems_ = menuItems(*currentApplication_);
+    currentMenuItems_ = menuItems(currentApplication_);
     return CommandIndex::buildCommands(currentMenuItems_, customCommandStore_.customCommands(), bundleID,
                                        rulesStore_.menuBlacklistRules(), rulesStore_.menuCommandAliasRules(),
                                        commandHistoryStore_);
@@ -180,13 +184,13 @@ void AppCoordinator::clearTarget() {
     currentMenuItems_.clear();
 }
 
-std::vector<ScannedMenuItem> AppCoordinator::menuItems(const RunningApplication& application) {
-    const MenuCacheKey key{application.bundleIdentifier(), application.processIdentifier()};
-    if (auto cached = menuCache_.cachedItems(key, platform_.now())) {
+std::vector<ScannedMenuItem>
+AppCoordinator::menuItems(const std::shared_ptr<RunningApplication>& application) {
+    if (auto cached = menuCache_.cachedItems(MenuCacheKey::of(*application), platform_.uptime())) {
         return *std::move(cached);
     }
-    std::vector<ScannedMenuItem> items = menuScanner_.scan(application);
-    menuCache_.store(key, items, platform_.now());
+    std::vector<ScannedMenuItem> items = menuScanner_.scan(*application);
+    menuCache_.store(application, items, platform_.uptime());
     return items;
 }
 
@@ -277,21 +281,32 @@ void AppCoordinator::showSettings() {
     // What the settings see of the application is what it is now.
     auto model = std::make_shared<SettingsViewModel>(
         SettingsStores{rulesStore_, commandHistoryStore_, customCommandStore_, paletteSettingsStore_,
-                       notificationSettingsStore_},
+                       notificationSettingsStore_, platform_.preferences.unstoredChange()},
         SettingsProviders{
             .currentApplication = [context = currentApplicationContext(target.get())] { return context; },
-            .menuItems = [items = settingsMenuItems(target.get())] { return items; },
+            .menuItems = [items = settingsMenuItems(target)] { return items; },
             .accessibilityPermission = [&accessibility =
                                             platform_.accessibility] { return accessibility.isTrusted(); }});
     platform_.userInterface.activate();
     platform_.settingsWindowController.show(std::move(model));
 }
 
-std::vector<ScannedMenuItem> AppCoordinator::settingsMenuItems(const RunningApplication* application) {
-    if (application == nullptr || !accessibilityPermissionService_.isTrusted()) {
+std::vector<ScannedMenuItem>
+AppCoordinator::settingsMenuItems(const std::shared_ptr<RunningApplication>& application) {
+    if (!application || !accessibilityPermissionService_.isTrusted()) {
         return {};
     }
-    return menuItems(*application);
+    return menuItems(application);
+}
+
+void AppCoordinator::storeDefaultShortcut() {
+    if (!platform_.shortcuts.storeDefaults()) {
+        platform_.mainQueue.postAfter(beforeNextAttempt, [weak = weak_from_this()] {
+            if (const auto coordinator = weak.lock()) {
+                coordinator->storeDefaultShortcut();
+            }
+        });
+    }
 }
 
 void AppCoordinator::showAccessibilityOnboardingIfNeeded() {

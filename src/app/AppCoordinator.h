@@ -19,7 +19,6 @@
 #include "platform/HotKeyCenter.h"
 #include "platform/KeyEventPoster.h"
 #include "platform/MainQueue.h"
-#include "platform/PreferencesDomain.h"
 #include "platform/ProcessRunner.h"
 #include "platform/StatusItem.h"
 #include "platform/UserInterface.h"
@@ -29,12 +28,14 @@
 #include "stores/CommandHistoryStore.h"
 #include "stores/CustomCommandStore.h"
 #include "stores/FirstLaunchOnboardingStore.h"
+#include "stores/LastKnownPreferences.h"
 #include "stores/NotificationSettingsStore.h"
 #include "stores/PaletteSettingsStore.h"
 #include "stores/RulesStore.h"
 #include "support/LocalizedString.h"
 #include "support/PointInTime.h"
 #include "support/TextServices.h"
+#include "support/Uptime.h"
 
 namespace tovrel {
 
@@ -48,12 +49,13 @@ struct Platform {
     ProcessRunner& processRunner;
     UserInterface& userInterface;
     UserNotifications& notifications;
-    PreferencesDomain& preferences;
+    LastKnownPreferences& preferences;
     KeyboardShortcuts& shortcuts;
     const TextServices& textServices;
     std::optional<Text> ownBundleIdentifier;
     PalettePanelFactory makePalettePanel;
     std::function<PointInTime()> now;
+    std::function<Uptime()> uptime;
     CommandExecutor::UrlOpener openURL;
     CommandExecutor::FileExists fileExists;
     LocalizedString localized;
@@ -108,6 +110,11 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
         return platform_.shortcuts.getShortcut(togglePalette_);
     }
 
+    /// Why the last change of the preferences could not be stored; absent when it could.
+    [[nodiscard]] const std::optional<PreferencesFailure>& unstoredChange() const {
+        return platform_.preferences.unstoredChange().get();
+    }
+
     /// By which the global shortcut is known.
     [[nodiscard]] const KeyboardShortcuts::Name& togglePalette() const { return togglePalette_; }
 
@@ -122,7 +129,8 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     [[nodiscard]] PaletteTarget paletteTarget() const;
     PaletteWindowController& paletteWindowController();
     void clearTarget();
-    [[nodiscard]] std::vector<ScannedMenuItem> menuItems(const RunningApplication& application);
+    [[nodiscard]] std::vector<ScannedMenuItem>
+    menuItems(const std::shared_ptr<RunningApplication>& application);
     void executeCustom(const Command& command, const CustomCommand& custom);
     void tellOfFailure(const Text& title, const CommandExecutionResult& result);
     void executeMenu(const Command& command, const MenuAction& action);
@@ -131,8 +139,10 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     [[nodiscard]] StatusMenuItem statusMenuItem(Text title, std::optional<Text> keyEquivalent, Text symbol,
                                                 void (AppCoordinator::*action)());
     void quit();
-    [[nodiscard]] std::vector<ScannedMenuItem> settingsMenuItems(const RunningApplication* application);
+    [[nodiscard]] std::vector<ScannedMenuItem>
+    settingsMenuItems(const std::shared_ptr<RunningApplication>& application);
     void showAccessibilityOnboardingIfNeeded();
+    void storeDefaultShortcut();
 
     Platform platform_;
     KeyboardShortcuts::Name togglePalette_;

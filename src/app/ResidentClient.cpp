@@ -97,6 +97,8 @@ void readProperty(DBusMessage& message, std::string_view name, ResidentStatus& s
         readText(message, status.display);
     } else if (name == "Target") {
         readText(message, status.target);
+    } else if (name == "UnstoredChange") {
+        readText(message, status.unstoredChange);
     } else {
         sd_bus_message_skip(message.handle(), "v");
     }

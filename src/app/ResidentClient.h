@@ -19,6 +19,8 @@ struct ResidentStatus {
     std::string shortcut; ///< For people, such as "Ctrl+Shift+P"; empty when there is none.
     std::string display;  ///< Where it shows its windows, as `displayName` says it.
     std::string target;   ///< Identifier of the application the palette was last prepared for; may be empty.
+    /// Why the last change of the preferences could not be stored; empty when it could.
+    std::string unstoredChange;
 };
 
 /// Speaks to the resident program: to that of this display directly, and where none has its seat there, to

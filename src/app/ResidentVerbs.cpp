@@ -42,7 +42,8 @@ int status(bool asJson, const Console& console) {
                                       {"paletteVisible", status.isPaletteVisible},
                                       {"accessibilityTrusted", status.isAccessibilityTrusted},
                                       {"shortcut", textOrNull(status.shortcut)},
-                                      {"target", textOrNull(status.target)}})
+                                      {"target", textOrNull(status.target)},
+                                      {"unstoredChange", textOrNull(status.unstoredChange)}})
                        << '\n';
         return 0;
     }
@@ -51,6 +52,10 @@ int status(bool asJson, const Console& console) {
                    << "Shortcut:      " << textOr(status.shortcut, "none") << '\n'
                    << "Accessibility: " << (status.isAccessibilityTrusted ? "on" : "off") << '\n'
                    << "Target:        " << textOr(status.target, "none yet") << '\n';
+    if (!status.unstoredChange.empty()) {
+        console.output << "Preferences:   the last change could not be stored: "
+                       << terminal_text::printable(status.unstoredChange) << '\n';
+    }
     return 0;
 }
 

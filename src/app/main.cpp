@@ -1,4 +1,5 @@
 #include <csignal>
+#include <fcntl.h>
 #include <iostream>
 #include <unistd.h>
 
@@ -7,9 +8,29 @@
 #include "app/Terminal.h"
 #include "app/resident/Resident.h"
 
+namespace {
+
+/// A standard descriptor that was closed when the program started would be given to the next file opened, a
+/// database or the display's socket, and that would get the lines meant for a reader. Taken this way it
+/// cannot be used: writing to standard output fails as it did before.
+void keepStandardDescriptorsTaken() {
+    int descriptor = 0;
+    do {
+        descriptor = open("/dev/null", O_PATH | O_CLOEXEC);
+    } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
+    if (descriptor >= 0) {
+        close(descriptor);
+    }
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
-    // A reader of standard output that goes away shows as a failed write instead.
+    keepStandardDescriptorsTaken();
+    // A reader of standard output that goes away shows as a failed write instead, and so does a file that may
+    // not grow any further.
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
     // Who started this may have ignored it, and then the kernel keeps no process's exit status.
     static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
     tovrel::DescriptorBuffer buffer(STDOUT_FILENO);

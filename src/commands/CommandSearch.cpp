@@ -33,7 +33,7 @@ std::vector<CommandSearch::Match> CommandSearch::strongMatches(const SearchQuery
             return;
         }
         if (const MatchScore score = index.keys().strongScore(entry, query); score > 0) {
-            matches.push_back({entry, checkedAdd(score, index.entries()[entry].rankBoost)});
+            matches.push_back({entry, saturatingAdd(score, index.entries()[entry].rankBoost)});
             entries.push_back(entry);
         }
     };
@@ -59,7 +59,7 @@ std::vector<CommandSearch::Match> CommandSearch::withLooseMatches(const std::vec
             matches.push_back(*nextStrong++);
         } else if (index.keys().mayMatch(entry, query)) {
             if (const MatchScore score = index.keys().looseScore(entry, query); score > 0) {
-                matches.push_back({entry, checkedAdd(score, index.entries()[entry].rankBoost)});
+                matches.push_back({entry, saturatingAdd(score, index.entries()[entry].rankBoost)});
             }
         }
     }

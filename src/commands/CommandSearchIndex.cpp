@@ -13,17 +13,16 @@ namespace {
 
 std::int64_t rankBoost(const CommandRankSignals& signals) {
     const std::int64_t favorite = signals.isFavorite ? 120 : 0;
-    // Beyond 10 uses the product is not needed, so a count that no one could reach does not overflow it.
-    const std::int64_t usage =
-        signals.usageCount >= 10 ? 80 : std::min<std::int64_t>(checkedMultiply(8, signals.usageCount), 80);
+    // The count is as it was stored: any number, if that is damaged.
+    const std::int64_t usage = std::min<std::int64_t>(saturatingMultiply(8, signals.usageCount), 80);
     const std::int64_t used = signals.lastUsedAt ? 25 : 0;
-    return checkedAdd(checkedAdd(favorite, usage), used);
+    return saturatingAdd(usage, favorite + used);
 }
 
 std::int64_t discoveryScore(const Command& command, std::int64_t boost) {
     const std::int64_t custom = command.source == CommandSource::custom ? 100 : 0;
     const std::int64_t shortcut = command.shortcut && !command.shortcut->empty() ? 80 : 0;
-    return checkedAdd(checkedAdd(boost, custom), shortcut);
+    return saturatingAdd(boost, custom + shortcut);
 }
 
 /// The positions of the enabled commands, by title as the user's locale orders them; equal titles keep their

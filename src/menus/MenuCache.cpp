@@ -15,21 +15,29 @@ std::size_t MenuCacheKeyHash::operator()(const MenuCacheKey& key) const {
     return hash * factor ^ std::hash<std::int64_t>{}(key.processIdentifier);
 }
 
-std::optional<std::vector<ScannedMenuItem>> MenuCache::cachedItems(const MenuCacheKey& key, PointInTime now) {
-    constexpr double lifetime = 30.0;
+std::optional<std::vector<ScannedMenuItem>> MenuCache::cachedItems(const MenuCacheKey& key, Uptime now) {
+    constexpr std::chrono::seconds lifetime(30);
+    // The system may give the number of a process that has ended to another instance.
+    std::erase_if(entries_, [](const auto& entry) {
+        return entry.second.application && entry.second.application->isTerminated();
+    });
     const auto found = entries_.find(key);
     if (found == entries_.end()) {
         return std::nullopt;
     }
-    if (secondsBetween(found->second.storedAt, now) <= lifetime) {
+    if (now - found->second.storedAt <= lifetime) {
         return found->second.items;
     }
     entries_.erase(found);
     return std::nullopt;
 }
 
-void MenuCache::store(const MenuCacheKey& key, std::vector<ScannedMenuItem> items, PointInTime now) {
-    entries_.insert_or_assign(key, Entry{std::move(items), now});
+void MenuCache::store(const std::shared_ptr<const RunningApplication>& application,
+                      std::vector<ScannedMenuItem> items, Uptime now) {
+    // One whose process cannot be seen, in another container for one, seems to have ended from the start.
+    entries_.insert_or_assign(
+        MenuCacheKey::of(*application),
+        Entry{std::move(items), now, application->isTerminated() ? nullptr : application});
 }
 
 } // namespace tovrel

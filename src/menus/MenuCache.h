@@ -1,13 +1,15 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <unordered_map>
 #include <vector>
 
 #include "model/ScannedMenuItem.h"
-#include "support/PointInTime.h"
+#include "platform/RunningApplication.h"
 #include "support/Text.h"
+#include "support/Uptime.h"
 
 namespace tovrel {
 
@@ -18,30 +20,38 @@ struct MenuCacheKey {
     std::int64_t processIdentifier = 0;
 
     friend bool operator==(const MenuCacheKey&, const MenuCacheKey&) = default;
+
+    [[nodiscard]] static MenuCacheKey of(const RunningApplication& application) {
+        return {application.bundleIdentifier(), application.processIdentifier()};
+    }
 };
 
 struct MenuCacheKeyHash {
     std::size_t operator()(const MenuCacheKey& key) const;
 };
 
-/// The last scanned menu tree of each application instance, kept in memory for half a minute.
+/// The last scanned menu tree of each application instance, kept in memory for half a minute. "Now" is of a
+/// clock that nobody sets: by one set back an hour, old menus would be fresh for the hour.
 class MenuCache {
   public:
     /// The lifetime in seconds, for whoever shows or documents it; a lookup goes by its own constant.
     double timeToLive = 30.0;
 
     /// The items stored under the key at most 30 seconds before `now` (a time before they were stored counts
-    /// as fresh); absent otherwise, and the entry is then removed.
+    /// as fresh); absent otherwise, and the entry is then removed. So are those of all applications that have
+    /// ended.
     [[nodiscard]] std::optional<std::vector<ScannedMenuItem>> cachedItems(const MenuCacheKey& key,
-                                                                          PointInTime now);
+                                                                          Uptime now);
 
-    /// Sets the entry; an empty list is kept and served like any other.
-    void store(const MenuCacheKey& key, std::vector<ScannedMenuItem> items, PointInTime now);
+    /// Sets the application's entry; an empty list is kept and served like any other.
+    void store(const std::shared_ptr<const RunningApplication>& application,
+               std::vector<ScannedMenuItem> items, Uptime now);
 
   private:
     struct Entry {
         std::vector<ScannedMenuItem> items;
-        PointInTime storedAt;
+        Uptime storedAt;
+        std::shared_ptr<const RunningApplication> application; ///< Null when its end cannot be told.
     };
 
     std::unordered_map<MenuCacheKey, Entry, MenuCacheKeyHash> entries_;

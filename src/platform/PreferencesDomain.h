@@ -21,6 +21,25 @@ struct PreferenceData {
 /// A typed preference value.
 using PreferenceValue = std::variant<PreferenceData, Text, bool>;
 
+/// What stands in the way of reading or changing preferences.
+enum class PreferencesObstacle {
+    locked,       ///< Another program keeps them locked.
+    noRoom,       ///< The disk is full, or a quota used up.
+    notPermitted, ///< They may only be read, or not even that.
+    laterVersion, ///< A later version of this program wrote them.
+    foreign,      ///< Their file is another program's.
+    notAFile,     ///< Something that is no file is in its place.
+    other,        ///< The reason says.
+};
+
+/// Why an operation on the preferences failed.
+struct PreferencesFailure {
+    PreferencesObstacle obstacle = PreferencesObstacle::other;
+    std::string reason; ///< In English, as in "the disk is full".
+
+    friend bool operator==(const PreferencesFailure&, const PreferencesFailure&) = default;
+};
+
 /// The user's persistent key-value store.
 ///
 /// When `set`, `setAll` or `remove` returns true the change is on disk and survives the kill of the process
@@ -53,6 +72,9 @@ class PreferencesDomain {
 
     /// Whether the last `value` or `all` really read the store: tells an absent value from an unreadable one.
     [[nodiscard]] virtual bool lastReadSucceeded() const = 0;
+
+    /// Why the last operation that failed did so.
+    [[nodiscard]] virtual PreferencesFailure lastFailure() const = 0;
 };
 
 /// The bytes under the key; absent when there is no value or one of another type.

@@ -23,7 +23,7 @@ const Record* findByID(const std::vector<Record>& records, const Text& id) {
 SettingsViewModel::SettingsViewModel(SettingsStores stores, SettingsProviders providers)
     : store_(stores.rules), historyStore_(stores.history), customCommandStore_(stores.customCommands),
       paletteSettingsStore_(stores.paletteSettings), notificationSettingsStore_(stores.notifications),
-      providers_(std::move(providers)) {
+      unstoredChange_(stores.unstoredChange), providers_(std::move(providers)) {
     reload();
 }
 

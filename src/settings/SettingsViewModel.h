@@ -10,6 +10,7 @@
 #include "settings/SettingsRecords.h"
 #include "stores/CommandHistoryStore.h"
 #include "stores/CustomCommandStore.h"
+#include "stores/LastKnownPreferences.h"
 #include "stores/NotificationSettingsStore.h"
 #include "stores/PaletteSettingsStore.h"
 #include "stores/RulesStore.h"
@@ -25,13 +26,15 @@ struct SettingsStores {
     CustomCommandStore& customCommands;
     PaletteSettingsStore& paletteSettings;
     NotificationSettingsStore& notifications;
+    const UnstoredChange& unstoredChange;
 };
 
 /// The state behind the settings window: what the stores and the providers say, and the edits. Each edit
 /// writes to a store and then reloads everything, so the model never holds what the stores do not.
 ///
-/// Nothing is reported: an edit that needs a current application or an entry that is not there does nothing,
-/// not even a reload. Duplicates are not looked for.
+/// An edit that cannot be stored shows in `unstoredChange`, and in nothing having changed. An edit that needs
+/// a current application or an entry that is not there does nothing, not even a reload. Duplicates are not
+/// looked for.
 class SettingsViewModel {
   public:
     /// Loads at once.
@@ -75,6 +78,9 @@ class SettingsViewModel {
         return notifiesOfCommandFailures_;
     }
     [[nodiscard]] const Observable<bool>& isAccessibilityTrusted() const { return isAccessibilityTrusted_; }
+
+    /// Why the last change could not be stored, one made elsewhere included; absent when it could.
+    [[nodiscard]] const UnstoredChange& unstoredChange() const { return unstoredChange_; }
 
     /// Takes everything anew, in a fixed order.
     void reload();
@@ -126,6 +132,7 @@ class SettingsViewModel {
     CustomCommandStore& customCommandStore_;
     PaletteSettingsStore& paletteSettingsStore_;
     NotificationSettingsStore& notificationSettingsStore_;
+    const UnstoredChange& unstoredChange_;
     SettingsProviders providers_;
 };
 

@@ -53,14 +53,15 @@ std::shared_ptr<const CommandHistorySnapshot> CommandHistoryStore::snapshot() {
             std::move(records).value_or(CommandHistorySnapshot::Records()));
         snapshotBytes_ = std::move(bytes);
     }
-    checkedRevision_ = revision;
+    // What is not the document as it is now must be looked at again.
+    checkedRevision_ = userDefaults_.lastReadSucceeded() ? std::optional(revision) : std::nullopt;
     return snapshot_;
 }
 
 void CommandHistoryStore::recordUse(const Text& commandID, PointInTime date) {
     CommandHistorySnapshot::Records records = snapshot()->records();
     CommandRankSignals& record = records[commandID];
-    record.usageCount = checkedAdd(record.usageCount, 1);
+    record.usageCount = saturatingAdd(record.usageCount, 1);
     record.lastUsedAt = date;
     save(std::move(records));
 }

@@ -59,8 +59,8 @@ class CommandHistoryStore {
     [[nodiscard]] std::shared_ptr<const CommandHistorySnapshot> snapshot();
 
     /// Counts one use at `date`, which becomes the time of last use even if it is earlier than the one
-    /// before. A date that is not finite cannot be written: nothing changes. A count above 2^63 - 1 ends the
-    /// process.
+    /// before. A date that is not finite cannot be written: nothing changes. A count of 2^63 - 1, which only
+    /// a damaged document has, stays.
     void recordUse(const Text& commandID, PointInTime date);
 
     /// Sets the mark, creating the record of a command that has none, also when the mark is cleared.
@@ -81,10 +81,10 @@ class CommandHistoryStore {
     const TextServices& text_;
 
     // What was last read or written: the decoded document, its bytes (absent when there was no data), and the
-    // domain's revision before they were read.
+    // domain's revision before they were read (absent when they could not be).
     std::shared_ptr<const CommandHistorySnapshot> snapshot_;
     std::optional<std::string> snapshotBytes_;
-    std::uint64_t checkedRevision_ = 0;
+    std::optional<std::uint64_t> checkedRevision_;
 };
 
 } // namespace tovrel

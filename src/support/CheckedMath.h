@@ -1,12 +1,16 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 
 #include "support/Fatal.h"
 
+/// Arithmetic on scores and counts that never wraps. What the program itself has counted cannot overflow
+/// unless it is broken, and that is fatal. A number from the preferences may be any: one that is damaged must
+/// not end the program at each start, so sums over such numbers stop at the largest or least there is.
 namespace tovrel {
 
-/// Sum of two scores or counts; an overflow ends the process instead of wrapping.
+/// Sum of two of the program's own numbers; an overflow ends the process.
 inline std::int64_t checkedAdd(std::int64_t left, std::int64_t right) {
     std::int64_t result = 0;
     if (__builtin_add_overflow(left, right, &result)) {
@@ -15,11 +19,22 @@ inline std::int64_t checkedAdd(std::int64_t left, std::int64_t right) {
     return result;
 }
 
-/// Product of two scores or counts; an overflow ends the process instead of wrapping.
-inline std::int64_t checkedMultiply(std::int64_t left, std::int64_t right) {
+/// Sum in which a stored number takes part.
+inline std::int64_t saturatingAdd(std::int64_t left, std::int64_t right) {
+    std::int64_t result = 0;
+    if (__builtin_add_overflow(left, right, &result)) {
+        using Limits = std::numeric_limits<std::int64_t>;
+        return left < 0 ? Limits::min() : Limits::max();
+    }
+    return result;
+}
+
+/// Product in which a stored number takes part.
+inline std::int64_t saturatingMultiply(std::int64_t left, std::int64_t right) {
     std::int64_t result = 0;
     if (__builtin_mul_overflow(left, right, &result)) {
-        fatal("integer overflow in a multiplication");
+        using Limits = std::numeric_limits<std::int64_t>;
+        return (left < 0) == (right < 0) ? Limits::max() : Limits::min();
     }
     return result;
 }

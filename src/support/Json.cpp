@@ -42,6 +42,10 @@ Value parse(std::string_view bytes) {
     if (isNestedTooDeep(bytes)) {
         throw DecodeError("nested deeper than " + std::to_string(maximumDepth) + " levels");
     }
+    // The parser would take it for the end and never see what follows.
+    if (bytes.find('\0') != std::string_view::npos) {
+        throw DecodeError("not valid JSON in UTF-8");
+    }
     try {
         return Value::parse(bytes);
     } catch (const Value::out_of_range&) {
@@ -69,7 +73,8 @@ std::int64_t integerFrom(const Value& value) {
     } else if (value.is_number_float()) {
         const auto number = value.get<double>();
         constexpr double limit = 9223372036854775808.0; // 2^63, exact in a double
-        if (std::trunc(number) == number && number >= -limit && number < limit) {
+        // Integers below -2^63 arrive here rounded to it, so that it is no better a number than 2^63 is.
+        if (std::trunc(number) == number && number > -limit && number < limit) {
             return static_cast<std::int64_t>(number);
         }
     }

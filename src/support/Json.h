@@ -29,11 +29,13 @@ class DecodeError : public std::runtime_error {
 inline constexpr int maximumDepth = 512;
 
 /// The parsed document, a fragment such as a bare string included.
-/// Throws DecodeError: not JSON, not UTF-8, or nested deeper than `maximumDepth`.
+/// Throws DecodeError: not JSON to its last byte (which comments are not, nor what follows a NUL), not UTF-8,
+/// or nested deeper than `maximumDepth`.
 Value parse(std::string_view bytes);
 
 /// Typed reads. Each throws DecodeError when the value has another type. An integer may be written with a
-/// fraction or exponent as long as it is integral and fits (3.0, 1e3); true and false are not numbers.
+/// fraction or exponent as long as it is integral and its magnitude below 2^63 (3.0, 1e3); true and false are
+/// not numbers.
 Text textFrom(const Value& value);
 std::int64_t integerFrom(const Value& value);
 bool booleanFrom(const Value& value);

@@ -13,11 +13,6 @@ struct PointInTime {
     friend auto operator<=>(const PointInTime&, const PointInTime&) = default;
 };
 
-/// Seconds from `earlier` to `later`; negative when the order is the other way round.
-inline double secondsBetween(PointInTime earlier, PointInTime later) {
-    return later.secondsSinceReferenceDate - earlier.secondsSinceReferenceDate;
-}
-
 /// The system clock's time. Only the composition root reads it; everything else is handed its "now".
 PointInTime currentTime();
 

@@ -6,8 +6,8 @@
 
 #include "KeyboardShortcuts/SymbolicText.h"
 #include "platform/memory/MemoryHotKeyCenter.h"
-#include "platform/memory/MemoryPreferencesDomain.h"
 #include "platform/memory/MemoryUserInterface.h"
+#include "stores/FailingPreferencesDomain.h"
 
 namespace tovrel {
 namespace {
@@ -21,7 +21,7 @@ class KeyboardShortcutsTest : public testing::Test {
     KeyboardShortcuts::Name toggle() { return shortcuts_.makeName("togglePalette", standard); }
 
     TextServices textServices_{"en"};
-    MemoryPreferencesDomain preferences_;
+    FailingPreferencesDomain preferences_;
     MemoryHotKeyCenter center_;
     MemoryUserInterface userInterface_;
     std::ostringstream output_;
@@ -38,6 +38,63 @@ TEST_F(KeyboardShortcutsTest, TheDefaultIsStoredAndRegisteredOnlyWhenNothingIsSt
     EXPECT_EQ(preferences_.value(key), PreferenceValue(false));
     EXPECT_EQ(center_.registrations(standard), 0U);
     EXPECT_EQ(shortcuts_.getShortcut(toggle()), std::nullopt) << "a removed shortcut does not come back";
+}
+
+TEST_F(KeyboardShortcutsTest, ADefaultThatCannotBeStoredHoldsUntilItCanBe) {
+    for (bool FailingPreferencesDomain::*const obstacle :
+         {&FailingPreferencesDomain::refusesReads, &FailingPreferencesDomain::refusesWrites}) {
+        preferences_.remove(key);
+        preferences_.*obstacle = true;
+        KeyboardShortcuts shortcuts(preferences_, center_, userInterface_, textServices_, output_);
+        const auto name = shortcuts.makeName("togglePalette", standard);
+        int calls = 0;
+        shortcuts.onKeyDown(name, [&] { ++calls; });
+        EXPECT_EQ(shortcuts.getShortcut(name), standard);
+        EXPECT_TRUE(center_.press(standard));
+        EXPECT_EQ(calls, 1);
+        EXPECT_FALSE(shortcuts.storeDefaults());
+        preferences_.*obstacle = false;
+        EXPECT_EQ(preferences_.value(key), std::nullopt);
+        EXPECT_TRUE(shortcuts.storeDefaults());
+        EXPECT_TRUE(preferences_.value(key));
+        EXPECT_TRUE(center_.press(standard));
+        EXPECT_EQ(calls, 2);
+        EXPECT_EQ(center_.registrations(standard), 1U);
+    }
+}
+
+TEST_F(KeyboardShortcutsTest, TheUsersShortcutTakesTheDefaultsPlaceOnceItCanBeRead) {
+    for (const PreferenceValue& users :
+         {PreferenceValue(Text(R"({"carbonKeyCode":0,"carbonModifiers":4096})")), PreferenceValue(false)}) {
+        preferences_.set(key, users);
+        preferences_.refusesReads = true;
+        KeyboardShortcuts shortcuts(preferences_, center_, userInterface_, textServices_, output_);
+        const auto name = shortcuts.makeName("togglePalette", standard);
+        int calls = 0;
+        shortcuts.onKeyDown(name, [&] { ++calls; });
+        preferences_.refusesReads = false;
+        EXPECT_TRUE(shortcuts.storeDefaults());
+        EXPECT_EQ(preferences_.value(key), users);
+        EXPECT_FALSE(center_.press(standard));
+        const bool hasShortcut = users != PreferenceValue(false);
+        EXPECT_EQ(center_.press(other), hasShortcut);
+        EXPECT_EQ(calls, hasShortcut ? 1 : 0);
+    }
+}
+
+TEST_F(KeyboardShortcutsTest, AShortcutThatCannotBeStoredLeavesTheOneBefore) {
+    const auto name = toggle();
+    int calls = 0;
+    int changes = 0;
+    shortcuts_.onKeyDown(name, [&] { ++calls; });
+    const auto subscription = shortcuts_.onShortcutByNameDidChange([&](const auto&) { ++changes; });
+    preferences_.refusesWrites = true;
+    shortcuts_.setShortcut(other, name);
+    shortcuts_.setShortcut(std::nullopt, name);
+    EXPECT_EQ(changes, 2) << "what shows it must show what holds";
+    EXPECT_FALSE(center_.press(other));
+    EXPECT_TRUE(center_.press(standard));
+    EXPECT_EQ(calls, 1);
 }
 
 TEST_F(KeyboardShortcutsTest, WhatIsNoShortcutIsLeftAlone) {

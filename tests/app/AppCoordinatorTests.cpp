@@ -12,12 +12,12 @@
 #include "platform/memory/MemoryHotKeyCenter.h"
 #include "platform/memory/MemoryKeyEventPoster.h"
 #include "platform/memory/MemoryPalettePanel.h"
-#include "platform/memory/MemoryPreferencesDomain.h"
 #include "platform/memory/MemoryProcessRunner.h"
 #include "platform/memory/MemorySettingsWindow.h"
 #include "platform/memory/MemoryUserInterface.h"
 #include "platform/memory/MemoryUserNotifications.h"
 #include "platform/memory/MemoryWorkspace.h"
+#include "stores/FailingPreferencesDomain.h"
 
 namespace tovrel {
 namespace {
@@ -87,6 +87,7 @@ class AppCoordinatorTest : public testing::Test {
                              return panel;
                          },
                      .now = [this] { return now_; },
+                     .uptime = [this] { return uptime_; },
                      .openURL = [this](const Url& url) { opened_.push_back(url.text()); },
                      .fileExists = [](const Text&) { return false; },
                      .localized = [](const char*, const char* key) { return Text(key); },
@@ -127,10 +128,12 @@ class AppCoordinatorTest : public testing::Test {
     MemoryProcessRunner runner_{queue_};
     MemoryUserInterface userInterface_;
     MemoryUserNotifications notifications_;
-    MemoryPreferencesDomain preferences_;
+    FailingPreferencesDomain stored_;
+    LastKnownPreferences preferences_{stored_};
     std::ostringstream output_;
     KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};
     PointInTime now_ = start;
+    Uptime uptime_{};
     std::vector<Text> opened_;
     MemorySettingsWindow* settingsWindow_ = nullptr; // owned by the controller
     SettingsWindowController settings_{[this] {
@@ -216,9 +219,10 @@ TEST_F(AppCoordinatorTest, ACommandThatIsGoneClosesThePaletteAndCountsForNothing
 TEST_F(AppCoordinatorTest, MenusAreReadAgainAfterHalfAMinute) {
     pressHotKey();
     editor_.root->set("AXMenuBar", MemoryElement::Element(std::make_shared<MemoryElement>()));
-    now_.secondsSinceReferenceDate += 30;
+    uptime_ += 30s;
+    now_.secondsSinceReferenceDate -= 3600; // a clock set back makes nothing younger
     EXPECT_EQ(coordinator_->refreshCommands().size(), 2U);
-    now_.secondsSinceReferenceDate += 1;
+    uptime_ += 1ms;
     EXPECT_EQ(coordinator_->refreshCommands().size(), 0U);
     EXPECT_EQ(coordinator_->currentApplication(), editor_.running);
 }
@@ -264,6 +268,50 @@ TEST_F(AppCoordinatorTest, WithoutAccessibilityOnlyTheWayToAllowItIsOffered) {
                                           "security?Privacy_Accessibility"}));
     EXPECT_EQ(history().rankSignals("custom.accessibility").usageCount, 1);
     EXPECT_FALSE(panel_->isVisible());
+}
+
+TEST_F(AppCoordinatorTest, PreferencesThatCannotBeReadAreAsTheyWereKnownLast) {
+    const Text mine = "Mine";
+    CustomCommandStore(preferences_, "customCommands")
+        .saveCustomCommand(customCommand(mine, CustomCommandKind::open));
+    const auto openAndClose = [this] {
+        pressHotKey();
+        EXPECT_TRUE(panel_->isVisible());
+        Titles shown = titles();
+        pressHotKey();
+        return shown;
+    };
+    const Titles known = openAndClose();
+    stored_.refusesReads = true;
+    EXPECT_EQ(openAndClose(), known);
+    EXPECT_FALSE(coordinator_->unstoredChange());
+    pressHotKey();
+    model_->setQuery("mine");
+    returnKey();
+    EXPECT_EQ(coordinator_->unstoredChange(), stored_.failure) << "a use that could not be counted";
+    stored_.refusesReads = false;
+    EXPECT_TRUE(history().entries().empty());
+    pressHotKey();
+    model_->setQuery("mine");
+    returnKey();
+    EXPECT_EQ(history().entries().size(), 1U);
+    EXPECT_FALSE(coordinator_->unstoredChange());
+}
+
+TEST_F(AppCoordinatorTest, TheDefaultShortcutIsStoredWhenThatBecomesPossible) {
+    constexpr const char* key = "KeyboardShortcuts_togglePalette";
+    coordinator_.reset();
+    stored_.remove(key);
+    stored_.refusesReads = true;
+    coordinator_ = makeCoordinator();
+    coordinator_->start();
+    pressHotKey();
+    EXPECT_TRUE(panel_->isVisible());
+    queue_.advance(10s);
+    stored_.refusesReads = false;
+    EXPECT_EQ(stored_.value(key), std::nullopt);
+    queue_.advance(5s);
+    EXPECT_TRUE(stored_.value(key));
 }
 
 TEST_F(AppCoordinatorTest, CustomCommandsAreConfirmedRunAndCounted) {

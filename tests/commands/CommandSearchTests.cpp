@@ -69,8 +69,11 @@ TEST_F(CommandSearchTest, BoostsAddUpAndRank) {
     damaged.rankSignals.usageCount = -1000;
     EXPECT_EQ(found("satu", {damaged, menuCommand({"Sa", "Txxxu"})}),
               (Rows{{"Txxxu", 320}, {"Saturn", 780 - 8000}}));
-    damaged.rankSignals.usageCount = INT64_MIN;
-    EXPECT_DEATH(found("satu", {damaged}), "overflow");
+    // However low it is, the command is found and the others are ranked.
+    damaged.rankSignals = {.isFavorite = true, .usageCount = -2'000'000'000'000'000'000, .lastUsedAt = {}};
+    EXPECT_EQ(found("satu", {damaged, menuCommand({"Sa", "Txxxu"})}),
+              (Rows{{"Txxxu", 320}, {"Saturn", INT64_MIN + 120 + 780}}));
+    EXPECT_EQ(found("", {damaged, shellCommand("Backup", "make backup")}), (Rows{{"Backup", 100}}));
 }
 
 TEST_F(CommandSearchTest, NothingTypedListsTheMostRelevant) {

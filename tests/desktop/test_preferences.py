@@ -3,9 +3,11 @@
 import json
 import os
 import random
+import resource
 import signal
 import subprocess
 
+from harness.program import Answer
 from harness.testing import DesktopTestCase, main
 from harness.waiting import wait_until
 
@@ -81,6 +83,18 @@ class PreferencesInSearchTests(DesktopTestCase):
             stored = int(self.tovrel.expect("preferences", "read", "count").output)
             self.assertIn(stored, (confirmed, confirmed + 1))
             confirmed = stored
+
+    def test_a_limit_of_file_size_fails_the_write_alone(self):
+        def limit():
+            resource.setrlimit(resource.RLIMIT_FSIZE, (50_000, 50_000))
+
+        self.tovrel.expect("preferences", "write", "kept", "--string", "kept")
+        with subprocess.Popen([self.tovrel.path, "preferences", "write", "kept", "--string", "x" * 100_000],
+                              env=self.desktop.environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                              text=True, preexec_fn=limit) as writer:
+            output, errors = writer.communicate(timeout=20)
+        self.assert_fails_in_one_line(Answer(writer.returncode, output, errors), mentioning="cannot write")
+        self.assertEqual(self.tovrel.expect("preferences", "read", "kept").output, "kept\n")
 
     def test_two_writers_lose_nothing_of_each_other(self):
         writer = 'for i in $(seq 20); do "$0" preferences write "$1.$i" --json "$i" || exit 1; done'

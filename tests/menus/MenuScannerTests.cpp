@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "menus/MenuCache.h"
 #include "menus/MenuCommandPerformer.h"
 #include "menus/ShortcutText.h"
 #include "platform/memory/MemoryAccessibility.h"
@@ -120,20 +119,6 @@ TEST_F(MenuScannerTest, TheFirstItemOfAPathIsFoundAndPressed) {
     ScannedMenuItem without = *found;
     without.element = nullptr;
     EXPECT_FALSE(MenuCommandPerformer::pressMenuItem(without));
-}
-
-TEST(MenuCache, KeepsATreeForThirtySeconds) {
-    MenuCache cache;
-    const MenuCacheKey key{"org.example", 100};
-    cache.store(key, std::vector<ScannedMenuItem>(1), PointInTime{1000});
-    EXPECT_EQ(cache.cachedItems(key, PointInTime{1030})->size(), 1U);
-    EXPECT_TRUE(cache.cachedItems(key, PointInTime{10}).has_value()); // the clock went back
-    EXPECT_FALSE(cache.cachedItems({"org.example", 101}, PointInTime{1000}).has_value());
-    EXPECT_FALSE(cache.cachedItems({std::nullopt, 100}, PointInTime{1000}).has_value());
-    EXPECT_FALSE(cache.cachedItems(key, PointInTime{1030.001}).has_value());
-    EXPECT_FALSE(cache.cachedItems(key, PointInTime{1010}).has_value()); // it was removed
-    cache.store({std::nullopt, 7}, {}, PointInTime{0});
-    EXPECT_EQ(cache.cachedItems({std::nullopt, 7}, PointInTime{5})->size(), 0U);
 }
 
 } // namespace

@@ -9,9 +9,9 @@
 
 #include "platform/memory/MemoryAccessibility.h"
 #include "platform/memory/MemoryApplication.h"
-#include "platform/memory/MemoryPreferencesDomain.h"
 #include "platform/memory/MemoryWorkspace.h"
 #include "settings/SettingsViewState.h"
+#include "stores/FailingPreferencesDomain.h"
 
 namespace tovrel {
 namespace {
@@ -61,7 +61,8 @@ class SettingsViewModelTest : public testing::Test {
     }
 
     TextServices text_{"en_US"};
-    MemoryPreferencesDomain preferences_;
+    FailingPreferencesDomain stored_;
+    LastKnownPreferences preferences_{stored_};
     RulesStore rules_{preferences_, text_};
     CommandHistoryStore history_{preferences_, "history", text_};
     CustomCommandStore custom_{preferences_, "customCommands"};
@@ -71,7 +72,8 @@ class SettingsViewModelTest : public testing::Test {
     std::vector<ScannedMenuItem> menus_;
     bool isTrusted_ = false;
     std::shared_ptr<SettingsViewModel> model_ = std::make_shared<SettingsViewModel>(
-        SettingsStores{rules_, history_, custom_, palette_, notifications_}, providers());
+        SettingsStores{rules_, history_, custom_, palette_, notifications_, preferences_.unstoredChange()},
+        providers());
     SettingsViewState state_{model_};
 };
 
@@ -260,6 +262,19 @@ TEST_F(SettingsViewModelTest, DamagedDocumentsReadAsDefaultsAndTheNextEditRepair
     model_->clearHistory();
     EXPECT_EQ(preferences_.value("history"), std::nullopt);
     EXPECT_THAT(model_->commandHistoryEntries().get(), IsEmpty());
+}
+
+TEST_F(SettingsViewModelTest, AnEditThatCannotBeStoredIsToldUntilOneCan) {
+    stored_.failure = {PreferencesObstacle::laterVersion, "a later version of this program wrote it"};
+    stored_.refusesWrites = true;
+    model_->setCurrentBehavior(AppBehaviorRule::disabled);
+    EXPECT_EQ(model_->currentBehavior().get(), AppBehaviorRule::enabled);
+    EXPECT_EQ(model_->unstoredChange().get(), stored_.failure);
+    model_->reload();
+    EXPECT_TRUE(model_->unstoredChange().get());
+    stored_.refusesWrites = false;
+    model_->setMenuCommandFavorite(exportPDF, true);
+    EXPECT_FALSE(model_->unstoredChange().get());
 }
 
 TEST_F(SettingsViewModelTest, TheStandardProvidersAskTheWorkspace) {

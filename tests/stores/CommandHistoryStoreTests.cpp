@@ -157,9 +157,30 @@ TEST_F(CommandHistory, IsReadOncePerChangeAndNeverStale) {
     EXPECT_THAT(other.entries(), IsEmpty());
 }
 
-TEST_F(CommandHistory, CountingBeyondTheLargestIntegerIsFatal) {
-    putDocument(R"({"A": {"usageCount": 9223372036854775807, "isFavorite": false}})");
-    EXPECT_DEATH(store.recordUse("A", {1}), "overflow");
+TEST_F(CommandHistory, ADocumentThatCouldNotBeReadIsReadAgain) {
+    struct : FailingPreferencesDomain {
+        // The lock comes after the look at the revision.
+        [[nodiscard]] std::uint64_t revision() override { return MemoryPreferencesDomain::revision(); }
+    } locked;
+    CommandHistoryStore here(locked, storageKey, text);
+    CommandHistoryStore elsewhere(locked, storageKey, text);
+    here.recordUse("A", {1});
+    elsewhere.recordUse("A", {2});
+    locked.refusesReads = true;
+    EXPECT_EQ(here.rankSignals("A").usageCount, 0);
+    locked.refusesReads = false;
+    EXPECT_EQ(here.rankSignals("A").usageCount, 2);
+}
+
+TEST_F(CommandHistory, ACountThatIsDamagedIsCountedOnFromUpToTheLargest) {
+    putDocument(R"({"A": {"usageCount": 9223372036854775806, "isFavorite": false},
+                    "B": {"usageCount": -2000000000000000000, "isFavorite": false}})");
+    for (int use = 0; use < 2; ++use) {
+        store.recordUse("A", {1});
+        EXPECT_EQ(store.rankSignals("A").usageCount, INT64_MAX);
+    }
+    store.recordUse("B", {1});
+    EXPECT_EQ(store.rankSignals("B").usageCount, -1'999'999'999'999'999'999);
 }
 
 } // namespace

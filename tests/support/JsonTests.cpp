@@ -15,6 +15,12 @@ TEST(Json, HostileDocumentsAreRefused) {
     EXPECT_FALSE(parses(""));
     EXPECT_FALSE(parses("not json"));
     EXPECT_FALSE(parses("[1] trailing"));
+    EXPECT_FALSE(parses({"[1]\0", 4}));
+    EXPECT_FALSE(parses({"[1]\0rubbish", 11}));
+    EXPECT_FALSE(parses({"\"a\0b\"", 5}));
+    EXPECT_TRUE(parses("\"a\\u0000b\""));
+    EXPECT_FALSE(parses("[1] // comment"));
+    EXPECT_FALSE(parses("/* comment */ [1]"));
     EXPECT_FALSE(parses("\"\xFF\""));
     EXPECT_FALSE(parses("\"\\ud800\""));
     EXPECT_FALSE(parses("[1e999]"));
@@ -33,7 +39,8 @@ TEST(Json, NumbersKeepTheirKind) {
     EXPECT_EQ(integer("-9223372036854775808"), INT64_MIN);
     EXPECT_EQ(integer("9223372036854775807"), INT64_MAX);
     for (const char* refused :
-         {"2.5", "true", "\"1\"", "null", "9223372036854775808", "1e19", "18446744073709551615"}) {
+         {"2.5", "true", "\"1\"", "null", "9223372036854775808", "1e19", "18446744073709551615",
+          "9223372036854775808.0", "9.223372036854775808e18", "-9223372036854775809", "-1e19"}) {
         EXPECT_EQ(integer(refused), std::nullopt) << refused;
     }
     EXPECT_EQ(json::decodeDocument("0", json::pointInTimeFrom), PointInTime{0});

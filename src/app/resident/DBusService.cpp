@@ -45,6 +45,12 @@ QString DBusService::display() const {
     return QString::fromStdString(displayName());
 }
 
+QString DBusService::unstoredChange() const {
+    const auto coordinator = coordinator_.lock();
+    const auto failure = coordinator ? coordinator->unstoredChange() : std::nullopt;
+    return failure ? QString::fromStdString(failure->reason) : QString();
+}
+
 void DBusService::Toggle() {
     if (const auto coordinator = coordinator_.lock()) {
         coordinator->handleTogglePalette();

@@ -21,6 +21,7 @@ class DBusService : public QObject {
     Q_PROPERTY(QString Shortcut READ shortcut)
     Q_PROPERTY(QString Target READ target)
     Q_PROPERTY(QString Display READ display CONSTANT)
+    Q_PROPERTY(QString UnstoredChange READ unstoredChange)
 
   public:
     /// The shortcut as people read it, or empty.
@@ -36,6 +37,7 @@ class DBusService : public QObject {
     [[nodiscard]] QString shortcut() const;
     [[nodiscard]] QString target() const;
     [[nodiscard]] QString display() const;
+    [[nodiscard]] QString unstoredChange() const;
 
     // Named as methods are on the bus. NOLINTBEGIN(readability-identifier-naming)
   public Q_SLOTS:

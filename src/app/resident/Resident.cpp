@@ -7,8 +7,10 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <unistd.h>
 
 #include "app/DBusNames.h"
+#include "app/DescriptorBuffer.h"
 #include "app/Failure.h"
 #include "app/ResidentClient.h"
 #include "app/ResidentSeat.h"
@@ -57,6 +59,21 @@ std::unique_ptr<SeatLock> lockUnlessShown(const ResidentSeat& seat) {
     }
 }
 
+/// Drops what cannot be written: a program that serves the user goes on, whoever stops reading it.
+class DroppingBuffer : public DescriptorBuffer {
+  public:
+    using DescriptorBuffer::DescriptorBuffer;
+
+  protected:
+    int sync() override {
+        try {
+            return DescriptorBuffer::sync();
+        } catch (const OutputError&) {
+            return 0;
+        }
+    }
+};
+
 } // namespace
 
 int runResident(const command_line::Invocation& invocation, const Console& console) {
@@ -81,7 +98,10 @@ int runResident(const command_line::Invocation& invocation, const Console& conso
     QApplication::setDesktopFileName(dbus_names::service);
     QApplication::setQuitOnLastWindowClosed(false);
 
-    ResidentProgram program(invocation, console, seat);
+    DroppingBuffer buffer(STDOUT_FILENO);
+    std::ostream output(&buffer);
+    const Console lastingConsole{console.input, output, console.error, console.style};
+    ResidentProgram program(invocation, lastingConsole, seat);
     if (!program.start()) {
         return 0;
     }

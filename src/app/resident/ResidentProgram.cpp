@@ -29,9 +29,10 @@ bool fileExists(const Text& path) {
 
 ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, const Console& console,
                                  const std::optional<ResidentSeat>& seat)
-    : console_(&console), preferences_(preferencesFile(invocation.preferencesFile), {},
-                                       SqlitePreferencesDomain::interactivePatience),
-      textServices_(invocation.localeIdentifier), windows_(std::make_shared<X11Windows>()),
+    : console_(&console), storedPreferences_(preferencesFile(invocation.preferencesFile), {},
+                                             SqlitePreferencesDomain::interactive),
+      preferences_(storedPreferences_), textServices_(invocation.localeIdentifier),
+      windows_(std::make_shared<X11Windows>()),
       accessibilityBus_(
           std::make_shared<AtspiBus>([windows = windows_] { return windows->accessibilityBusAddress(); })),
       workspace_(std::make_shared<LinuxWorkspace>(
@@ -100,6 +101,7 @@ Platform ResidentProgram::platform() {
                     return panel;
                 },
             .now = currentTime,
+            .uptime = currentUptime,
             .openURL = [this](const Url& url) { openURL(url.text()); },
             .fileExists = fileExists,
             .localized = localizedByQt(),

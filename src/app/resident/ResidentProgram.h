@@ -32,6 +32,7 @@
 #include "platform/qt/ViewEngine.h"
 #include "settings/SettingsWindowController.h"
 #include "settings/WindowMenu.h"
+#include "stores/LastKnownPreferences.h"
 #include "support/TextServices.h"
 
 namespace tovrel {
@@ -64,7 +65,8 @@ class ResidentProgram {
 
     // In the order in which they need each other; they end in the opposite one.
     const Console* console_;
-    SqlitePreferencesDomain preferences_;
+    SqlitePreferencesDomain storedPreferences_;
+    LastKnownPreferences preferences_;
     TextServices textServices_;
     std::shared_ptr<X11Windows> windows_;
     std::shared_ptr<AtspiBus> accessibilityBus_;

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <filesystem>
+#include <stdexcept>
 
 #include "platform/linux/FileDescriptor.h"
+#include "platform/linux/LockPatience.h"
 
 namespace tovrel {
 
@@ -12,10 +14,16 @@ class DirectoryLock {
   public:
     enum class Kind { shared, exclusive };
 
-    /// Waits up to five seconds for other processes, then throws std::runtime_error. A directory that is
-    /// missing or that cannot be locked (some network file systems) is not locked: going without is better
-    /// than going without preferences.
-    DirectoryLock(const std::filesystem::path& directory, Kind kind);
+    /// Another process holds the lock.
+    class Held : public std::runtime_error {
+      public:
+        using std::runtime_error::runtime_error;
+    };
+
+    /// Waits for other processes as long as the patience lasts, then throws Held. A directory that is missing
+    /// or that cannot be locked (some network file systems) is not locked: going without is better than going
+    /// without preferences.
+    DirectoryLock(const std::filesystem::path& directory, Kind kind, LockPatience& patience);
 
   private:
     FileDescriptor descriptor_;

@@ -1,8 +1,8 @@
 #include "platform/linux/SqliteConnection.h"
 
-#include <system_error>
-
 #include <sqlite3.h>
+
+#include "platform/linux/SystemCallFailure.h"
 
 namespace tovrel::sqlite {
 namespace {
@@ -29,23 +29,29 @@ bool Error::isMoved() const {
     return code_ == SQLITE_READONLY_DBMOVED;
 }
 
-std::string Error::reason() const {
+PreferencesFailure Error::failure() const {
     switch (primaryCode(code_)) {
     case SQLITE_FULL:
-        return "the disk is full";
+        return {PreferencesObstacle::noRoom, "the disk is full"};
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return "another program keeps it locked";
+        return {PreferencesObstacle::locked, "another program keeps it locked"};
     case SQLITE_READONLY:
-        return code_ == SQLITE_READONLY_ROLLBACK ? "an interrupted change must be undone, but it is read-only"
-                                                 : "it is read-only";
+        return {PreferencesObstacle::notPermitted,
+                code_ == SQLITE_READONLY_ROLLBACK
+                    ? "an interrupted change must be undone, but it is read-only"
+                    : "it is read-only"};
     case SQLITE_CANTOPEN:
     case SQLITE_IOERR:
     case SQLITE_PERM:
-        return systemError_ != 0 ? std::generic_category().message(systemError_) : what();
+        if (systemError_ != 0) {
+            return systemCallFailure(systemError_);
+        }
+        break;
     default:
-        return what();
+        break;
     }
+    return {PreferencesObstacle::other, what()};
 }
 
 Statement::Statement(Connection& connection, const char* sql) : connection_(connection.handle()) {
@@ -121,7 +127,7 @@ void Statement::Finalize::operator()(sqlite3_stmt* statement) const {
     sqlite3_finalize(statement);
 }
 
-Connection::Connection(const std::filesystem::path& file, std::chrono::milliseconds lockPatience) {
+Connection::Connection(const std::filesystem::path& file, LockPatience& patience) {
     constexpr int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
     sqlite3* connection = nullptr;
     const int code = sqlite3_open_v2(file.c_str(), &connection, flags, nullptr);
@@ -132,7 +138,10 @@ Connection::Connection(const std::filesystem::path& file, std::chrono::milliseco
         }
         throwError(connection, code);
     }
-    sqlite3_busy_timeout(connection, static_cast<int>(lockPatience.count()));
+    const auto wait = [](void* context, int /*earlierWaits*/) {
+        return static_cast<int>(static_cast<LockPatience*>(context)->waitAMoment());
+    };
+    sqlite3_busy_handler(connection, wait, &patience);
     // The file may come from anywhere: nothing in its schema is to run functions on our behalf.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);

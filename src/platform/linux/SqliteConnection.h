@@ -1,12 +1,14 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include "platform/PreferencesDomain.h"
+#include "platform/linux/LockPatience.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -28,7 +30,7 @@ class Error : public std::runtime_error {
     [[nodiscard]] bool isMoved() const;
 
     /// What went wrong, in a user's terms: "the disk is full".
-    [[nodiscard]] std::string reason() const;
+    [[nodiscard]] PreferencesFailure failure() const;
 
   private:
     int code_;
@@ -73,8 +75,8 @@ class Statement {
 class Connection {
   public:
     /// Opens an existing file for writing if that is allowed, else for reading; creates nothing. A lock held
-    /// by another process is waited for so long at each statement.
-    Connection(const std::filesystem::path& file, std::chrono::milliseconds lockPatience);
+    /// by another process is waited for as long as the patience lasts, which must outlive the connection.
+    Connection(const std::filesystem::path& file, LockPatience& patience);
 
     /// Runs a statement to its end.
     void execute(const char* sql);

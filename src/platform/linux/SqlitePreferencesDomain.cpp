@@ -9,6 +9,7 @@
 
 #include "platform/linux/DirectoryLock.h"
 #include "platform/linux/DurableFiles.h"
+#include "platform/linux/SystemCallFailure.h"
 
 namespace tovrel {
 namespace {
@@ -17,6 +18,35 @@ using preferences_schema::State;
 
 /// The open file is damaged and is to be set aside.
 class Damaged : public std::exception {};
+
+/// What is there is sound, and is not to be touched.
+class Refused : public std::runtime_error {
+  public:
+    Refused(PreferencesObstacle obstacle, const std::string& reason)
+        : std::runtime_error(reason), obstacle_(obstacle) {}
+
+    [[nodiscard]] PreferencesObstacle obstacle() const { return obstacle_; }
+
+  private:
+    PreferencesObstacle obstacle_;
+};
+
+/// The failure that the exception being handled stands for.
+PreferencesFailure failureOfException() {
+    try {
+        throw;
+    } catch (const sqlite::Error& error) {
+        return error.failure();
+    } catch (const Refused& refused) {
+        return {refused.obstacle(), refused.what()};
+    } catch (const DirectoryLock::Held& held) {
+        return {PreferencesObstacle::locked, held.what()};
+    } catch (const std::system_error& error) {
+        return systemCallFailure(error.code().value());
+    } catch (const std::exception& error) {
+        return {PreferencesObstacle::other, error.what()};
+    }
+}
 
 /// Symbolic links resolved, so that all processes lock one directory and a set-aside file stays in it.
 std::filesystem::path resolved(const std::filesystem::path& file) {
@@ -66,7 +96,7 @@ void store(sqlite::Connection& connection, const std::string& key, const Prefere
 } // namespace
 
 SqlitePreferencesDomain::SqlitePreferencesDomain(const std::filesystem::path& file, Reporter report,
-                                                 std::chrono::milliseconds lockPatience)
+                                                 const LockPatience::Terms& lockPatience)
     : file_(resolved(file)), report_(std::move(report)), lockPatience_(lockPatience) {
     if (!report_) {
         report_ = [](const std::string& line) { std::cerr << "tovrel: " << line << '\n'; };
@@ -79,7 +109,7 @@ std::optional<PreferenceValue> SqlitePreferencesDomain::value(const std::string&
     if (read(look)) {
         unreadKeys_.erase(key);
     } else {
-        unreadKeys_.insert(key);
+        unreadKeys_.insert_or_assign(key, lastFailure_.obstacle);
     }
     return found;
 }
@@ -103,8 +133,8 @@ std::vector<std::pair<std::string, PreferenceValue>> SqlitePreferencesDomain::al
 
 bool SqlitePreferencesDomain::set(const std::string& key, const PreferenceValue& value) {
     return write([&](sqlite::Connection& connection) {
-        if (unreadKeys_.contains(key)) {
-            throw std::runtime_error("the value under \"" + key + "\" could not be read, so it is kept");
+        if (const auto unread = unreadKeys_.find(key); unread != unreadKeys_.end()) {
+            throw Refused(unread->second, "the value under \"" + key + "\" could not be read, so it is kept");
         }
         store(connection, key, value);
     });
@@ -132,7 +162,7 @@ bool SqlitePreferencesDomain::remove(const std::string& key) {
 
 std::uint64_t SqlitePreferencesDomain::revision() {
     if (!attempt(Access::read, [this] {
-            const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::shared);
+            const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::shared, lockPatience_);
             bringUpToDate();
         })) {
         ++revision_; // what cannot be looked at may have changed
@@ -143,7 +173,7 @@ std::uint64_t SqlitePreferencesDomain::revision() {
 /// Runs the operation on a database with a table; on none, or an empty one, there is nothing to read.
 bool SqlitePreferencesDomain::read(const Operation& operation) {
     lastReadSucceeded_ = attempt(Access::read, [&] {
-        const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::shared);
+        const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::shared, lockPatience_);
         if (bringUpToDate()) {
             operation();
         }
@@ -155,7 +185,7 @@ bool SqlitePreferencesDomain::read(const Operation& operation) {
 bool SqlitePreferencesDomain::write(const std::function<void(sqlite::Connection&)>& change) {
     return attempt(Access::write, [&] {
         files::createPrivateDirectory(file_.parent_path());
-        const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::shared);
+        const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::shared, lockPatience_);
         bringUpToDate();
         writeLocked(change);
     });
@@ -185,8 +215,9 @@ void SqlitePreferencesDomain::writeLocked(const std::function<void(sqlite::Conne
 /// Runs the operation. Damage that it meets is set aside and the operation run again on what is there then;
 /// any other failure is reported, and the file opened afresh by the next operation.
 bool SqlitePreferencesDomain::attempt(Access access, const Operation& operation) {
+    lockPatience_.beginOperation();
     constexpr int attempts = 5; // others may damage or replace the file meanwhile, but not for ever
-    std::string reason = "it is damaged again and again";
+    PreferencesFailure failure{PreferencesObstacle::other, "it is damaged again and again"};
     for (int i = 0; i < attempts; ++i) {
         bool isDamaged = false;
         try {
@@ -197,25 +228,26 @@ bool SqlitePreferencesDomain::attempt(Access access, const Operation& operation)
         } catch (const sqlite::Error& error) {
             isDamaged = error.isDamage();
             if (!isDamaged && !error.isMoved()) {
-                reason = error.reason();
+                failure = failureOfException();
                 break;
             }
-        } catch (const std::runtime_error& error) {
-            reason = error.what();
+        } catch (const std::runtime_error&) {
+            failure = failureOfException();
             break;
         }
         if (isDamaged) {
             try {
                 setDamagedFileAside();
-            } catch (const std::runtime_error& error) {
-                reason = std::string("it is damaged and cannot be set aside: ") + error.what();
+            } catch (const std::runtime_error&) {
+                failure = failureOfException();
+                failure.reason = "it is damaged and cannot be set aside: " + failure.reason;
                 break;
             }
         }
         close();
     }
     close();
-    reportFailure(access, reason);
+    noteFailure(access, failure);
     return false;
 }
 
@@ -229,7 +261,7 @@ bool SqlitePreferencesDomain::open() {
         throw std::system_error(errno, std::generic_category());
     }
     if (!S_ISREG(status.st_mode)) {
-        throw std::runtime_error("it is not a regular file");
+        throw Refused(PreferencesObstacle::notAFile, "it is not a regular file");
     }
     sqlite::Connection connection(file_, lockPatience_);
     state_ = State::damaged;
@@ -283,16 +315,16 @@ void SqlitePreferencesDomain::requireUsable() const {
     case State::current:
         return;
     case State::newer:
-        throw std::runtime_error("a later version of this program wrote it");
+        throw Refused(PreferencesObstacle::laterVersion, "a later version of this program wrote it");
     case State::foreign:
-        throw std::runtime_error("it is the database of another program");
+        throw Refused(PreferencesObstacle::foreign, "it is the database of another program");
     case State::damaged:
         throw Damaged();
     }
 }
 
 void SqlitePreferencesDomain::setDamagedFileAside() {
-    const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::exclusive);
+    const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::exclusive, lockPatience_);
     // While the damaged file is held open nothing else can have its inode: whatever has taken its place on
     // the path is another file, put there by a process that was faster.
     if (!connection_ || connection_->hasMoved()) {
@@ -305,10 +337,11 @@ void SqlitePreferencesDomain::setDamagedFileAside() {
             name.filename().string() + " and all preferences start afresh");
 }
 
-void SqlitePreferencesDomain::reportFailure(Access access, const std::string& reason) {
-    if (reportedReasons_.insert(reason).second) {
+void SqlitePreferencesDomain::noteFailure(Access access, const PreferencesFailure& failure) {
+    lastFailure_ = failure;
+    if (reportedReasons_.insert(failure.reason).second) {
         report_(std::string("cannot ") + (access == Access::read ? "read" : "write") +
-                " the preferences in " + file_.string() + ": " + reason);
+                " the preferences in " + file_.string() + ": " + failure.reason);
     }
 }
 

@@ -3,10 +3,12 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <optional>
 #include <set>
 
 #include "platform/PreferencesDomain.h"
+#include "platform/linux/LockPatience.h"
 #include "platform/linux/PreferencesSchema.h"
 #include "platform/linux/SqliteConnection.h"
 
@@ -35,15 +37,18 @@ class SqlitePreferencesDomain : public PreferencesDomain {
     /// Receives one line, without a line break, for each event worth telling the user.
     using Reporter = std::function<void(const std::string&)>;
 
-    /// Of a command that is run by itself, which may wait for another process's lock.
-    static constexpr std::chrono::milliseconds unhurriedPatience{5000};
-    /// Of a program whose user waits for the next picture.
-    static constexpr std::chrono::milliseconds interactivePatience{1000};
+    /// Of a command that is run by itself: in each operation it may wait for another process's lock.
+    static constexpr LockPatience::Terms unhurried{std::chrono::seconds(5), {}};
+    /// Of a program whose user waits for the next picture: the palette opens after a dozen reads in well
+    /// under a second, and the sum of its waits must stay unnoticed.
+    static constexpr LockPatience::Terms interactive{std::chrono::milliseconds(100), std::chrono::seconds(1)};
 
-    /// Nothing is opened before the first operation. A lock that another process holds is waited for during
-    /// `lockPatience`. Reports go to standard error unless a reporter is given.
+    /// Nothing is opened before the first operation. Reports go to standard error unless a reporter is given.
     explicit SqlitePreferencesDomain(const std::filesystem::path& file, Reporter report = {},
-                                     std::chrono::milliseconds lockPatience = unhurriedPatience);
+                                     const LockPatience::Terms& lockPatience = unhurried);
+    ~SqlitePreferencesDomain() override = default;
+    SqlitePreferencesDomain(const SqlitePreferencesDomain&) = delete;
+    SqlitePreferencesDomain& operator=(const SqlitePreferencesDomain&) = delete;
 
     [[nodiscard]] std::optional<PreferenceValue> value(const std::string& key) override;
     bool set(const std::string& key, const PreferenceValue& value) override;
@@ -53,6 +58,7 @@ class SqlitePreferencesDomain : public PreferencesDomain {
     /// Costs some ten system calls, whatever the file's size.
     [[nodiscard]] std::uint64_t revision() override;
     [[nodiscard]] bool lastReadSucceeded() const override { return lastReadSucceeded_; }
+    [[nodiscard]] PreferencesFailure lastFailure() const override { return lastFailure_; }
 
   private:
     using Operation = std::function<void()>;
@@ -68,17 +74,19 @@ class SqlitePreferencesDomain : public PreferencesDomain {
     void requireUsable() const;
     void writeLocked(const std::function<void(sqlite::Connection&)>& change);
     void setDamagedFileAside();
-    void reportFailure(Access access, const std::string& reason);
+    void noteFailure(Access access, const PreferencesFailure& failure);
 
     std::filesystem::path file_;
     Reporter report_;
-    std::chrono::milliseconds lockPatience_;
+    LockPatience lockPatience_;
     std::optional<sqlite::Connection> connection_;
     preferences_schema::State state_ = preferences_schema::State::empty; ///< Of `connection_`.
     std::int64_t dataVersion_ = 0; ///< Of `connection_`; SQLite changes it with other connections' commits.
     std::uint64_t revision_ = 0;
     bool lastReadSucceeded_ = true;
-    std::set<std::string> unreadKeys_; ///< Keys whose last read failed.
+    PreferencesFailure lastFailure_;
+    /// Keys whose last read failed, with what stood in the way.
+    std::map<std::string, PreferencesObstacle> unreadKeys_;
     std::set<std::string> reportedReasons_;
 };
 

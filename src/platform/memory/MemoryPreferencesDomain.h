@@ -16,6 +16,7 @@ class MemoryPreferencesDomain : public PreferencesDomain {
     [[nodiscard]] std::vector<std::pair<std::string, PreferenceValue>> all() override;
     [[nodiscard]] std::uint64_t revision() override { return revision_; }
     [[nodiscard]] bool lastReadSucceeded() const override { return true; }
+    [[nodiscard]] PreferencesFailure lastFailure() const override { return {}; }
 
   private:
     std::map<std::string, PreferenceValue> values_;

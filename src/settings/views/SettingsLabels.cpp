@@ -56,6 +56,16 @@ constexpr std::array<const char*, allAppBehaviorRules.size()> behaviorLabels{
     QT_TRANSLATE_NOOP("SettingsLabels", "Enabled"), QT_TRANSLATE_NOOP("SettingsLabels", "Disabled"),
     QT_TRANSLATE_NOOP("SettingsLabels", "Auto")};
 
+/// In declaration order of PreferencesObstacle, except for its last one.
+constexpr std::array<const char*, static_cast<std::size_t>(PreferencesObstacle::other)> obstacleSentences{
+    QT_TRANSLATE_NOOP("SettingsLabels", "Another program keeps the preferences locked. Try again."),
+    QT_TRANSLATE_NOOP("SettingsLabels", "There is no room left on the disk for the preferences."),
+    QT_TRANSLATE_NOOP("SettingsLabels", "You are not allowed to change the file of the preferences."),
+    QT_TRANSLATE_NOOP("SettingsLabels",
+                      "A later version of Tovrel wrote the preferences, so they are left alone."),
+    QT_TRANSLATE_NOOP("SettingsLabels", "Another program's file is in the place of the preferences."),
+    QT_TRANSLATE_NOOP("SettingsLabels", "Something that is no file is in the place of the preferences.")};
+
 /// In declaration order of MenuBlacklistMode.
 constexpr std::array<const char*, allMenuBlacklistModes.size()> modeLabels{
     QT_TRANSLATE_NOOP("SettingsLabels", "Hide Item Only"),
@@ -95,6 +105,12 @@ QString subtitle(SettingsTab tab) {
 
 QString badge(SettingsTab tab) {
     return translated(of(tabTexts, tab).badge);
+}
+
+QString sentence(const PreferencesFailure& failure) {
+    const auto index = static_cast<std::size_t>(failure.obstacle);
+    return index < obstacleSentences.size() ? translated(obstacleSentences[index])
+                                            : QString::fromStdString(failure.reason);
 }
 
 const char* symbol(CustomCommandKind kind) {

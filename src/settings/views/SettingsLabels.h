@@ -10,6 +10,7 @@
 #include "SettingsRowsModel.h"
 #include "model/CustomCommand.h"
 #include "model/Rules.h"
+#include "platform/PreferencesDomain.h"
 #include "settings/SettingsTab.h"
 
 /// How the settings name what there is to choose from, in the user's language.
@@ -21,6 +22,9 @@ QString label(CustomCommandKind kind);
 QString label(SettingsTab tab);
 QString subtitle(SettingsTab tab);
 QString badge(SettingsTab tab);
+
+/// Why a change could not be stored; what nobody thought of is said in the system's words.
+QString sentence(const PreferencesFailure& failure);
 
 const char* symbol(CustomCommandKind kind);
 const char* symbol(SettingsTab tab);

@@ -15,6 +15,7 @@ QtObject {
     readonly property color dangerTint: "#fdebe5"
     readonly property color warning: "#a86a0b"
     readonly property color warningTint: "#fff0cc"
+    readonly property color warningBorder: "#40a86a0b"
     readonly property color card: "#fffdf6"
     readonly property color cardBorder: "#26806b4a"
     readonly property color row: "#fbf5e6"

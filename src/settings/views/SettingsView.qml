@@ -101,11 +101,23 @@ FocusScope {
                 }
             }
         }
+        SettingsNotice {
+            id: notice
+
+            objectName: "unstoredChange"
+            x: header.x
+            width: header.width
+            anchors.top: header.bottom
+            anchors.topMargin: 10
+            visible: view.settings.unstoredChange !== ""
+            title: qsTr("The last change was not stored")
+            text: view.settings.unstoredChange
+        }
         Loader {
             id: page
 
             x: 220
-            anchors.top: header.bottom
+            anchors.top: notice.visible ? notice.bottom : header.bottom
             anchors.topMargin: 10
             anchors.bottom: parent.bottom
             width: view.width - page.x

@@ -11,7 +11,9 @@ SettingsViewAdapter::SettingsViewAdapter(SettingsViewState& state, RecorderAdapt
     : QObject(parent), state_(&state), general_(state, recorder, surroundings.openURL),
       appRules_(state, surroundings.workspace, surroundings.textServices), menuFilter_(state),
       commands_(state), history_(state),
-      tabSelection_(state.selectedTab.subscribe([this] { Q_EMIT selectedTabChanged(); })) {
+      tabSelection_(state.selectedTab.subscribe([this] { Q_EMIT selectedTabChanged(); })),
+      unstoredChange_(
+          state.viewModel().unstoredChange().subscribe([this] { Q_EMIT unstoredChangeChanged(); })) {
     std::vector<SettingsRow> tabs;
     for (const SettingsTab tab : allSettingsTabs) {
         const QString label = settings_labels::label(tab);
@@ -35,6 +37,11 @@ QString SettingsViewAdapter::tabSubtitle() const {
 
 QString SettingsViewAdapter::tabBadge() const {
     return settings_labels::badge(state_->selectedTab.get());
+}
+
+QString SettingsViewAdapter::unstoredChange() const {
+    const auto& failure = state_->viewModel().unstoredChange().get();
+    return failure ? settings_labels::sentence(*failure) : QString();
 }
 
 void SettingsViewAdapter::selectTab(int index) {

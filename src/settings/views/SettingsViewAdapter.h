@@ -27,6 +27,7 @@ class SettingsViewAdapter : public QObject {
     Q_PROPERTY(QString tabLabel READ tabLabel NOTIFY selectedTabChanged FINAL)
     Q_PROPERTY(QString tabSubtitle READ tabSubtitle NOTIFY selectedTabChanged FINAL)
     Q_PROPERTY(QString tabBadge READ tabBadge NOTIFY selectedTabChanged FINAL)
+    Q_PROPERTY(QString unstoredChange READ unstoredChange NOTIFY unstoredChangeChanged FINAL)
     Q_PROPERTY(tovrel::GeneralSettings* general READ general CONSTANT FINAL)
     Q_PROPERTY(tovrel::AppRulesSettings* appRules READ appRules CONSTANT FINAL)
     Q_PROPERTY(tovrel::MenuFilterSettings* menuFilter READ menuFilter CONSTANT FINAL)
@@ -51,6 +52,8 @@ class SettingsViewAdapter : public QObject {
     [[nodiscard]] QString tabLabel() const;
     [[nodiscard]] QString tabSubtitle() const;
     [[nodiscard]] QString tabBadge() const;
+    /// Why the last change could not be stored, as a sentence; empty when it could.
+    [[nodiscard]] QString unstoredChange() const;
     [[nodiscard]] GeneralSettings* general() { return &general_; }
     [[nodiscard]] AppRulesSettings* appRules() { return &appRules_; }
     [[nodiscard]] MenuFilterSettings* menuFilter() { return &menuFilter_; }
@@ -62,6 +65,7 @@ class SettingsViewAdapter : public QObject {
 
   Q_SIGNALS:
     void selectedTabChanged();
+    void unstoredChangeChanged();
 
   private:
     SettingsViewState* state_;
@@ -72,6 +76,7 @@ class SettingsViewAdapter : public QObject {
     CustomCommandsSettings commands_;
     HistorySettings history_;
     Subscription tabSelection_;
+    Subscription unstoredChange_;
 };
 
 } // namespace tovrel

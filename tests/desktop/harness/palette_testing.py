@@ -18,8 +18,8 @@ class PaletteTestCase(DesktopTestCase):
         self.addCleanup(self.keyboard.close)
         self.resident = None
 
-    def start_resident(self, **environment):
-        self.resident = Resident(self.desktop, self.directory, environment)
+    def start_resident(self, prints_to=None, **environment):
+        self.resident = Resident(self.desktop, self.directory, environment, prints_to=prints_to)
         self.addCleanup(self.resident.end)
         return self.resident
 

@@ -1,6 +1,7 @@
 """The resident program on a private desktop, and its palette as a screen reader sees it."""
 
 import subprocess
+from pathlib import Path
 
 from .program import Program
 from .waiting import wait_until
@@ -9,14 +10,15 @@ HOT_KEY = ("ctrl", "shift", "p")
 
 
 class Resident:
-    """The program as it was started without a verb. What it prints goes to `output` and `errors`."""
+    """The program as it was started without a verb. What it prints goes to `output` and `errors`, unless a
+    device is named that all of it goes to."""
 
-    def __init__(self, desktop, directory, environment=None, program=None):
+    def __init__(self, desktop, directory, environment=None, program=None, prints_to=None):
         self._desktop = desktop
         self.environment = desktop.environment | (environment or {})
         self._program = Program(self.environment, program)
-        self._output = directory / "resident-output.txt"
-        self._errors = directory / "resident-errors.txt"
+        self._output = Path(prints_to or directory / "resident-output.txt")
+        self._errors = Path(prints_to or directory / "resident-errors.txt")
         with open(self._output, "wb") as output, open(self._errors, "wb") as errors:
             self.process = subprocess.Popen([self._program.path], env=self.environment,
                                             stdin=subprocess.DEVNULL, stdout=output, stderr=errors)
@@ -32,7 +34,7 @@ class Resident:
 
     @property
     def errors(self):
-        return self._errors.read_text(encoding="utf-8")
+        return self._errors.read_text(encoding="utf-8") if self._errors.is_file() else ""
 
     def is_ready(self):
         if self.process.poll() is not None:

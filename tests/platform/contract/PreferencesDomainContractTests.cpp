@@ -7,6 +7,7 @@
 #include "platform/PreferencesDomain.h"
 #include "platform/linux/SqlitePreferencesDomain.h"
 #include "platform/memory/MemoryPreferencesDomain.h"
+#include "stores/LastKnownPreferences.h"
 #include "support/TemporaryDirectory.h"
 
 namespace tovrel {
@@ -20,6 +21,13 @@ struct SqliteDomain {
     testing_support::TemporaryDirectory directory;
     SqlitePreferencesDomain domain{directory.path() / "preferences.sqlite",
                                    [](const std::string& line) { ADD_FAILURE() << line; }};
+};
+
+/// What the resident program puts before either of them.
+template <typename Stored>
+struct LastKnown {
+    Stored stored;
+    LastKnownPreferences domain{stored.domain};
 };
 
 std::string everyByte() {
@@ -39,14 +47,15 @@ class PreferencesDomainContract : public testing::Test {
     Implementation implementation_;
 };
 
-using Implementations = testing::Types<MemoryDomain, SqliteDomain>;
+using Implementations =
+    testing::Types<MemoryDomain, SqliteDomain, LastKnown<MemoryDomain>, LastKnown<SqliteDomain>>;
 
 class ImplementationNames {
   public:
     template <typename Implementation>
-    static std::string
-    GetName(int /*index*/) { // NOLINT(readability-identifier-naming): a name of the framework
-        return std::is_same_v<Implementation, MemoryDomain> ? "Memory" : "Sqlite";
+    static std::string GetName(int index) { // NOLINT(readability-identifier-naming): a name of the framework
+        constexpr std::array names{"Memory", "Sqlite", "LastKnownOfMemory", "LastKnownOfSqlite"};
+        return names.at(static_cast<std::size_t>(index));
     }
 };
 

@@ -1,16 +1,17 @@
 #include "platform/linux/SqlitePreferencesDomain.h"
 
-#include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <gmock/gmock.h>
 #include <sqlite3.h>
+#include <sys/file.h>
 #include <sys/fsuid.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "platform/linux/FileDescriptor.h"
 #include "platform/linux/PreferencesFile.h"
 #include "platform/linux/PreferencesFixture.h"
 
@@ -140,6 +141,7 @@ TEST_F(SqlitePreferences, FilesOfALaterVersionOrAnotherProgramAreReportedAndNeve
     EXPECT_FALSE(open.set("key", false));
     EXPECT_FALSE(open.remove("key"));
     EXPECT_THAT(reports, ElementsAre(HasSubstr("a later version of this program wrote it")));
+    EXPECT_EQ(open.lastFailure().obstacle, PreferencesObstacle::laterVersion);
     EXPECT_EQ(bytesOf(file()), newer);
 
     std::filesystem::remove(file());
@@ -161,6 +163,7 @@ TEST_F(SqlitePreferences, WhatCannotBeOpenedIsReportedOncePerKindAndLeftAlone) {
     EXPECT_FALSE(onDirectory.lastReadSucceeded());
     EXPECT_FALSE(onDirectory.set("key", true));
     EXPECT_THAT(reports, ElementsAre(HasSubstr("it is not a regular file")));
+    EXPECT_EQ(onDirectory.lastFailure().obstacle, PreferencesObstacle::notAFile);
     std::filesystem::remove(file());
 
     // What made the file unusable is gone: the next operation goes on.
@@ -201,6 +204,7 @@ TEST_F(SqlitePreferences, ReadOnlyFilesAndDirectoriesAreReadAndKeepTheirValues) 
         EXPECT_EQ(fresh.value("key"), PreferenceValue(Text("kept")));
         EXPECT_EQ(fresh.all().size(), 1U);
         EXPECT_THAT(reports, ElementsAre(HasSubstr("cannot write the preferences")));
+        EXPECT_EQ(fresh.lastFailure().obstacle, PreferencesObstacle::notPermitted);
     }
     EXPECT_THAT(otherFiles(), IsEmpty());
 
@@ -237,8 +241,34 @@ TEST_F(SqlitePreferences, ALockHeldByAnotherProgramCostsTheWriteButNotTheValue) 
                 ElementsAre(HasSubstr("another program keeps it locked"), HasSubstr("so it is kept")));
 }
 
+TEST_F(SqlitePreferences, EveryOperationGivesUpOnALockWhenPatienceIsAtItsEnd) {
+    ASSERT_TRUE(makeDomain().set("key", Text("kept")));
+    SqlitePreferencesDomain domain(file(), [this](const std::string& line) { reports.push_back(line); }, {});
+    EXPECT_EQ(domain.value("key"), PreferenceValue(Text("kept")));
+    const auto expectLocked = [&] {
+        EXPECT_EQ(domain.value("key"), std::nullopt);
+        EXPECT_FALSE(domain.set("other", true));
+        EXPECT_FALSE(domain.setAll({{"other", true}}));
+        EXPECT_FALSE(domain.remove("key"));
+        EXPECT_TRUE(domain.all().empty());
+        EXPECT_NE(domain.revision(), domain.revision()) << "what cannot be looked at may have changed";
+        EXPECT_EQ(domain.lastFailure().obstacle, PreferencesObstacle::locked);
+    };
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(file().c_str(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+    expectLocked();
+    sqlite3_close(other);
+    const FileDescriptor locked(open(directory().c_str(), O_RDONLY | O_DIRECTORY));
+    ASSERT_EQ(flock(locked.get(), LOCK_EX), 0);
+    expectLocked();
+    ASSERT_EQ(flock(locked.get(), LOCK_UN), 0);
+    EXPECT_EQ(domain.value("key"), PreferenceValue(Text("kept")));
+    EXPECT_TRUE(domain.remove("key"));
+}
+
 /// Fills up what is left, and expects a domain to keep its value, say so once, and go on when there is room.
-void expectAFullDiskToBeSurvived(const std::filesystem::path& file, const char* reason,
+void expectAFullDiskToBeSurvived(const std::filesystem::path& file,
                                  const std::function<void(bool isFull)>& setFull) {
     std::vector<std::string> reports;
     SqlitePreferencesDomain domain(file, [&](const std::string& line) { reports.push_back(line); });
@@ -250,28 +280,18 @@ void expectAFullDiskToBeSurvived(const std::filesystem::path& file, const char* 
     EXPECT_FALSE(domain.setAll({{"small", true}, {"large", large}}));
     EXPECT_EQ(domain.value("key"), PreferenceValue(Text("kept")));
     EXPECT_EQ(domain.all().size(), 1U);
-    EXPECT_THAT(reports, ElementsAre(HasSubstr(reason)));
+    EXPECT_EQ(domain.lastFailure(), (PreferencesFailure{PreferencesObstacle::noRoom, "the disk is full"}));
+    EXPECT_THAT(reports, ElementsAre(HasSubstr("the disk is full")));
     setFull(false);
     EXPECT_TRUE(domain.set("key", large));
     EXPECT_EQ(SqlitePreferencesDomain(file).value("key"), PreferenceValue(large));
-}
-
-TEST_F(SqlitePreferences, AFileSizeLimitKeepsTheOldValue) {
-    rlimit before{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
-    expectAFullDiskToBeSurvived(file(), "I/O error", [&](bool isFull) {
-        const rlimit limit{isFull ? rlim_t{100'000} : before.rlim_cur, before.rlim_max};
-        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    });
-    EXPECT_EQ(std::signal(SIGXFSZ, handlerBefore), SIG_IGN);
 }
 
 TEST_F(SqlitePreferences, AFullDiskKeepsTheOldValue) {
     if (mount("none", directory().c_str(), "tmpfs", 0, "size=4m,mode=0700") != 0) {
         GTEST_SKIP() << "mounting is not allowed here";
     }
-    expectAFullDiskToBeSurvived(file(), "the disk is full", [&](bool isFull) {
+    expectAFullDiskToBeSurvived(file(), [&](bool isFull) {
         const std::filesystem::path filler = directory() / "filler";
         if (isFull) {
             std::ofstream stream(filler, std::ios::binary);

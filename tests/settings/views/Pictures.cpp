@@ -33,6 +33,7 @@ class Pictures {
         drawFilledPages("filled");
         drawDialogs("");
         drawRecording();
+        drawNotices();
         LongTexts longTexts;
         QCoreApplication::installTranslator(&longTexts);
         drawFilledPages("long");
@@ -40,6 +41,19 @@ class Pictures {
     }
 
   private:
+    void drawNotices() {
+        stage_.stored.refusesWrites = true;
+        for (const PreferencesObstacle obstacle :
+             {PreferencesObstacle::locked, PreferencesObstacle::laterVersion, PreferencesObstacle::other}) {
+            stage_.stored.failure = {obstacle, "Input/output error"};
+            stage_.show(SettingsTab::appRules);
+            stage_.model().setDefaultBehavior(AppBehaviorRule::automatic);
+            save(QStringLiteral("notice-%1").arg(static_cast<int>(obstacle)));
+        }
+        stage_.stored.refusesWrites = false;
+        stage_.model().setShowCheckedStatus(true);
+    }
+
     void drawEmptyPages() {
         stage_.isTrusted = false;
         for (std::size_t i = 0; i < allSettingsTabs.size(); ++i) {

@@ -58,7 +58,8 @@ SettingsStage::SettingsStage(const char* locale)
 
 void SettingsStage::show(SettingsTab tab) {
     auto model = std::make_shared<SettingsViewModel>(
-        SettingsStores{rules, history, customCommands, paletteSettings, notifications},
+        SettingsStores{rules, history, customCommands, paletteSettings, notifications,
+                       preferences.unstoredChange()},
         SettingsProviders{.currentApplication = [this] { return application; },
                           .menuItems = [this] { return menuItems; },
                           .accessibilityPermission = [this] { return isTrusted; }});

@@ -11,13 +11,13 @@
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "platform/memory/MemoryHotKeyCenter.h"
-#include "platform/memory/MemoryPreferencesDomain.h"
 #include "platform/memory/MemoryUserInterface.h"
 #include "platform/memory/MemoryWorkspace.h"
 #include "platform/qt/QtSettingsWindow.h"
 #include "platform/qt/Translations.h"
 #include "platform/qt/ViewEngine.h"
 #include "settings/SettingsViewState.h"
+#include "stores/FailingPreferencesDomain.h"
 
 namespace tovrel {
 
@@ -57,7 +57,8 @@ class SettingsStage {
 
     TextServices textServices{"en_US"};
     Translations translations;
-    MemoryPreferencesDomain preferences;
+    FailingPreferencesDomain stored;
+    LastKnownPreferences preferences{stored};
     RulesStore rules{preferences, textServices};
     CommandHistoryStore history{preferences, "Tovrel.commandHistory", textServices};
     CustomCommandStore customCommands{preferences, "customCommands"};

@@ -120,6 +120,29 @@ TEST_F(SettingsViewTest, EmptyPagesSaySo) {
     EXPECT_TRUE(isSeen("save"));
 }
 
+TEST_F(SettingsViewTest, AChangeThatCannotBeStoredIsToldOverEveryPage) {
+    stage_.show();
+    stage_.stored.refusesWrites = true;
+    stage_.stored.failure = {PreferencesObstacle::laterVersion, "not shown"};
+    EXPECT_FALSE(isSeen("unstoredChange"));
+    click("showCheckedStatus");
+    ASSERT_TRUE(isSeen("unstoredChange"));
+    const QQuickItem* notice = stage_.find("unstoredChange");
+    EXPECT_EQ(notice->property("text").toString(),
+              "A later version of Tovrel wrote the preferences, so they are left alone.");
+    const QQuickItem* page = stage_.find("page");
+    EXPECT_GE(page->mapToScene({}).y(), notice->mapToScene({0, notice->height()}).y());
+    stage_.state().selectedTab.set(SettingsTab::commands);
+    EXPECT_TRUE(isSeen("unstoredChange"));
+
+    stage_.stored.failure = {PreferencesObstacle::other, "Input/output error"};
+    stage_.model().clearHistory();
+    EXPECT_EQ(notice->property("text").toString(), "Input/output error");
+    stage_.stored.refusesWrites = false;
+    stage_.model().clearHistory();
+    EXPECT_FALSE(isSeen("unstoredChange"));
+}
+
 TEST_F(SettingsViewTest, GeneralAndAppRulesReachTheStores) {
     haveFeatherPad();
     stage_.workspace.install({.bundleIdentifier = "org.example.web", .name = "Web", .icon = {}});
