@@ -9,6 +9,7 @@
 
 #include "platform/linux/DirectoryLock.h"
 #include "platform/linux/DurableFiles.h"
+#include "support/PrintableText.h"
 
 namespace tovrel {
 namespace {
@@ -69,7 +70,7 @@ SqlitePreferencesDomain::SqlitePreferencesDomain(const std::filesystem::path& fi
                                                  std::chrono::milliseconds lockPatience)
     : file_(resolved(file)), report_(std::move(report)), lockPatience_(lockPatience) {
     if (!report_) {
-        report_ = [](const std::string& line) { std::cerr << "tovrel: " << line << '\n'; };
+        report_ = [](const std::string& line) { std::cerr << "tovrel: " << printable(line) << '\n'; };
     }
 }
 
