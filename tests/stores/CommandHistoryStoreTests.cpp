@@ -157,6 +157,21 @@ TEST_F(CommandHistory, IsReadOncePerChangeAndNeverStale) {
     EXPECT_THAT(other.entries(), IsEmpty());
 }
 
+TEST_F(CommandHistory, AChangeWhileItIsReadIsSeenTheNextTime) {
+    class ChangingDomain : public MemoryPreferencesDomain {
+      public:
+        std::optional<PreferenceValue> value(const std::string& key) override {
+            auto before = MemoryPreferencesDomain::value(key);
+            set(key, PreferenceData{R"({"A": {"usageCount": 2, "isFavorite": false}})"}); // another process
+            return before;
+        }
+    } changing;
+    changing.set(storageKey, PreferenceData{R"({"A": {"usageCount": 1, "isFavorite": false}})"});
+    CommandHistoryStore reader(changing, storageKey, text);
+    EXPECT_EQ(reader.rankSignals("A").usageCount, 1);
+    EXPECT_EQ(reader.rankSignals("A").usageCount, 2);
+}
+
 TEST_F(CommandHistory, CountingBeyondTheLargestIntegerIsFatal) {
     putDocument(R"({"A": {"usageCount": 9223372036854775807, "isFavorite": false}})");
     EXPECT_DEATH(store.recordUse("A", {1}), "overflow");
