@@ -6,7 +6,7 @@ build_packages=(ca-certificates g++ cmake ninja-build pkg-config libicu-dev nloh
     libsystemd-dev libxcb1-dev libxcb-xkb-dev libxcb-xinput-dev libxcb-xtest0-dev libxkbcommon-dev
     libxkbcommon-x11-dev libcli11-dev qt6-base-dev qt6-declarative-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools qml6-module-qtquick
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript fonts-inter)
-desktop_packages=(at-spi2-core dbus xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core mousepad
+desktop_packages=(at-spi2-core dbus locales xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core mousepad
     util-linux python3 python3-gi gir1.2-glib-2.0 zsh)
 test_packages=(clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev libgtest-dev libgmock-dev libbenchmark-dev
     appmenu-registrar libatspi2.0-dev libxcb-damage0-dev libxcb-shm0-dev libxcb-res0-dev featherpad linguist-qt6

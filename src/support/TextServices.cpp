@@ -99,11 +99,16 @@ std::optional<std::vector<std::string_view>> simpleClusters(std::string_view tex
     return clusters;
 }
 
+/// Whether this is what ICU makes of "C", "POSIX", "C.UTF-8" and of no locale at all.
+bool isPosix(const icu::Locale& locale) {
+    return std::string_view(locale.getVariant()) == "POSIX" || std::string_view(locale.getLanguage()) == "c";
+}
+
 icu::Locale localeNamed(std::string_view identifier) {
-    if (identifier.empty()) {
-        return icu::Locale::getDefault();
-    }
-    return icu::Locale::createCanonical(std::string(identifier).c_str());
+    const icu::Locale locale = identifier.empty()
+                                   ? icu::Locale::getDefault()
+                                   : icu::Locale::createCanonical(std::string(identifier).c_str());
+    return isPosix(locale) ? icu::Locale::getRoot() : locale;
 }
 
 bool keepsDottedAndDotlessIApart(const icu::Locale& locale) {

@@ -16,7 +16,8 @@ namespace tovrel {
 class TextServices {
   public:
     /// For a locale such as "de_DE", "tr" or "sr-Latn"; an empty identifier takes the process environment's.
-    /// An unknown locale behaves as the root locale does.
+    /// An unknown locale behaves as the root locale does, and so do "C" and "POSIX", which say nothing about
+    /// the language: ICU would order their titles by ASCII.
     explicit TextServices(std::string_view localeIdentifier = {});
     ~TextServices();
     TextServices(const TextServices&) = delete;
