@@ -28,6 +28,12 @@ class TextServices {
     /// folding, in Turkish and Azerbaijani with the dotted and the dotless i kept apart.
     [[nodiscard]] std::string folded(std::string_view text) const;
 
+    /// As `folded`, without the locale's own rules: the I of "Insert" folds to i everywhere.
+    [[nodiscard]] std::string foldedByDefault(std::string_view text) const;
+
+    /// Whether the two foldings of the text can differ. Cheap.
+    [[nodiscard]] bool hasLocalFolding(std::string_view text) const;
+
     /// Unicode default lower-casing, the same in every locale.
     [[nodiscard]] std::string lowercased(std::string_view text) const;
 
