@@ -6,7 +6,7 @@ build_packages=(ca-certificates g++ cmake ninja-build pkg-config libicu-dev nloh
     libsystemd-dev libxcb1-dev libxcb-xkb-dev libxcb-xinput-dev libxcb-xtest0-dev libxkbcommon-dev
     libxkbcommon-x11-dev libcli11-dev qt6-base-dev qt6-declarative-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools qml6-module-qtquick
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript fonts-inter)
-desktop_packages=(at-spi2-core dbus xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core mousepad
+desktop_packages=(at-spi2-core dbus locales xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core mousepad
     util-linux python3 python3-gi gir1.2-glib-2.0 zsh)
 test_packages=(clang-14 clang-tidy-14 clang-format-14 libclang-rt-14-dev libgtest-dev libgmock-dev libbenchmark-dev
     appmenu-registrar libatspi2.0-dev libxcb-damage0-dev libxcb-shm0-dev libxcb-res0-dev featherpad linguist-qt6
@@ -61,14 +61,35 @@ quietly() {
     fi
 }
 
-# Configures a preset and builds the targets of it that are named, or all.
+# Configures a preset and builds the targets of it that are named, or all. The preset fuzz is a part of asan.
 build_preset() {
     local preset=$1 options=()
+    local configured=${preset/fuzz/asan}
     shift
     if command -v ccache >/dev/null; then
         options=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     fi
     heading "Building the preset $preset"
-    quietly "$root/build/$preset.log" cmake --preset "$preset" "${options[@]}"
+    quietly "$root/build/$preset.log" cmake --preset "$configured" "${options[@]}"
     quietly "$root/build/$preset.log" cmake --build --preset "$preset" "$@"
+}
+
+# Runs each fuzzer of the sanitized build for so many seconds. What it finds to be worth trying again is kept in the
+# build folder and used the next time.
+fuzz_all() {
+    local seconds=$1 fuzzer name kept log
+    for fuzzer in "$root"/build/asan/tests/fuzz/tovrel_fuzz_*; do
+        name=${fuzzer##*/tovrel_fuzz_}
+        kept=$root/build/fuzz/$name
+        log=$kept.log
+        mkdir -p "$kept"
+        if ! LSAN_OPTIONS="suppressions=$root/tests/leaks-of-libraries.txt:print_suppressions=0" "$fuzzer" \
+            -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1 \
+            -artifact_prefix="$kept.finding-" "$kept" "$root/tests/fuzz/corpus/$name" >"$log" 2>&1; then
+            tail -n 40 "$log" >&2
+            fail "$name has a finding; the input is kept as $kept.finding-* (all of its output: $log)"
+        fi
+        awk -v name="$name" '/stat::number_of_executed_units/ { inputs = $2 } /stat::average_exec_per_sec/ { rate = $2 }
+            END { printf "%-16s %9d inputs %7d a second\n", name, inputs, rate }' "$log"
+    done
 }

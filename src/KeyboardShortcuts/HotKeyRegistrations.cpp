@@ -8,6 +8,7 @@
 #include "KeyboardShortcuts/SymbolicText.h"
 #include "support/CheckedMath.h"
 #include "support/Fatal.h"
+#include "support/PrintableText.h"
 
 namespace tovrel {
 namespace {
@@ -79,7 +80,7 @@ std::optional<HotKeyHandle> HotKeyRegistrations::take(const Shortcut& shortcut, 
         const Text text = symbolicText(
             shortcut, [this](std::uint32_t keyCode) { return center_->characterForKeyCode(keyCode); },
             *textServices_);
-        *output_ << "Error registering hotkey " << text.utf8() << ": " << *error << std::endl;
+        *output_ << "Error registering hotkey " << printable(text.utf8()) << ": " << *error << std::endl;
         return std::nullopt;
     }
     return std::get<HotKeyHandle>(result);

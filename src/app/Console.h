@@ -9,8 +9,9 @@ namespace tovrel {
 
 /// How results for people are laid out.
 struct OutputStyle {
+    bool isTerminal = false; ///< Not a file or another program.
     bool hasColour = false;
-    std::optional<std::size_t> width; ///< Columns of the terminal; absent when it is none.
+    std::optional<std::size_t> width; ///< Columns of the terminal, where they are known.
 };
 
 /// The streams the program talks to.

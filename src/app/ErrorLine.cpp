@@ -1,11 +1,11 @@
 #include "app/ErrorLine.h"
 
-#include "app/TerminalText.h"
+#include "support/PrintableText.h"
 
 namespace tovrel {
 
 void printErrorLine(std::ostream& error, std::string_view message) {
-    error << "tovrel: " << terminal_text::printable(message) << '\n' << std::flush;
+    error << "tovrel: " << printable(message) << '\n' << std::flush;
 }
 
 } // namespace tovrel

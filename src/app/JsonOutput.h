@@ -3,17 +3,24 @@
 #include <ostream>
 
 #include "support/Json.h"
+#include "support/PrintableText.h"
 
 namespace tovrel {
 
-/// Prints an array as compact JSON, one element after the other, so that a long list is never in memory
+/// Prints a value as compact JSON that is safe to be looked at on a terminal.
+inline void printJson(std::ostream& out, const json::Value& value) {
+    out << printableJson(json::dump(value));
+}
+
+/// As printJson, an array: one element after the other, so that a long list is never in memory
 /// whole.
 template <typename Range, typename Encode>
 void printJsonArray(std::ostream& out, const Range& range, const Encode& encode) {
     out << '[';
     bool isFirst = true;
     for (const auto& element : range) {
-        out << (isFirst ? "" : ",") << json::dump(encode(element));
+        out << (isFirst ? "" : ",");
+        printJson(out, encode(element));
         isFirst = false;
     }
     out << ']';

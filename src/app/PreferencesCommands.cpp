@@ -8,8 +8,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "app/ErrorLine.h"
+#include "app/JsonOutput.h"
 #include "app/PreferenceValueJson.h"
-#include "support/Json.h"
 #include "support/Utf8.h"
 
 namespace tovrel::preferences_commands {
@@ -20,7 +21,7 @@ constexpr int failure = 1;
 constexpr int wrongUsage = 2;
 
 int report(std::ostream& error, int status, const std::string& what) {
-    error << "tovrel: " << what << '\n';
+    printErrorLine(error, what);
     return status;
 }
 
@@ -30,13 +31,14 @@ int finished(std::ostream& out, std::ostream& error) {
 }
 
 int print(const json::Value& value, std::ostream& out, std::ostream& error) {
-    out << json::dump(value) << '\n';
+    printJson(out, value);
+    out << '\n';
     return finished(out, error);
 }
 
 /// As a string of a JSON document: on one line and well formed, whatever the bytes are.
 std::string quoted(const std::string& bytes) {
-    return json::dump(json::toJson(Text(bytes)));
+    return printableJson(json::dump(json::toJson(Text(bytes))));
 }
 
 std::size_t sizeOf(const PreferenceValue& value) {
@@ -47,13 +49,9 @@ std::size_t sizeOf(const PreferenceValue& value) {
     return text != nullptr ? text->utf8().size() : sizeof(bool);
 }
 
-/// The key as it is shown in a column: quoted if a control character would break the line.
+/// The key as it is shown in a column: quoted if it holds more than there would be to see.
 std::string shownKey(const std::string& key) {
-    const bool isPlain =
-        !key.empty() && isWellFormedUtf8(key) && std::none_of(key.begin(), key.end(), [](char byte) {
-            return static_cast<unsigned char>(byte) < ' ' || byte == '\x7F';
-        });
-    return isPlain ? key : quoted(key);
+    return !key.empty() && printable(key) == key ? key : quoted(key);
 }
 
 std::size_t characterCount(std::string_view utf8) {
@@ -66,20 +64,23 @@ std::size_t characterCount(std::string_view utf8) {
 
 } // namespace
 
-int read(PreferencesDomain& domain, const std::string& key, bool asJson, std::ostream& out,
+int read(PreferencesDomain& domain, const std::string& key, ValueForm form, std::ostream& out,
          std::ostream& error) {
     const std::optional<PreferenceValue> value = domain.value(key);
     if (!value) {
         return domain.lastReadSucceeded() ? report(error, failure, "there is no value under " + quoted(key))
                                           : failure;
     }
-    if (asJson) {
+    if (form == ValueForm::json) {
         return print(toJson(*value), out, error);
     }
+    const auto shown = [form](const std::string& bytes) {
+        return form == ValueForm::terminal ? printableLines(bytes) : bytes;
+    };
     if (const auto* data = std::get_if<PreferenceData>(&*value)) {
-        out << data->bytes;
+        out << shown(data->bytes);
     } else if (const auto* text = std::get_if<Text>(&*value)) {
-        out << *text << '\n';
+        out << shown(text->utf8()) << '\n';
     } else {
         out << (std::get<bool>(*value) ? "true\n" : "false\n");
     }

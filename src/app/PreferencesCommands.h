@@ -12,10 +12,16 @@
 /// itself fails nothing more is written here, for the domain has already reported the reason.
 namespace tovrel::preferences_commands {
 
-/// `read KEY`: the value under the key, as the bytes they are (data) or as a line of text (a string, true or
-/// false). As JSON: {"type": "data"|"string"|"boolean", "value": …}; data that is not UTF-8 is Base64 and has
-/// a further member "encoding": "base64".
-int read(PreferencesDomain& domain, const std::string& key, bool asJson, std::ostream& out,
+/// How `read` shows a value.
+enum class ValueForm {
+    plain,    ///< Data as the bytes they are, a string, true or false as a line of text.
+    terminal, ///< The same with what could control a terminal made visible.
+    json
+};
+
+/// `read KEY`: the value under the key. As JSON: {"type": "data"|"string"|"boolean", "value": …}; data that
+/// is not UTF-8 is Base64 and has a further member "encoding": "base64".
+int read(PreferencesDomain& domain, const std::string& key, ValueForm form, std::ostream& out,
          std::ostream& error);
 
 /// The options of `write`, of which exactly one must be given.

@@ -2,13 +2,25 @@
 #include "app/Verbs.h"
 
 namespace tovrel::verbs {
+namespace {
+
+preferences_commands::ValueForm formOf(bool asJson, const OutputStyle& style) {
+    using preferences_commands::ValueForm;
+    if (asJson) {
+        return ValueForm::json;
+    }
+    return style.isTerminal ? ValueForm::terminal : ValueForm::plain;
+}
+
+} // namespace
 
 int preferences(const command_line::PreferencesArguments& arguments, bool asJson,
                 PreferencesDomain& preferences, const Console& console) {
     using command_line::PreferencesVerb;
     switch (arguments.verb) {
     case PreferencesVerb::read:
-        return preferences_commands::read(preferences, arguments.key, asJson, console.output, console.error);
+        return preferences_commands::read(preferences, arguments.key, formOf(asJson, console.style),
+                                          console.output, console.error);
     case PreferencesVerb::write:
         return preferences_commands::write(preferences, arguments.key, arguments.value, console.error);
     case PreferencesVerb::remove:

@@ -2,6 +2,7 @@
 #include "app/Failure.h"
 #include "app/Verbs.h"
 #include "platform/memory/Recording.h"
+#include "support/PrintableText.h"
 
 namespace tovrel::verbs {
 
@@ -14,7 +15,7 @@ int record(const Context& context) {
     if (shortfall && document.elements == 0) {
         throw Failure(shortfall->reason);
     }
-    context.console.output << document.json;
+    context.console.output << printableJson(document.json);
     if (shortfall) {
         printErrorLine(context.console.error,
                        shortfall->reason + "; the recording has what was read before that");

@@ -2,9 +2,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "app/JsonOutput.h"
 #include "app/ResidentClient.h"
-#include "app/TerminalText.h"
-#include "support/Json.h"
+#include "support/PrintableText.h"
 
 namespace tovrel::verbs {
 namespace {
@@ -14,7 +14,7 @@ json::Value textOrNull(const std::string& text) {
 }
 
 std::string textOr(const std::string& text, const char* ifEmpty) {
-    return text.empty() ? ifEmpty : terminal_text::printable(text);
+    return text.empty() ? ifEmpty : printable(text);
 }
 
 } // namespace
@@ -37,24 +37,25 @@ int quit() {
 int status(bool asJson, const Console& console) {
     const ResidentStatus status = ResidentClient().status();
     if (asJson) {
-        console.output << json::dump({{"version", json::toJson(Text(status.version))},
-                                      {"processIdentifier", status.processIdentifier},
-                                      {"paletteVisible", status.isPaletteVisible},
-                                      {"accessibilityTrusted", status.isAccessibilityTrusted},
-                                      {"shortcut", textOrNull(status.shortcut)},
-                                      {"target", textOrNull(status.target)},
-                                      {"unstoredChange", textOrNull(status.unstoredChange)}})
-                       << '\n';
+        printJson(console.output, {{"version", json::toJson(Text(status.version))},
+                                   {"processIdentifier", status.processIdentifier},
+                                   {"paletteVisible", status.isPaletteVisible},
+                                   {"accessibilityTrusted", status.isAccessibilityTrusted},
+                                   {"shortcut", textOrNull(status.shortcut)},
+                                   {"target", textOrNull(status.target)},
+                                   {"unstoredChange", textOrNull(status.unstoredChange)}});
+        console.output << '\n';
         return 0;
     }
-    console.output << "tovrel " << status.version << " runs as process " << status.processIdentifier << '\n'
+    console.output << "tovrel " << printable(status.version) << " runs as process "
+                   << status.processIdentifier << '\n'
                    << "Palette:       " << (status.isPaletteVisible ? "open" : "closed") << '\n'
                    << "Shortcut:      " << textOr(status.shortcut, "none") << '\n'
                    << "Accessibility: " << (status.isAccessibilityTrusted ? "on" : "off") << '\n'
                    << "Target:        " << textOr(status.target, "none yet") << '\n';
     if (!status.unstoredChange.empty()) {
         console.output << "Preferences:   the last change could not be stored: "
-                       << terminal_text::printable(status.unstoredChange) << '\n';
+                       << printable(status.unstoredChange) << '\n';
     }
     return 0;
 }

@@ -10,6 +10,7 @@
 #include "app/Verbs.h"
 #include "commands/CommandSearch.h"
 #include "commands/CommandSearchIndex.h"
+#include "support/PrintableText.h"
 
 namespace tovrel::verbs {
 namespace {
@@ -40,7 +41,7 @@ class SectionPrinter {
     void print(const std::string& query, const std::vector<CommandSearchResult>& results) {
         std::ostream& out = console_.output;
         if (hasHeadings_) {
-            out << (isFirst_ ? "" : "\n") << '"' << terminal_text::printable(query) << "\":\n";
+            out << (isFirst_ ? "" : "\n") << '"' << printable(query) << "\":\n";
             isFirst_ = false;
         }
         if (results.empty()) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/PrintableText.h"
+
 namespace tovrel {
 namespace {
 
@@ -16,7 +18,7 @@ std::vector<TableRow> printableRows(const std::vector<TableRow>& rows) {
     std::vector<TableRow> shown = rows;
     for (TableRow& row : shown) {
         for (std::string& cell : row.cells) {
-            cell = terminal_text::printable(cell);
+            cell = printable(cell);
         }
     }
     return shown;

@@ -13,6 +13,7 @@ OutputStyle outputStyleOf(int fileDescriptor) {
     if (isatty(fileDescriptor) == 0) {
         return style;
     }
+    style.isTerminal = true;
     const char* terminal = std::getenv("TERM"); // NOLINT(concurrency-mt-unsafe): one thread
     const bool isDumb = terminal == nullptr || std::string_view(terminal) == "dumb";
     style.hasColour = !isDumb && std::getenv("NO_COLOR") == nullptr; // NOLINT(concurrency-mt-unsafe)

@@ -10,41 +10,6 @@ namespace tovrel::terminal_text {
 namespace {
 
 constexpr std::string_view ellipsis = "…";
-constexpr std::string_view replacementCharacter = "\uFFFD";
-
-bool reordersText(UChar32 character) {
-    switch (u_charDirection(character)) {
-    case U_LEFT_TO_RIGHT_EMBEDDING:
-    case U_LEFT_TO_RIGHT_OVERRIDE:
-    case U_RIGHT_TO_LEFT_EMBEDDING:
-    case U_RIGHT_TO_LEFT_OVERRIDE:
-    case U_POP_DIRECTIONAL_FORMAT:
-    case U_FIRST_STRONG_ISOLATE:
-    case U_LEFT_TO_RIGHT_ISOLATE:
-    case U_RIGHT_TO_LEFT_ISOLATE:
-    case U_POP_DIRECTIONAL_ISOLATE:
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool isUnsafe(UChar32 character) {
-    switch (u_charType(character)) {
-    case U_CONTROL_CHAR:
-    case U_LINE_SEPARATOR:
-    case U_PARAGRAPH_SEPARATOR:
-        return true;
-    default:
-        return reordersText(character);
-    }
-}
-
-/// U+2400 to U+241F are the pictures of U+0000 to U+001F, U+2421 is that of U+007F.
-std::string pictureOf(char32_t control) {
-    const auto offset = static_cast<unsigned char>(control == 0x7F ? 0x21 : control);
-    return {'\xE2', '\x90', static_cast<char>(0x80 + offset)};
-}
 
 std::size_t widthOf(char32_t codePoint) {
     const auto character = static_cast<UChar32>(codePoint);
@@ -109,23 +74,6 @@ std::size_t endingOfWidth(std::string_view text, std::size_t width) {
 }
 
 } // namespace
-
-std::string printable(std::string_view text) {
-    std::string shown;
-    shown.reserve(text.size());
-    for (std::size_t position = 0; position < text.size();) {
-        const std::size_t start = position;
-        const char32_t codePoint = nextCodePoint(text, position);
-        if (codePoint < 0x20 || codePoint == 0x7F) {
-            shown += pictureOf(codePoint);
-        } else if (codePoint == illFormedSequence || isUnsafe(static_cast<UChar32>(codePoint))) {
-            shown += replacementCharacter;
-        } else {
-            shown += text.substr(start, position - start);
-        }
-    }
-    return shown;
-}
 
 std::size_t displayWidth(std::string_view text) {
     std::size_t width = 0;

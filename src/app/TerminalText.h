@@ -4,13 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// Texts as they are shown on a terminal.
+/// How texts fill the columns of a terminal. They are printable (support/PrintableText.h).
 namespace tovrel::terminal_text {
-
-/// The text with everything replaced that could do more than appear where it is written: C0 controls by
-/// their pictures (U+2400…), other controls, line and paragraph separators and the characters that reorder
-/// their surroundings by U+FFFD. Titles come from other applications and may hold escape sequences.
-std::string printable(std::string_view text);
 
 /// How many columns the text takes: two for wide and full-width characters (Unicode Standard Annex 11), none
 /// for combining marks, format characters and the later letters of a Hangul syllable, else one.

@@ -7,7 +7,6 @@
 #include <unicode/uchar.h>
 #include <unicode/uscript.h>
 
-#include "commands/SearchKeys.h"
 #include "support/Utf8.h"
 
 namespace tovrel {
@@ -57,6 +56,30 @@ bool isWordwise(std::string_view text) {
     return true;
 }
 
+void addDistinct(const TextKeys& added, std::vector<std::string>& keys) {
+    addDistinct(added.native, keys);
+    if (added.latin) {
+        addDistinct(*added.latin, keys);
+    }
+}
+
+void addDistinct(const SearchVariants& variants, std::vector<std::string>& keys) {
+    addDistinct(variants.byLocale, keys);
+    if (variants.byDefault) {
+        addDistinct(*variants.byDefault, keys);
+    }
+}
+
+void append(const TextKeys& added, TextKeys& keys) {
+    if (added.latin && !keys.latin) {
+        keys.latin = keys.native; // the same up to here
+    }
+    if (keys.latin) {
+        *keys.latin += added.latin ? *added.latin : added.native;
+    }
+    keys.native += added.native;
+}
+
 /// Whether the first character of a key can not compose with one before it.
 bool startsFresh(std::string_view key) {
     if (key.empty() || static_cast<unsigned char>(key.front()) < 0x80) {
@@ -67,6 +90,10 @@ bool startsFresh(std::string_view key) {
     std::size_t position = 0;
     return U_SUCCESS(status) &&
            formC->hasBoundaryBefore(static_cast<UChar32>(nextCodePoint(key, position))) != 0;
+}
+
+bool startsFresh(const TextKeys& keys) {
+    return startsFresh(keys.native) && (!keys.latin || startsFresh(*keys.latin));
 }
 
 std::vector<std::string_view> wordsOf(std::string_view text) {
@@ -83,14 +110,21 @@ std::vector<std::string_view> wordsOf(std::string_view text) {
 
 std::optional<CommandKeyDeriver::Derived>
 CommandKeyDeriver::composed(const std::vector<std::string_view>& texts) {
-    Derived whole{.native = {}, .latin = {}, .isComposable = true};
+    Derived whole{.variants = {}, .isComposable = true};
     for (const std::string_view text : texts) {
         const Derived& part = derived(text);
         if (!part.isComposable) {
             return std::nullopt;
         }
-        whole.native += part.native;
-        whole.latin += part.latin;
+        SearchVariants& variants = whole.variants;
+        if (part.variants.byDefault && !variants.byDefault) {
+            variants.byDefault = variants.byLocale;
+        }
+        if (variants.byDefault) {
+            append(part.variants.byDefault ? *part.variants.byDefault : part.variants.byLocale,
+                   *variants.byDefault);
+        }
+        append(part.variants.byLocale, variants.byLocale);
     }
     return whole;
 }
@@ -101,10 +135,10 @@ CommandKeyDeriver::Derived CommandKeyDeriver::derive(std::string_view text) {
             return *std::move(whole);
         }
     }
-    std::vector<std::string> variants = searchVariants(text, *textServices_);
-    Derived result{.native = std::move(variants.front()), .latin = {}, .isComposable = isWordwise(text)};
-    result.latin = variants.size() > 1 ? std::move(variants.back()) : result.native;
-    result.isComposable = result.isComposable && startsFresh(result.native) && startsFresh(result.latin);
+    Derived result{.variants = searchVariants(text, *textServices_), .isComposable = isWordwise(text)};
+    const SearchVariants& variants = result.variants;
+    result.isComposable = result.isComposable && startsFresh(variants.byLocale) &&
+                          (!variants.byDefault || startsFresh(*variants.byDefault));
     return result;
 }
 
@@ -117,30 +151,21 @@ const CommandKeyDeriver::Derived& CommandKeyDeriver::derived(std::string_view te
     return derived_.emplace(std::move(key), std::move(result)).first->second;
 }
 
-void CommandKeyDeriver::addVariants(const Text& text, std::vector<std::string>& variants) {
-    const Derived& keys = derived(text.view());
-    addDistinct(keys.native, variants);
-    if (keys.latin != keys.native) {
-        addDistinct(keys.latin, variants);
-    }
+void CommandKeyDeriver::addVariants(const Text& text, std::vector<std::string>& keys) {
+    addDistinct(derived(text.view()).variants, keys);
 }
 
 void CommandKeyDeriver::addJoinedVariants(const std::vector<std::string_view>& texts,
-                                          std::vector<std::string>& variants) {
+                                          std::vector<std::string>& keys) {
     if (const std::optional<Derived> whole = composed(texts)) {
-        addDistinct(whole->native, variants);
-        if (whole->latin != whole->native) {
-            addDistinct(whole->latin, variants);
-        }
+        addDistinct(whole->variants, keys);
         return;
     }
     std::string joined;
     for (const std::string_view text : texts) {
         joined.append(text).append(" ");
     }
-    for (const std::string& variant : searchVariants(joined, *textServices_)) {
-        addDistinct(variant, variants);
-    }
+    addDistinct(searchVariants(joined, *textServices_), keys);
 }
 
 CommandKeys CommandKeyDeriver::keysOf(const Command& command) {

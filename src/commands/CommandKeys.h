@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "commands/SearchKeys.h"
 #include "model/Command.h"
 #include "support/TextServices.h"
 
@@ -31,8 +32,7 @@ class CommandKeyDeriver {
   private:
     /// What is known about one text.
     struct Derived {
-        std::string native;
-        std::string latin; ///< The same as `native` where transliteration changes nothing.
+        SearchVariants variants;
         /// Whether the keys of this text after another and a space are the two texts' keys end to end.
         bool isComposable = false;
     };
@@ -42,9 +42,9 @@ class CommandKeyDeriver {
     /// Of the texts joined with single spaces, put together from theirs; absent where that may not be the
     /// same.
     std::optional<Derived> composed(const std::vector<std::string_view>& texts);
-    void addVariants(const Text& text, std::vector<std::string>& variants);
+    void addVariants(const Text& text, std::vector<std::string>& keys);
     /// The variants of the texts joined with single spaces.
-    void addJoinedVariants(const std::vector<std::string_view>& texts, std::vector<std::string>& variants);
+    void addJoinedVariants(const std::vector<std::string_view>& texts, std::vector<std::string>& keys);
 
     const TextServices* textServices_;
     std::unordered_map<std::string, Derived> derived_;

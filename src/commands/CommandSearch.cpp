@@ -1,6 +1,7 @@
 #include "commands/CommandSearch.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 #include <utility>
 
@@ -24,10 +25,44 @@ std::vector<CommandSearch::Match> CommandSearch::discoveries(const CommandSearch
     return matches;
 }
 
-std::vector<CommandSearch::Match> CommandSearch::strongMatches(const SearchQuery& query,
+/// The matches of either list, with the better score of those in both.
+std::vector<CommandSearch::Match> CommandSearch::bestOf(std::vector<Match> left,
+                                                        const std::vector<Match>& right) {
+    if (right.empty()) {
+        return left;
+    }
+    if (left.empty()) {
+        return right;
+    }
+    std::vector<Match> best;
+    best.reserve(left.size() + right.size());
+    const auto isBefore = [](const Match& a, const Match& b) { return a.entry < b.entry; };
+    std::merge(left.begin(), left.end(), right.begin(), right.end(), std::back_inserter(best), isBefore);
+    const auto isSame = [](const Match& a, const Match& b) { return a.entry == b.entry; };
+    for (auto match = best.begin(); (match = std::adjacent_find(match, best.end(), isSame)) != best.end();
+         ++match) {
+        match->score = std::max(match->score, std::next(match)->score);
+    }
+    best.erase(std::unique(best.begin(), best.end(), isSame), best.end());
+    return best;
+}
+
+std::vector<CommandSearch::Match> CommandSearch::strongMatches(const std::vector<SearchQuery>& queries,
                                                                const CommandSearchIndex& index) {
     std::vector<Match> matches;
-    std::vector<std::uint32_t> entries;
+    std::vector<Narrowed> narrowed;
+    for (const SearchQuery& query : queries) {
+        narrowed.push_back({index, query.key, {}});
+        matches = bestOf(strongMatches(query, index, narrowed.back().entries), matches);
+    }
+    previous_ = std::move(narrowed);
+    return matches;
+}
+
+std::vector<CommandSearch::Match> CommandSearch::strongMatches(const SearchQuery& query,
+                                                               const CommandSearchIndex& index,
+                                                               std::vector<std::uint32_t>& entries) const {
+    std::vector<Match> matches;
     const auto examine = [&](std::uint32_t entry) {
         if (!index.keys().mayMatch(entry, query)) {
             return;
@@ -38,14 +73,16 @@ std::vector<CommandSearch::Match> CommandSearch::strongMatches(const SearchQuery
         }
     };
     // A key that holds the longer query holds the shorter one it extends.
-    if (previous_ && query.key.starts_with(previous_->key) && index.sharesContentsWith(previous_->index)) {
-        std::for_each(previous_->entries.begin(), previous_->entries.end(), examine);
+    const auto shorter = std::find_if(previous_.begin(), previous_.end(), [&](const Narrowed& previous) {
+        return query.key.starts_with(previous.key) && index.sharesContentsWith(previous.index);
+    });
+    if (shorter != previous_.end()) {
+        std::for_each(shorter->entries.begin(), shorter->entries.end(), examine);
     } else {
         for (std::uint32_t entry = 0; entry < index.entries().size(); ++entry) {
             examine(entry);
         }
     }
-    previous_.emplace(Narrowed{index, query.key, std::move(entries)});
     return matches;
 }
 
@@ -100,18 +137,26 @@ CommandSearchResults CommandSearch::ranked(std::vector<Match> matches, const Com
 }
 
 CommandSearchResults CommandSearch::search(const Text& query, const CommandSearchIndex& index) {
-    std::string key = normalizedKey(query.view(), index.textServices());
-    if (key.empty()) {
+    std::vector<SearchQuery> queries;
+    for (std::string& key : queryKeys(query.view(), index.textServices())) {
+        if (!key.empty()) {
+            queries.push_back(index.keys().prepare(std::move(key)));
+        }
+    }
+    if (queries.empty()) {
         CommandSearchResults results = ranked(discoveries(index), index);
         results.truncate(discoveryLimit);
         return results;
     }
-    const SearchQuery prepared = index.keys().prepare(std::move(key));
-    std::vector<Match> matches = strongMatches(prepared, index);
+    std::vector<Match> matches = strongMatches(queries, index);
     const auto isWeak = [](const Match& match) { return match.score < strongMatchScore; };
     if (std::all_of(matches.begin(), matches.end(), isWeak)) {
         // A loose match scores at most 420 and a boost is at most 225: none of these can be strong.
-        matches = withLooseMatches(matches, prepared, index);
+        const std::vector<Match> strong = std::move(matches);
+        matches.clear();
+        for (const SearchQuery& prepared : queries) {
+            matches = bestOf(withLooseMatches(strong, prepared, index), matches);
+        }
     } else {
         std::erase_if(matches, isWeak);
     }

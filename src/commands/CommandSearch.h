@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,7 +28,7 @@ class CommandSearch {
         std::int64_t score = 0;
     };
 
-    /// What a search leaves for the next one.
+    /// What a search for one key leaves for the next one.
     struct Narrowed {
         CommandSearchIndex index;
         std::string key;                    ///< What was searched for, not empty.
@@ -38,14 +37,18 @@ class CommandSearch {
 
     /// All lists of matches are in the order of the entries until they are ranked.
     [[nodiscard]] static std::vector<Match> discoveries(const CommandSearchIndex& index);
-    [[nodiscard]] std::vector<Match> strongMatches(const SearchQuery& query, const CommandSearchIndex& index);
+    [[nodiscard]] static std::vector<Match> bestOf(std::vector<Match> left, const std::vector<Match>& right);
+    [[nodiscard]] std::vector<Match> strongMatches(const std::vector<SearchQuery>& queries,
+                                                   const CommandSearchIndex& index);
+    [[nodiscard]] std::vector<Match> strongMatches(const SearchQuery& query, const CommandSearchIndex& index,
+                                                   std::vector<std::uint32_t>& entries) const;
     [[nodiscard]] static std::vector<Match> withLooseMatches(const std::vector<Match>& strong,
                                                              const SearchQuery& query,
                                                              const CommandSearchIndex& index);
     [[nodiscard]] static CommandSearchResults ranked(std::vector<Match> matches,
                                                      const CommandSearchIndex& index);
 
-    std::optional<Narrowed> previous_;
+    std::vector<Narrowed> previous_; ///< One for each key of the last query.
 };
 
 } // namespace tovrel

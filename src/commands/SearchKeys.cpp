@@ -17,8 +17,9 @@ bool isAsciiAlphanumeric(char byte) {
 
 } // namespace
 
-std::string normalizedKey(std::string_view text, const TextServices& textServices) {
-    const std::string lowered = textServices.lowercased(textServices.folded(text));
+std::string normalizedKey(std::string_view text, const TextServices& textServices, Folding folding) {
+    const std::string lowered = textServices.lowercased(
+        folding == Folding::byLocale ? textServices.folded(text) : textServices.foldedByDefault(text));
     std::string key;
     key.reserve(lowered.size());
     bool isAllAscii = true;
@@ -41,14 +42,32 @@ std::string normalizedKey(std::string_view text, const TextServices& textService
     return isAllAscii ? key : textServices.composed(key);
 }
 
-std::vector<std::string> searchVariants(std::string_view text, const TextServices& textServices) {
-    std::vector<std::string> variants{normalizedKey(text, textServices)};
-    if (TextServices::hasNonLatinScript(text)) {
-        if (const std::optional<std::string> latin = textServices.transliteratedToLatin(text)) {
-            std::string key = normalizedKey(*latin, textServices);
-            if (key != variants.front()) {
-                variants.push_back(std::move(key));
+std::vector<std::string> queryKeys(std::string_view query, const TextServices& textServices) {
+    std::vector<std::string> keys{normalizedKey(query, textServices)};
+    if (textServices.hasLocalFolding(query)) {
+        if (std::string key = normalizedKey(query, textServices, Folding::byDefault); key != keys.front()) {
+            keys.push_back(std::move(key));
+        }
+    }
+    return keys;
+}
+
+SearchVariants searchVariants(std::string_view text, const TextServices& textServices) {
+    const std::optional<std::string> latin =
+        TextServices::hasNonLatinScript(text) ? textServices.transliteratedToLatin(text) : std::nullopt;
+    const auto keysBy = [&](Folding folding) {
+        TextKeys keys{.native = normalizedKey(text, textServices, folding), .latin = std::nullopt};
+        if (latin) {
+            if (std::string key = normalizedKey(*latin, textServices, folding); key != keys.native) {
+                keys.latin = std::move(key);
             }
+        }
+        return keys;
+    };
+    SearchVariants variants{.byLocale = keysBy(Folding::byLocale), .byDefault = std::nullopt};
+    if (textServices.hasLocalFolding(text) || (latin && textServices.hasLocalFolding(*latin))) {
+        if (TextKeys keys = keysBy(Folding::byDefault); keys != variants.byLocale) {
+            variants.byDefault = std::move(keys);
         }
     }
     return variants;

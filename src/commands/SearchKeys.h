@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,14 +9,35 @@
 
 namespace tovrel {
 
+/// By whose rules a text is folded. In a Turkish or Azerbaijani locale the two differ for texts with an I;
+/// such a text is searched by both, because applications there are often English.
+enum class Folding { byLocale, byDefault };
+
 /// The matching key of a text: folded, lower-cased, and reduced to letters, marks and numbers (general
 /// categories L, M, N) with everything between them gone, so that "Save As…" and "save  as" have the same
 /// key. In normalization form C, so that keys which are canonically equivalent are the same bytes. May be
 /// empty.
-std::string normalizedKey(std::string_view text, const TextServices& textServices);
+std::string normalizedKey(std::string_view text, const TextServices& textServices,
+                          Folding folding = Folding::byLocale);
 
-/// The keys under which a text can be found: its own, and that of its transliteration to Latin letters when
-/// that differs. One or two keys.
-std::vector<std::string> searchVariants(std::string_view text, const TextServices& textServices);
+/// The keys of a query: by the locale's folding and, when that differs, by the default one. All of them or
+/// none is empty.
+std::vector<std::string> queryKeys(std::string_view query, const TextServices& textServices);
+
+/// The keys under which a text can be found by one folding.
+struct TextKeys {
+    std::string native;
+    std::optional<std::string> latin; ///< Of its transliteration to Latin letters, where that gives another.
+
+    bool operator==(const TextKeys&) const = default;
+};
+
+/// The keys under which a text can be found.
+struct SearchVariants {
+    TextKeys byLocale;
+    std::optional<TextKeys> byDefault; ///< Where the default folding gives other keys.
+};
+
+SearchVariants searchVariants(std::string_view text, const TextServices& textServices);
 
 } // namespace tovrel

@@ -99,11 +99,16 @@ std::optional<std::vector<std::string_view>> simpleClusters(std::string_view tex
     return clusters;
 }
 
+/// Whether this is what ICU makes of "C", "POSIX", "C.UTF-8" and of no locale at all.
+bool isPosix(const icu::Locale& locale) {
+    return std::string_view(locale.getVariant()) == "POSIX" || std::string_view(locale.getLanguage()) == "c";
+}
+
 icu::Locale localeNamed(std::string_view identifier) {
-    if (identifier.empty()) {
-        return icu::Locale::getDefault();
-    }
-    return icu::Locale::createCanonical(std::string(identifier).c_str());
+    const icu::Locale locale = identifier.empty()
+                                   ? icu::Locale::getDefault()
+                                   : icu::Locale::createCanonical(std::string(identifier).c_str());
+    return isPosix(locale) ? icu::Locale::getRoot() : locale;
 }
 
 bool keepsDottedAndDotlessIApart(const icu::Locale& locale) {
@@ -128,6 +133,20 @@ struct TextServices::Implementation {
         collator->setAttribute(UCOL_NORMALIZATION_MODE, UCOL_ON, status);
     }
 
+    /// `options` are those of ICU's case folding.
+    [[nodiscard]] std::string folded(std::string_view text, std::uint32_t options) const {
+        UErrorCode status = U_ZERO_ERROR;
+        // Composed first: a decomposed İ must fold as the letter it is, not as an I with a mark.
+        icu::UnicodeString folded = formC->normalize(utf16From(text), status);
+        folded.foldCase(options);
+        const icu::UnicodeString stripped = withoutDiacritics(formD->normalize(folded, status));
+        const icu::UnicodeString result = formC->normalize(stripped, status);
+        if (U_FAILURE(status)) {
+            fatal("out of memory while folding a text");
+        }
+        return utf8From(result);
+    }
+
     icu::Locale locale;
     bool turkic;
     const icu::Normalizer2* formC = nullptr;
@@ -144,19 +163,18 @@ TextServices::TextServices(std::string_view localeIdentifier)
 TextServices::~TextServices() = default;
 
 std::string TextServices::folded(std::string_view text) const {
-    if (isAscii(text) && !implementation_->turkic) {
-        return mapped(text, asciiLower);
-    }
-    UErrorCode status = U_ZERO_ERROR;
-    // Composed first: a decomposed İ must fold as the letter it is, not as an I with a mark.
-    icu::UnicodeString folded = implementation_->formC->normalize(utf16From(text), status);
-    folded.foldCase(implementation_->turkic ? U_FOLD_CASE_EXCLUDE_SPECIAL_I : U_FOLD_CASE_DEFAULT);
-    const icu::UnicodeString stripped = withoutDiacritics(implementation_->formD->normalize(folded, status));
-    const icu::UnicodeString result = implementation_->formC->normalize(stripped, status);
-    if (U_FAILURE(status)) {
-        fatal("out of memory while folding a text");
-    }
-    return utf8From(result);
+    return hasLocalFolding(text) ? implementation_->folded(text, U_FOLD_CASE_EXCLUDE_SPECIAL_I)
+                                 : foldedByDefault(text);
+}
+
+std::string TextServices::foldedByDefault(std::string_view text) const {
+    return isAscii(text) ? mapped(text, asciiLower) : implementation_->folded(text, U_FOLD_CASE_DEFAULT);
+}
+
+bool TextServices::hasLocalFolding(std::string_view text) const {
+    // The Turkic foldings differ from the default ones in I and İ only, and İ becomes an i, with a dot more
+    // or less, in both.
+    return implementation_->turkic && text.find('I') != std::string_view::npos;
 }
 
 std::string TextServices::lowercased(std::string_view text) const {

@@ -16,7 +16,8 @@ namespace tovrel {
 class TextServices {
   public:
     /// For a locale such as "de_DE", "tr" or "sr-Latn"; an empty identifier takes the process environment's.
-    /// An unknown locale behaves as the root locale does.
+    /// An unknown locale behaves as the root locale does, and so do "C" and "POSIX", which say nothing about
+    /// the language: ICU would order their titles by ASCII.
     explicit TextServices(std::string_view localeIdentifier = {});
     ~TextServices();
     TextServices(const TextServices&) = delete;
@@ -26,6 +27,12 @@ class TextServices {
     /// vowel signs, voicing marks and the like of other scripts stay. Case folds by the Unicode default full
     /// folding, in Turkish and Azerbaijani with the dotted and the dotless i kept apart.
     [[nodiscard]] std::string folded(std::string_view text) const;
+
+    /// As `folded`, without the locale's own rules: the I of "Insert" folds to i everywhere.
+    [[nodiscard]] std::string foldedByDefault(std::string_view text) const;
+
+    /// Whether the two foldings of the text can differ. Cheap.
+    [[nodiscard]] bool hasLocalFolding(std::string_view text) const;
 
     /// Unicode default lower-casing, the same in every locale.
     [[nodiscard]] std::string lowercased(std::string_view text) const;

@@ -205,8 +205,25 @@ TEST(SymbolicTextTest, ModifiersThenKey) {
     EXPECT_EQ(text(41, 0x100 | 0x200 | 0x800 | 0x1000 | 0x20000), "⌃⌥⇧⌘\U0001F310\uFE0EÖ");
     EXPECT_EQ(text(7, 0x100), "⌘\uFFFD");
     EXPECT_EQ(text(49, 0x800), "⌥Leertaste");
-    EXPECT_EQ(text(91, 0), "8\u20E3");
-    EXPECT_EQ(text(90, 0), "F20");
+    std::string keys;
+    for (const std::int64_t keyCode : {36, 51, 117, 119, 53, 114, 115, 48, 116, 121, 126, 124, 125, 123}) {
+        keys += text(keyCode, 0).utf8() + " ";
+    }
+    EXPECT_EQ(keys, "↩ ⌫ ⌦ ↘ ⎋ ?\u20DD ↖ ⇥ ⇞ ⇟ ↑ → ↓ ← ");
+    std::string functionKeys;
+    for (const std::int64_t keyCode :
+         {122, 120, 99, 118, 96, 97, 98, 100, 101, 109, 103, 111, 105, 107, 113, 106, 64, 79, 80, 90}) {
+        functionKeys += text(keyCode, 0).utf8();
+    }
+    EXPECT_EQ(functionKeys, "F1F2F3F4F5F6F7F8F9F10F11F12F13F14F15F16F17F18F19F20");
+    std::string pad;
+    for (const std::int64_t keyCode :
+         {82, 83, 84, 85, 86, 87, 88, 89, 91, 92, 71, 65, 75, 76, 81, 78, 67, 69}) {
+        const std::string padKey = text(keyCode, 0).utf8();
+        EXPECT_TRUE(padKey.ends_with("\u20E3"));
+        pad += padKey.substr(0, padKey.size() - std::string("\u20E3").size());
+    }
+    EXPECT_EQ(pad, "0123456789☒./↩=-*+");
 }
 
 } // namespace

@@ -43,7 +43,8 @@ class PreferencesCommands : public testing::Test {
 
     std::string read(const std::string& key, bool asJson = false) {
         return outputOf([&](std::ostream& out, std::ostream& error) {
-            return commands::read(domain, key, asJson, out, error);
+            return commands::read(
+                domain, key, asJson ? commands::ValueForm::json : commands::ValueForm::plain, out, error);
         });
     }
 
@@ -103,17 +104,25 @@ TEST_F(PreferencesCommands, ReadPrintsTextBytesOrJson) {
     EXPECT_EQ(read("boolean", true), R"({"type":"boolean","value":true})"
                                      "\n");
 
+    domain.set("hostile", PreferenceData{"[\n\"\u009B\u202E\"\n]"});
+    EXPECT_EQ(outputOf([&](std::ostream& shown, std::ostream& error) {
+                  return commands::read(domain, "hostile", commands::ValueForm::terminal, shown, error);
+              }),
+              "[\n\"\uFFFD\uFFFD\"\n]");
+
     std::ostringstream out;
     const auto readMissing = [&](std::ostream& error) {
-        return commands::read(domain, "a\nb", false, out, error);
+        return commands::read(domain, "a\nb", commands::ValueForm::plain, out, error);
     };
     EXPECT_THAT(failureOf(1, readMissing), HasSubstr(R"("a\nb")"));
     EXPECT_EQ(out.str(), "");
 
     std::ofstream full("/dev/full");
-    EXPECT_THAT(
-        failureOf(1, [&](std::ostream& error) { return commands::read(domain, "json", true, full, error); }),
-        HasSubstr("output"));
+    EXPECT_THAT(failureOf(1,
+                          [&](std::ostream& error) {
+                              return commands::read(domain, "json", commands::ValueForm::json, full, error);
+                          }),
+                HasSubstr("output"));
 
     EXPECT_EQ(commands::remove(domain, "data"), 0);
     EXPECT_EQ(commands::remove(domain, "data"), 0);

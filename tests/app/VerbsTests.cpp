@@ -14,6 +14,7 @@
 #include "platform/memory/MemoryElement.h"
 #include "platform/memory/MemoryPreferencesDomain.h"
 #include "support/Json.h"
+#include "support/PrintableText.h"
 
 namespace tovrel {
 namespace {
@@ -154,6 +155,24 @@ TEST_F(Verbs, SearchPrintsAListForEachQuery) {
     invocation.limit = 0;
     EXPECT_EQ(run(verbs::search, invocation), 0);
     EXPECT_EQ(output_.str(), "[[]]\n");
+}
+
+TEST_F(Verbs, NoVerbLetsATitleControlTheTerminal) {
+    const Text title = "Evil\u009B31m\u202E\u061C\x7F";
+    menuBar_->set("AXChildren",
+                  Elements{element("File", {{"AXChildren", Elements{element(title.utf8().c_str())}}})});
+    command_line::Invocation invocation;
+    invocation.queries = {"evil"};
+    for (const Verb verb : {verbs::menus, verbs::commands, verbs::search, verbs::record}) {
+        invocation.asJson = false;
+        EXPECT_EQ(run(verb, invocation), 0);
+        EXPECT_EQ(printableLines(output_.str()), output_.str());
+        EXPECT_THAT(output_.str(), HasSubstr("Evil"));
+        invocation.asJson = true;
+        EXPECT_EQ(run(verb, invocation), 0);
+        EXPECT_EQ(printableLines(output_.str()), output_.str());
+        EXPECT_THAT(json::parse(output_.str()).dump(), HasSubstr(title.utf8()));
+    }
 }
 
 TEST_F(Verbs, AReadThatFellShortIsReportedBesideWhatArrived) {

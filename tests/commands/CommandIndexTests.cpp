@@ -143,11 +143,26 @@ TEST_F(CommandIndexTest, CustomCommandsFollowInStoredOrder) {
     EXPECT_EQ(ids({}, "org.other", {}, {scoped, everywhere}), (Ids{"custom:A"}));
     EXPECT_EQ(ids({}, std::nullopt, {}, {scoped, everywhere}), (Ids{"custom:A"}));
 
-    const Command command = build({}, std::nullopt, {}, {}, {everywhere}).front();
-    EXPECT_EQ(command.subtitle, "Shell Command");
-    EXPECT_EQ(command.searchTokens, (std::vector<Text>{"shellScript", "make backup"}));
-    EXPECT_EQ(command.aliases, (std::vector<Text>{"bk"}));
-    EXPECT_EQ(command.action, CommandAction(everywhere));
+    scoped.aliases = {"www"};
+    history_.recordUse("custom:B", PointInTime{7});
+    const Command expected{
+        .id = "custom:B",
+        .source = CommandSource::custom,
+        .appScope = "org.example",
+        .title = "Site",
+        .subtitle = "Open",
+        .menuPath = {},
+        .shortcut = std::nullopt,
+        .aliases = {"www"},
+        .searchTokens = {"open", "https://example.org"},
+        .isEnabled = true,
+        .isChecked = false,
+        .rankSignals = {.isFavorite = false, .usageCount = 1, .lastUsedAt = PointInTime{7}},
+        .action = scoped};
+    const Command command = build({}, "org.example", {}, {}, {scoped}).front();
+    EXPECT_EQ(command.appScope, expected.appScope);
+    EXPECT_EQ(command.rankSignals, expected.rankSignals);
+    EXPECT_EQ(command, expected);
 }
 
 } // namespace

@@ -56,7 +56,8 @@ inline std::vector<Command> assortedCommands(std::mt19937& random, std::size_t c
         "저장",  "가",      "\u11A8x",  "Αρχείο", "ναός",   "แฟ้ม",      "บันทึก",       "हिन्दी",
         "किताब", "שמירה",   "حفظ",      "１２",   "²x",     "ーx",      "か",         "\u3099",
         "e",     "\u0301n", "İz",       "ızgara", "Straße", "4",        "a",          "ab",
-        "b",     "PDF/A-1", "…",        "›",      "İ",      "ﬁn",       "🎨 Farbe"};
+        "b",     "PDF/A-1", "…",        "›",      "İ",      "ﬁn",       "🎨 Farbe",    "Insert",
+        "IMAGE", "Индекс",  "DIŞ"};
     const auto pick = [&](std::size_t bound) {
         return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random);
     };

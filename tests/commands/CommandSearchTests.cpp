@@ -119,17 +119,21 @@ TEST_F(CommandSearchTest, GraphemeClustersCountAsOneCharacter) {
 TEST_F(CommandSearchTest, AgreesWithThePlainAlgorithmWhileAQueryIsTyped) {
     std::mt19937 random(20011); // a fixed seed: a failure can be repeated
     const TextServices turkish("tr_TR");
-    for (const TextServices* services : {static_cast<const TextServices*>(&services_), &turkish}) {
-        const std::vector<Command> commands = assortedCommands(random, 250);
+    const TextServices azerbaijani("az");
+    for (const TextServices* services :
+         {static_cast<const TextServices*>(&services_), &turkish, &azerbaijani}) {
+        const std::vector<Command> commands = assortedCommands(random, 150);
         const CommandSearchIndex index(commands, *services);
         CommandSearch search;
-        for (const char* typed : {"save as", "sav",      "fs",          "edition coller",
-                                  "файл с",  "fajlso",   "fairu",       "保存",
-                                  "데이",    "ab4",      "ee",          "s2",
-                                  "кс",      "हि",       "किता",        "iz",
-                                  "ız",      "e\u0301n", "deta",        "xyz",
-                                  "alpha",   "hangug",   "shellscript", "seifiru",
-                                  "bb",      "q",        "…",           "🎨f"}) {
+        for (const char* typed : {"save as",   "sav",      "fs",          "edition coller",
+                                  "файл с",    "fajlso",   "fairu",       "保存",
+                                  "데이",      "ab4",      "ee",          "s2",
+                                  "кс",        "हि",       "किता",        "iz",
+                                  "ız",        "e\u0301n", "deta",        "xyz",
+                                  "alpha",     "hangug",   "shellscript", "seifiru",
+                                  "bb",        "q",        "…",           "🎨f",
+                                  "insert ım", "INSERT",   "Indeks",      "ındeks",
+                                  "IZGARA",    "dış",      "iıI"}) {
             std::string query;
             for (const std::string_view character : services->graphemeClusters(typed)) {
                 query += character;
@@ -144,6 +148,27 @@ TEST_F(CommandSearchTest, AgreesWithThePlainAlgorithmWhileAQueryIsTyped) {
             }
         }
     }
+}
+
+TEST_F(CommandSearchTest, EnglishApplicationsInATurkishLocale) {
+    const TextServices turkish("tr_TR");
+    const CommandSearchIndex index({menuCommand({"Edit", "Insert Image"}), menuCommand({"Düzen", "Izgara"}),
+                                    menuCommand({"Düzen", "İndir"}), menuCommand({"Правка", "Индекс"})},
+                                   turkish);
+    CommandSearch search;
+    const auto best = [&](std::string_view query) {
+        const CommandSearchResults results = search.search(query, index);
+        return results.empty() ? ""
+                               : results[0].command.title.utf8() + " " + std::to_string(results[0].score);
+    };
+    EXPECT_EQ(best("insert"), "Insert Image 780");
+    EXPECT_EQ(best("ınsert"), "Insert Image 780"); // by the locale's rules as before
+    EXPECT_EQ(best("insertimage"), "Insert Image 900");
+    EXPECT_EQ(best("INSERT I"), "Insert Image 780");
+    EXPECT_EQ(best("ızgara"), "Izgara 900");
+    EXPECT_EQ(best("izgara"), "Izgara 900");
+    EXPECT_EQ(best("INDIR"), "İndir 900");
+    EXPECT_EQ(best("indeks"), "Индекс 900");
 }
 
 TEST_F(CommandSearchTest, WhatItRemembersNeverOutlivesTheIndex) {

@@ -40,8 +40,11 @@ inline std::vector<std::string> candidateTexts(const Command& command) {
 inline std::set<std::string> variants(const std::vector<std::string>& texts, const TextServices& services) {
     std::set<std::string> keys;
     for (const std::string& text : texts) {
-        keys.insert(normalizedKey(text, services));
-        keys.insert(normalizedKey(services.transliteratedToLatin(text).value_or(text), services));
+        const std::string latin = services.transliteratedToLatin(text).value_or(text);
+        for (const Folding folding : {Folding::byLocale, Folding::byDefault}) {
+            keys.insert(normalizedKey(text, services, folding));
+            keys.insert(normalizedKey(latin, services, folding));
+        }
     }
     return keys;
 }
@@ -89,7 +92,9 @@ inline std::int64_t boostOf(const CommandRankSignals& signals) {
 
 inline std::vector<Result> search(const std::string& query, const std::vector<Command>& commands,
                                   const TextServices& services) {
-    const std::string key = normalizedKey(query, services);
+    const std::set<std::string> queryKeys{normalizedKey(query, services, Folding::byLocale),
+                                          normalizedKey(query, services, Folding::byDefault)};
+    const bool isEmpty = queryKeys.begin()->empty();
     std::vector<Result> results;
     for (std::size_t i = 0; i < commands.size(); ++i) {
         const Command& command = commands[i];
@@ -97,7 +102,7 @@ inline std::vector<Result> search(const std::string& query, const std::vector<Co
             continue;
         }
         const std::int64_t boost = boostOf(command.rankSignals);
-        if (key.empty()) {
+        if (isEmpty) {
             const std::int64_t discovery = boost + (command.source == CommandSource::custom ? 100 : 0) +
                                            (command.shortcut && !command.shortcut->empty() ? 80 : 0);
             if (discovery > 0) {
@@ -111,17 +116,21 @@ inline std::vector<Result> search(const std::string& query, const std::vector<Co
         }
         std::int64_t best = 0;
         for (const std::string& variant : variants(aliases, services)) {
-            best = std::max(best, tierScore(key, variant, true, services));
+            for (const std::string& key : queryKeys) {
+                best = std::max(best, tierScore(key, variant, true, services));
+            }
         }
         for (const std::string& variant : variants(candidateTexts(command), services)) {
-            best = std::max(best, tierScore(key, variant, false, services));
+            for (const std::string& key : queryKeys) {
+                best = std::max(best, tierScore(key, variant, false, services));
+            }
         }
         if (best > 0) {
             results.push_back({i, best + boost});
         }
     }
     const auto isStrong = [](const Result& result) { return result.score >= 680; };
-    if (!key.empty() && std::any_of(results.begin(), results.end(), isStrong)) {
+    if (!isEmpty && std::any_of(results.begin(), results.end(), isStrong)) {
         std::erase_if(results, [&](const Result& result) { return !isStrong(result); });
     }
     std::stable_sort(results.begin(), results.end(), [&](const Result& left, const Result& right) {
@@ -130,7 +139,7 @@ inline std::vector<Result> search(const std::string& query, const std::vector<Co
         }
         return services.isOrderedBefore(commands[left.command].title, commands[right.command].title);
     });
-    if (key.empty() && results.size() > 20) {
+    if (isEmpty && results.size() > 20) {
         results.resize(20);
     }
     return results;

@@ -43,15 +43,22 @@ TEST(SearchKeys, LocalesOfDottedAndDotlessI) {
     EXPECT_EQ(normalizedKey("İş", turkish), "is");
     EXPECT_EQ(normalizedKey("I\u0307ş", turkish), "is");
     EXPECT_EQ(normalizedKey("TITLE", turkish), "tıtle");
+    EXPECT_EQ(queryKeys("TITLE", turkish), (std::vector<std::string>{"tıtle", "title"}));
+    EXPECT_EQ(queryKeys("İzle title", turkish), std::vector<std::string>{"izletitle"});
+    EXPECT_EQ(searchVariants("Insert", turkish).byDefault, (TextKeys{"insert", std::nullopt}));
+    EXPECT_FALSE(searchVariants("İndir ızgara", turkish).byDefault);
+    EXPECT_EQ(searchVariants("Имя", turkish).byDefault, (TextKeys{"имя", "ima"}));
     const TextServices lithuanian("lt_LT");
     EXPECT_EQ(normalizedKey("Ìš J\u0303", lithuanian), "isj");
 }
 
 TEST(SearchKeys, OtherScriptsHaveALatinVariantToo) {
     const TextServices english("en_US");
-    EXPECT_EQ(searchVariants("Файл", english), (std::vector<std::string>{"фаил", "fajl"}));
-    EXPECT_EQ(searchVariants("ファイル", english), (std::vector<std::string>{"ファイル", "fairu"}));
-    EXPECT_EQ(searchVariants("Édition › Coller…", english), (std::vector<std::string>{"editioncoller"}));
+    EXPECT_EQ(searchVariants("Файл", english).byLocale, (TextKeys{"фаил", "fajl"}));
+    EXPECT_EQ(searchVariants("ファイル", english).byLocale, (TextKeys{"ファイル", "fairu"}));
+    EXPECT_EQ(searchVariants("Édition › Coller…", english).byLocale,
+              (TextKeys{"editioncoller", std::nullopt}));
+    EXPECT_FALSE(searchVariants("Insert", english).byDefault);
     EXPECT_FALSE(TextServices::hasNonLatinScript("Édition › … ½"));
     // What is passed over because it is all Latin is what transliteration leaves as it is.
     for (const char* text : {"Édition…", "Œuvre ‘x’", "naïve – ½ ²", "ﬁn", "Ｆｉｌｅ"}) {

@@ -24,6 +24,19 @@ class CommandTests(PaletteTestCase):
         self.assertIn("Wrap Lines", self.resident.rows()[0])
         self.assertEqual(self.resident.checked_rows(), [])
 
+    def test_titles_are_ordered_for_people_whatever_the_locale(self):
+        self.store("customCommands", [{"id": title, "title": title, "kind": "open", "payload": "x", "aliases": [],
+                                       "isEnabled": True} for title in ("zoom", "Éclair", "Bold", "archive")])
+        self.open_text("mousepad", TEXT)
+        for locale in ({}, {"LC_ALL": "C.UTF-8"}, {"LC_ALL": "C"}):
+            with self.subTest(locale=locale):
+                self.start_resident(**locale)
+                self.open_palette()
+                self.wait_until(lambda: len(self.resident.rows()) >= 4, "the rows")
+                for row, title in zip(self.resident.rows(), ("archive", "Bold", "Éclair", "zoom")):
+                    self.assertTrue(row.startswith(title), row)
+                self.resident.end()
+
     def test_the_users_own_commands_ask_first(self):
         ran = self.directory / "ran"
         self.store("customCommands", [{"id": "A1", "title": "Back Up", "kind": "shellScript",

@@ -29,6 +29,20 @@ class RecordingTests(DesktopTestCase):
                     self.tovrel.expect("search", "--json", "--recording", recording, "--", *QUERIES,
                                        environment=bare).json, live)
 
+    def test_titles_are_ordered_alike_in_every_locale(self):
+        recording = self.directory / "recording.json"
+        recording.write_text(json.dumps({"AXMenuBar": {"AXChildren": [{"AXTitle": "Edit", "AXChildren": [
+            {"AXTitle": title} for title in ("Zap edit", "archive edit", "Édition", "Bold edit")]}]}}),
+                             encoding="utf-8")
+        bare = {"PATH": self.desktop.environment["PATH"], "HOME": str(self.directory)}
+        posix = ({**bare, "LC_ALL": name} for name in ("C", "POSIX", "C.UTF-8"))
+        for locale in (self.desktop.environment, bare, *posix):
+            ranked = self.tovrel.expect("search", "--json", "--recording", recording, "edit",
+                                        environment=locale).json[0]
+            with self.subTest(locale=locale.get("LC_ALL", locale.get("LANG"))):
+                self.assertEqual([result["command"]["title"] for result in ranked],
+                                 ["archive edit", "Bold edit", "Édition", "Zap edit"])
+
     def test_a_recording_cannot_be_pressed_without_its_application(self):
         recording = self.directory / "recording.json"
         recording.write_text(json.dumps({"AXMenuBar": {"AXChildren": [

@@ -94,8 +94,14 @@ TEST_F(MenuScannerTest, ShortcutTexts) {
     EXPECT_EQ(text("s", 7), "⌘⇧⌥⌃S");
     EXPECT_EQ(text("s", 16), "⌘S");
     EXPECT_EQ(text("\uF70D", 0), "⌘F10");
-    EXPECT_EQ(text("\x1B", 8), "⎋");
-    EXPECT_EQ(text("\t", 1), "⌘⇧⇥");
+    std::string keys;
+    for (const char* key :
+         {"\uF700", "\uF701", "\uF702", "\uF703", "\uF704", "\uF705", "\uF706", "\uF707", "\uF708", "\uF709",
+          "\uF70A", "\uF70B", "\uF70C", "\uF70D", "\uF70E", "\uF70F", "\x7F",   "\x1B",   "\t",     "\uF727",
+          "\uF728", "\uF729", "\uF72B", "\uF72C", "\uF72D", "\uF746", "\r",     " "}) {
+        keys += text(key, 8) + " ";
+    }
+    EXPECT_EQ(keys, "↑ ↓ ← → F1 F2 F3 F4 F5 F6 F7 F8 F9 F10 F11 F12 ⌫ ⎋ ⇥ Ins ⌦ ↖ ↘ ⇞ ⇟ Help ↩ Space ");
     EXPECT_EQ(text(",", 0), "⌘,");
     EXPECT_EQ(text("ß", 0), "⌘SS");
     EXPECT_EQ(text("ж", 0), "⌘Ж");
@@ -111,6 +117,10 @@ TEST_F(MenuScannerTest, TheFirstItemOfAPathIsFoundAndPressed) {
     EXPECT_EQ(found->element, save);
     EXPECT_EQ(MenuCommandPerformer::findItem({"File", "save"}, items), nullptr);
     EXPECT_EQ(MenuCommandPerformer::findItem({"File"}, {}), nullptr);
+    // Deeper but earlier comes before nearer but later.
+    const auto nested = scan({element("File", {element("", {element("", {save})}), element("Save")})});
+    EXPECT_EQ(nested[0].children[0].children[0].menuPath, (std::vector<Text>{"File"}));
+    EXPECT_EQ(MenuCommandPerformer::findItem({"File", "Save"}, nested)->element, save);
 
     EXPECT_TRUE(MenuCommandPerformer::perform(*found, MenuCommandPerformer::pressMenuItem));
     EXPECT_EQ(save->performedActions(), (std::vector<std::string>{"AXPress"}));

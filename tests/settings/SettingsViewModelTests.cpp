@@ -97,13 +97,13 @@ TEST_F(SettingsViewModelTest, TheListsComeFromTheMenuTree) {
 
 TEST_F(SettingsViewModelTest, HidingAnItemMakesARuleAndKeepsItsSearchSettings) {
     state_.selectedMenuCandidateID.set("File\x1FSave");
-    state_.blacklistMode.set(MenuBlacklistMode::excludeSelf);
+    state_.blacklistMode.set(MenuBlacklistMode::excludeChildren);
     state_.hideSelectedMenuItem();
     EXPECT_EQ(state_.selectedMenuCandidateID.get(), Text());
     ASSERT_EQ(rules_.menuBlacklistRules().size(), 1U);
     const MenuBlacklistRule rule = rules_.menuBlacklistRules().front();
     EXPECT_EQ(rule.appScope, Text("B"));
-    EXPECT_EQ(rule.mode, MenuBlacklistMode::excludeSelf);
+    EXPECT_EQ(rule.mode, MenuBlacklistMode::excludeChildren);
     EXPECT_THAT(rule.targetPath, ElementsAre(Text("File"), Text("Save")));
     EXPECT_THAT(titles(model_->menuRuleCandidates().get()), Not(testing::Contains("File > Save")));
     EXPECT_THAT(titles(model_->menuCommandSettings().get()), testing::Contains("File > Save"));

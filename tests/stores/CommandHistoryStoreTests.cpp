@@ -183,5 +183,20 @@ TEST_F(CommandHistory, ACountThatIsDamagedIsCountedOnFromUpToTheLargest) {
     EXPECT_EQ(store.rankSignals("B").usageCount, -1'999'999'999'999'999'999);
 }
 
+TEST_F(CommandHistory, AChangeWhileItIsReadIsSeenTheNextTime) {
+    class ChangingDomain : public MemoryPreferencesDomain {
+      public:
+        std::optional<PreferenceValue> value(const std::string& key) override {
+            auto before = MemoryPreferencesDomain::value(key);
+            set(key, PreferenceData{R"({"A": {"usageCount": 2, "isFavorite": false}})"}); // another process
+            return before;
+        }
+    } changing;
+    changing.set(storageKey, PreferenceData{R"({"A": {"usageCount": 1, "isFavorite": false}})"});
+    CommandHistoryStore reader(changing, storageKey, text);
+    EXPECT_EQ(reader.rankSignals("A").usageCount, 1);
+    EXPECT_EQ(reader.rankSignals("A").usageCount, 2);
+}
+
 } // namespace
 } // namespace tovrel

@@ -94,11 +94,14 @@ TEST_F(Rules, UnreadableDocumentsReadAsAbsentAndAreReplaced) {
 
 TEST_F(Rules, BlacklistRulesMayRepeatAndAreRemovedByID) {
     store.addMenuBlacklistRule("org.a", {"File", "Save"}, MenuBlacklistMode::excludeSelf);
-    store.addMenuBlacklistRule("org.a", {"File", "Save"}, MenuBlacklistMode::excludeSelf);
+    store.addMenuBlacklistRule("org.a", {"File", "Save"}, MenuBlacklistMode::excludeChildren);
     store.addMenuBlacklistRule(std::nullopt, {"Edit"}, MenuBlacklistMode::excludeSelfAndChildren);
     const std::vector<MenuBlacklistRule> rules = store.menuBlacklistRules();
     ASSERT_EQ(rules.size(), 3U);
     EXPECT_NE(rules[0].id, rules[1].id);
+    EXPECT_EQ(rules[0].mode, MenuBlacklistMode::excludeSelf);
+    EXPECT_EQ(rules[1].mode, MenuBlacklistMode::excludeChildren);
+    EXPECT_EQ(rules[2].mode, MenuBlacklistMode::excludeSelfAndChildren);
     EXPECT_EQ(rules[0].id.utf8().size(), 36U);
     EXPECT_EQ(rules[2].appScope, std::nullopt);
     EXPECT_EQ(document("rules.menuBlacklistRules")->find("null"), std::string::npos); // left out, not null

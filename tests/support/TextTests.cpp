@@ -1,9 +1,12 @@
 #include "support/Text.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include <gtest/gtest.h>
+#include <unicode/locid.h>
 
+#include "support/TextServices.h"
 #include "support/Utf8.h"
 
 namespace tovrel {
@@ -39,6 +42,24 @@ TEST(Text, KeepsItsBytesAndRepairsIllFormedOnes) {
     EXPECT_EQ(Text("cut\xC3").utf8(), "cut\uFFFD");
     EXPECT_FALSE(isWellFormedUtf8("\xC0\xAF"));
     EXPECT_TRUE(isWellFormedUtf8("\xF0\x9F\x8E\xA8"));
+}
+
+TEST(TextServices, TitlesAreOrderedForPeopleInEveryLocale) {
+    const icu::Locale before = icu::Locale::getDefault();
+    for (const char* environment : {"en_US_POSIX", "de_DE"}) { // what ICU makes of LC_ALL=C, and a real one
+        UErrorCode status = U_ZERO_ERROR;
+        icu::Locale::setDefault(icu::Locale(environment), status);
+        for (const char* identifier : {"", "C", "POSIX", "C.UTF-8", "C.utf8", "en_US_POSIX", "xx", "en_US"}) {
+            const TextServices services(identifier);
+            std::vector<Text> titles{"Zoom", "archive", "Édition", "Bold", "file", "About"};
+            std::sort(titles.begin(), titles.end(), [&](const Text& left, const Text& right) {
+                return services.isOrderedBefore(left, right);
+            });
+            EXPECT_EQ(joined(titles, " "), "About archive Bold Édition file Zoom") << identifier;
+        }
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    icu::Locale::setDefault(before, status);
 }
 
 TEST(Text, TrimsUnicodeWhiteSpaceAtBothEnds) {

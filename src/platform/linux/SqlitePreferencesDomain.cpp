@@ -10,6 +10,7 @@
 #include "platform/linux/DirectoryLock.h"
 #include "platform/linux/DurableFiles.h"
 #include "platform/linux/SystemCallFailure.h"
+#include "support/PrintableText.h"
 
 namespace tovrel {
 namespace {
@@ -99,7 +100,7 @@ SqlitePreferencesDomain::SqlitePreferencesDomain(const std::filesystem::path& fi
                                                  const LockPatience::Terms& lockPatience)
     : file_(resolved(file)), report_(std::move(report)), lockPatience_(lockPatience) {
     if (!report_) {
-        report_ = [](const std::string& line) { std::cerr << "tovrel: " << line << '\n'; };
+        report_ = [](const std::string& line) { std::cerr << "tovrel: " << printable(line) << '\n'; };
     }
 }
 

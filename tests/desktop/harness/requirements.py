@@ -1,5 +1,6 @@
 """Which programs the private desktop needs, and the Debian packages they come in."""
 
+import os
 import shutil
 
 PACKAGE_OF = {
@@ -13,6 +14,8 @@ PACKAGE_OF = {
     "import": "imagemagick",
     "display": "imagemagick",
     "setpriv": "util-linux",
+    "localedef": "libc-bin",
+    "/usr/share/i18n/locales/en_US": "locales",
     "mousepad": "mousepad",
     "featherpad": "featherpad",
     "/usr/lib/qt6/bin/linguist": "linguist-qt6",
@@ -27,8 +30,8 @@ class MissingProgram(RuntimeError):
 
 
 def require(*programs):
-    """Raises MissingProgram with the packages to install unless every program is there."""
-    missing = [program for program in programs if shutil.which(program) is None]
+    """Raises MissingProgram with the packages to install unless every program (or file, by its path) is there."""
+    missing = [program for program in programs if shutil.which(program) is None and not os.path.isfile(program)]
     if missing:
         packages = sorted({PACKAGE_OF.get(program, program) for program in missing})
         raise MissingProgram(f"not installed: {', '.join(missing)} (apt-get install {' '.join(packages)})")

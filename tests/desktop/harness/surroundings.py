@@ -3,6 +3,8 @@
 import os
 from pathlib import Path
 
+from .locales import LOCALE, locale_folder
+
 # What is passed on: where programs are found, and how sanitizers report.
 PASSED_ON = ("PATH", "TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "ASAN_SYMBOLIZER_PATH")
 
@@ -24,8 +26,8 @@ def private_environment(root):
         path.mkdir(parents=True, exist_ok=True)
         path.chmod(0o700)
         environment[name] = str(path)
-    environment["LANG"] = "C.UTF-8"
-    environment["LC_ALL"] = "C.UTF-8"
+    environment["LANG"] = LOCALE
+    environment["LOCPATH"] = str(locale_folder())
     environment["TOVREL_PREFERENCES"] = str(Path(root) / "home" / "preferences.db")
     # Applications keep their settings to themselves and need no daemon for them.
     environment["GSETTINGS_BACKEND"] = "memory"

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+#include "platform/linux/DBus.h"
+#include "platform/linux/MenuReadLimits.h"
+
+namespace tovrel::fuzzing {
+
+/// The only peer of a connection, on a socket of this process: bus and application in one. It answers every
+/// call with a message of values that are made of the input, of the type that such a call is answered with or
+/// of another. So the readers are tried whole, over real messages, through what they offer to everybody.
+class FuzzedPeer {
+  public:
+    /// The one peer of the process.
+    static FuzzedPeer& instance();
+
+    /// The end of the connection that the readers use.
+    [[nodiscard]] DBusConnection& connection();
+
+    /// The name under which the application is addressed.
+    static constexpr const char* busName = ":1.7";
+
+    /// Small, so that an input costs little, and a lost answer soon shows.
+    static MenuReadLimits limits();
+
+    /// Answers from now on are made of these bytes, from the first.
+    void answerWith(const std::uint8_t* data, std::size_t size);
+
+  private:
+    struct Implementation;
+
+    FuzzedPeer();
+
+    Implementation* implementation_; ///< Lives as long as the process, as its thread does.
+};
+
+} // namespace tovrel::fuzzing
