@@ -11,11 +11,20 @@ namespace {
 /// The bits of an event's state that are modifiers; the rest are pointer buttons and the layout's group.
 constexpr std::uint16_t modifierBits = 0xFF;
 
+/// To be asked once a hold: the server then delivers what it has kept, up to the next press of a hot key,
+/// which must find the keyboard held again.
+void ungrabKeyboard(xcb_connection_t* connection) {
+    xcb_ungrab_keyboard(connection, XCB_CURRENT_TIME);
+    xcb_flush(connection);
+}
+
 } // namespace
 
 LinuxHotKeyCenter::LinuxHotKeyCenter(MainQueue& queue, DestinationOfKeys destination, const char* display)
-    : queue_(queue), destination_(std::move(destination)), connection_(display), xkb_(connection_.handle()),
-      rawKeys_(connection_.handle(), connection_.root()), focusWait_(connection_) {
+    : queue_(queue), destination_(std::move(destination)), connection_(display),
+      guard_([this] { ungrabKeyboard(connection_.handle()); }), reader_(connection_, guard_),
+      xkb_(connection_.handle()), rawKeys_(connection_.handle(), connection_.root()),
+      focusWait_(connection_) {
     xkb_.useDetectableAutoRepeat();
     xkb_.selectKeyboardEvents();
     keyMap_ = X11KeyMap::read(connection_.handle());
@@ -49,7 +58,6 @@ std::variant<HotKeyHandle, HotKeyError> LinuxHotKeyCenter::registerHotKey(std::u
     registrations_.push_back(std::move(registration));
     selectRawKeys();
     reportKeysFoundUp();
-    dispatchSoonWhatCameAlong();
     return connection_.isOpen() ? std::variant<HotKeyHandle, HotKeyError>(handle) : hot_key_errors::noServer;
 }
 
@@ -78,7 +86,6 @@ void LinuxHotKeyCenter::setRawKeyHandler(RawKeyHandler handler) {
     selectRawKeys();
     if (rawHandler_) {
         keyboardState_ = xkb_.state().value_or(XkbExtension::State());
-        dispatchSoonWhatCameAlong();
     }
     xcb_flush(connection_.handle());
 }
@@ -105,15 +112,13 @@ std::optional<Text> LinuxHotKeyCenter::characterForKeyCode(std::uint32_t keyCode
     if (!key || !connection_.isOpen()) {
         return std::nullopt;
     }
-    auto character = text(*key, xkb_.state().value_or(XkbExtension::State()).group, false);
-    dispatchSoonWhatCameAlong();
-    return character;
+    return text(*key, xkb_.state().value_or(XkbExtension::State()).group, false);
 }
 
 void LinuxHotKeyCenter::dispatch() {
     for (;;) {
-        if (const Event event = nextEvent()) {
-            handle(*event);
+        if (const X11EventReader::Event next = reader_.next()) {
+            handle(*next.event, next.hold);
         } else if (std::exchange(hasKeyboardChanged_, false)) {
             adoptKeyboard();
         } else {
@@ -146,16 +151,7 @@ LinuxHotKeyCenter::Registration* LinuxHotKeyCenter::find(HotKeyHandle handle) {
     return found == registrations_.end() ? nullptr : &*found;
 }
 
-LinuxHotKeyCenter::Event LinuxHotKeyCenter::nextEvent() {
-    if (cameAlong_.empty()) {
-        return Event(xcb_poll_for_event(connection_.handle()));
-    }
-    Event event = std::move(cameAlong_.front());
-    cameAlong_.pop_front();
-    return event;
-}
-
-void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event) {
+void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event, KeyboardGuard::Hold hold) {
     if (const auto key = rawKeys_.keyOf(event)) {
         handleRawKey(*key);
     } else if (const auto state = xkb_.stateOf(event)) {
@@ -165,7 +161,7 @@ void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event) {
     } else {
         switch (event.response_type & 0x7FU) {
         case XCB_KEY_PRESS:
-            handlePress(reinterpret_cast<const xcb_key_press_event_t&>(event));
+            handlePress(reinterpret_cast<const xcb_key_press_event_t&>(event), hold);
             break;
         case XCB_FOCUS_IN:
         case XCB_FOCUS_OUT:
@@ -183,8 +179,8 @@ void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event) {
     }
 }
 
-void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event) {
-    const std::uint64_t hold = ++lastHold_;
+void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event, KeyboardGuard::Hold hold) {
+    endHold(); // The one before is over, or this press would not have come.
     currentHold_ = hold;
     lastPressTime_ = event.time;
     const auto pressed =
@@ -198,7 +194,7 @@ void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event) {
     heldFor_ = pressed->handle;
     const HotKeyIdentifier identifier = pressed->identifier;
     if (pressed->state == KeyState::down) { // The key repeats itself: nothing will change the focus.
-        ungrabKeyboard();
+        endHold();
         report(identifier, HotKeyEventKind::pressed);
         reportKeysFoundUp();
         return;
@@ -206,13 +202,12 @@ void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event) {
     pressed->state = KeyState::down;
     selectRawKeys();
     holdAtFocusedWindow(event.time);
-    letGoAfter(longestHold);
     report(identifier, HotKeyEventKind::pressed);
     if (currentHold_ != hold) {
-        return; // The handler has unregistered the key, or taken too long.
+        return; // The handler has unregistered the key.
     }
     focusWait_.begin(destination_ ? destination_() : KeyDestination());
-    if (focusWait_.isReached()) {
+    if (!guard_.isHeld(hold) || focusWait_.isReached()) {
         letGo();
     } else {
         letGoAfter(longestFocusWait);
@@ -272,10 +267,13 @@ void LinuxHotKeyCenter::holdAtFocusedWindow(xcb_timestamp_t time) {
     if (!isWindow || (destination_ && destination_().window == focus->focus)) {
         return;
     }
-    const XcbOwned<xcb_grab_keyboard_reply_t> held(xcb_grab_keyboard_reply(
-        connection,
-        xcb_grab_keyboard(connection, 0, focus->focus, time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC),
-        nullptr)); // Refused, as by a window that is gone meanwhile: then it stays as it is.
+    xcb_grab_keyboard_cookie_t moved{};
+    const bool isAsked = guard_.during(currentHold_, [&] {
+        moved = xcb_grab_keyboard(connection, 0, focus->focus, time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
+    });
+    if (isAsked) { // Refused, as by a window that is gone meanwhile: then it stays as it is.
+        const XcbOwned<xcb_grab_keyboard_reply_t> answer(xcb_grab_keyboard_reply(connection, moved, nullptr));
+    }
 }
 
 void LinuxHotKeyCenter::letGoAfter(std::chrono::milliseconds limit) {
@@ -288,17 +286,14 @@ void LinuxHotKeyCenter::letGoAfter(std::chrono::milliseconds limit) {
 }
 
 void LinuxHotKeyCenter::letGo() {
-    ungrabKeyboard();
+    endHold();
     reportKeysFoundUp();
 }
 
-void LinuxHotKeyCenter::ungrabKeyboard() {
-    currentHold_ = 0;
+void LinuxHotKeyCenter::endHold() {
     heldFor_ = 0;
     focusWait_.end();
-    // This alone, exactly once a press: what the server has kept is delivered at once, up to the next press
-    // of a hot key, which must find the keyboard held again.
-    xcb_ungrab_keyboard(connection_.handle(), XCB_CURRENT_TIME);
+    guard_.end(std::exchange(currentHold_, 0), [this] { ungrabKeyboard(connection_.handle()); });
     xcb_flush(connection_.handle());
 }
 
@@ -346,21 +341,6 @@ void LinuxHotKeyCenter::selectRawKeys() {
 void LinuxHotKeyCenter::waitForServer() {
     // Any question will do: it is answered after what was asked before.
     static_cast<void>(keysDown(connection_.handle()));
-    dispatchSoonWhatCameAlong();
-}
-
-void LinuxHotKeyCenter::dispatchSoonWhatCameAlong() {
-    while (Event event{xcb_poll_for_queued_event(connection_.handle())}) {
-        cameAlong_.push_back(std::move(event));
-    }
-    if (!cameAlong_.empty()) {
-        queue_.post([this, life = std::weak_ptr(life_)] {
-            if (!life.expired()) {
-                dispatch();
-            }
-        });
-    }
-    xcb_flush(connection_.handle());
 }
 
 std::optional<Text> LinuxHotKeyCenter::text(xcb_keycode_t key, std::uint32_t group, bool withShift) {

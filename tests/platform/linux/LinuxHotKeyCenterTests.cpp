@@ -269,6 +269,34 @@ TEST_F(LinuxHotKeyCenterTest, LetsTheKeyboardGoWhenTheWindowNeverGetsTheFocus) {
     EXPECT_EQ(presses(), 3);
 }
 
+TEST_F(LinuxHotKeyCenterTest, LetsTheKeyboardGoWhileItsThreadIsBlocked) {
+    focusByThemselves();
+    registered();
+    // Nothing of the center is dispatched in here; the second press is one that its thread does not know of.
+    onPress = [this] {
+        onPress = nullptr;
+        TestLoop elsewhere;
+        elsewhere.watch(front_);
+        const auto typedArrive = [&](std::size_t inAll) {
+            releaseHotKey();
+            typeTenKeys();
+            keyboard_.flush();
+            EXPECT_TRUE(elsewhere.runUntil([&] { return front_.presses().size() == inAll; }))
+                << front_.presses().size() << " of " << inAll;
+        };
+        typedArrive(12);
+        pressHotKey();
+        typedArrive(24);
+    };
+    pressHotKey();
+    keyboard_.flush();
+    ASSERT_TRUE(loop_.runUntil([&] { return presses() == 2 && releases() == 2; }));
+
+    // Whatever was done too late has not ended a later hold.
+    toggleOnPress();
+    toggleAndType(5);
+}
+
 TEST_F(LinuxHotKeyCenterTest, ReportsTheReleaseOnceInWhateverOrderTheKeysComeUp) {
     focusByThemselves();
     toggleOnPress();
