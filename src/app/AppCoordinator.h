@@ -23,6 +23,7 @@
 #include "platform/ProcessRunner.h"
 #include "platform/StatusItem.h"
 #include "platform/UserInterface.h"
+#include "platform/UserNotifications.h"
 #include "platform/Workspace.h"
 #include "settings/SettingsWindowController.h"
 #include "stores/CommandHistoryStore.h"
@@ -45,6 +46,7 @@ struct Platform {
     MainQueue& mainQueue;
     ProcessRunner& processRunner;
     UserInterface& userInterface;
+    UserNotifications& notifications;
     PreferencesDomain& preferences;
     KeyboardShortcuts& shortcuts;
     const TextServices& textServices;

@@ -15,6 +15,7 @@
 #include "platform/memory/MemoryProcessRunner.h"
 #include "platform/memory/MemorySettingsWindow.h"
 #include "platform/memory/MemoryUserInterface.h"
+#include "platform/memory/MemoryUserNotifications.h"
 #include "platform/memory/MemoryWorkspace.h"
 
 namespace tovrel {
@@ -72,6 +73,7 @@ class AppCoordinatorTest : public testing::Test {
                      .mainQueue = queue_,
                      .processRunner = runner_,
                      .userInterface = userInterface_,
+                     .notifications = notifications_,
                      .preferences = preferences_,
                      .shortcuts = shortcuts_,
                      .textServices = textServices_,
@@ -123,6 +125,7 @@ class AppCoordinatorTest : public testing::Test {
     ManualQueue queue_;
     MemoryProcessRunner runner_;
     MemoryUserInterface userInterface_;
+    MemoryUserNotifications notifications_;
     MemoryPreferencesDomain preferences_;
     std::ostringstream output_;
     KeyboardShortcuts shortcuts_{preferences_, center_, userInterface_, textServices_, output_};

@@ -82,6 +82,7 @@ Platform ResidentProgram::platform() {
             .mainQueue = queue_,
             .processRunner = processRunner_,
             .userInterface = userInterface_,
+            .notifications = notifications_,
             .preferences = preferences_,
             .shortcuts = shortcuts_,
             .textServices = textServices_,

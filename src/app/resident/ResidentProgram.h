@@ -24,6 +24,7 @@
 #include "platform/qt/QtPalettePanel.h"
 #include "platform/qt/QtSettingsWindow.h"
 #include "platform/qt/QtUserInterface.h"
+#include "platform/qt/QtUserNotifications.h"
 #include "platform/qt/Translations.h"
 #include "platform/qt/ViewEngine.h"
 #include "settings/SettingsWindowController.h"
@@ -73,6 +74,7 @@ class ResidentProgram {
     Translations translations_;
     ViewEngine views_;
     QtUserInterface userInterface_;
+    QtUserNotifications notifications_;
     AccessibilityOffer accessibilityOffer_;
     KeyboardShortcuts shortcuts_;
     QtPalettePanel* panel_ = nullptr; ///< Owned by the coordinator.
