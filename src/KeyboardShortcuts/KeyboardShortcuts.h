@@ -36,6 +36,9 @@ class KeyboardShortcuts {
     /// All references must outlive the object. `output` gets a line for each combination that was refused.
     KeyboardShortcuts(PreferencesDomain& defaults, HotKeyCenter& center, UserInterface& userInterface,
                       const TextServices& textServices, std::ostream& output);
+    ~KeyboardShortcuts();
+    KeyboardShortcuts(const KeyboardShortcuts&) = delete;
+    KeyboardShortcuts& operator=(const KeyboardShortcuts&) = delete;
 
     /// Makes a name usable: stores its default when nothing at all is stored for it yet.
     Name makeName(std::string rawValue, std::optional<Shortcut> defaultShortcut);
@@ -45,6 +48,18 @@ class KeyboardShortcuts {
     /// Stores and registers the shortcut in place of the one before; an absent one removes that. A name
     /// without a shortcut stays untouched by its removal.
     void setShortcut(const std::optional<Shortcut>& shortcut, const Name& name);
+
+    /// Why the name's shortcut does not fire although it is registered; absent while it does.
+    [[nodiscard]] std::optional<HotKeyError> refusal(const Name& name) const;
+
+    /// Tries what was refused once more: nothing tells when another program lets a combination go. A change
+    /// of the keyboard does so by itself.
+    void retryRefused();
+
+    /// The observer is called when some shortcut was refused, or could be had at last.
+    [[nodiscard]] Subscription onAvailabilityDidChange(std::function<void()> observer) const {
+        return availabilityDidChange_.subscribe(std::move(observer));
+    }
 
     /// Adds a handler, called after those added before. Registers the name's shortcut if it is not yet.
     void onKeyDown(const Name& name, Handler handler);
@@ -78,14 +93,18 @@ class KeyboardShortcuts {
     void callHandlers(const HandlersByName& handlersByName, const Shortcut& fired) const;
     void registerOnce(const Shortcut& shortcut);
     void unregister(const Shortcut& shortcut);
+    void tellAvailability();
 
     PreferencesDomain* defaults_;
+    HotKeyCenter* center_;
     HandlersByName keyDownHandlers_;
     HandlersByName keyUpHandlers_;
     std::set<Shortcut> registeredShortcuts_;
     HotKeyRegistrations hotKeys_;
     Subscription menuTracking_;
     bool isPaused_ = false;
+    std::map<Shortcut, HotKeyError> toldRefusals_;
+    ObserverList<> availabilityDidChange_;
     ObserverList<const Name&> shortcutByNameDidChange_;
     ObserverList<bool> recorderActiveStatusDidChange_;
 };

@@ -78,6 +78,8 @@ void readProperty(DBusMessage& message, std::string_view name, ResidentStatus& s
         readFlag(message, status.isAccessibilityTrusted);
     } else if (name == "Shortcut") {
         readText(message, status.shortcut);
+    } else if (name == "ShortcutProblem") {
+        readText(message, status.shortcutProblem);
     } else if (name == "Target") {
         readText(message, status.target);
     } else {

@@ -14,8 +14,9 @@ struct ResidentStatus {
     std::uint32_t processIdentifier = 0;
     bool isPaletteVisible = false;
     bool isAccessibilityTrusted = false;
-    std::string shortcut; ///< For people, such as "Ctrl+Shift+P"; empty when there is none.
-    std::string target;   ///< Identifier of the application the palette was last prepared for; may be empty.
+    std::string shortcut;        ///< For people, such as "Ctrl+Shift+P"; empty when there is none.
+    std::string shortcutProblem; ///< Why it does not work, in the user's language; empty while it does.
+    std::string target; ///< Identifier of the application the palette was last prepared for; may be empty.
 };
 
 /// Speaks to the resident program over the session bus. Throws Failure when there is no session bus, the

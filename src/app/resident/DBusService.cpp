@@ -8,10 +8,10 @@
 
 namespace tovrel {
 
-DBusService::DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutForPeople shortcutForPeople,
+DBusService::DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutTexts shortcutTexts,
                          std::function<void()> quit)
-    : coordinator_(std::move(coordinator)), shortcutForPeople_(std::move(shortcutForPeople)),
-      quit_(std::move(quit)) {}
+    : coordinator_(std::move(coordinator)), shortcutTexts_(std::move(shortcutTexts)), quit_(std::move(quit)) {
+}
 
 bool DBusService::registerOnSessionBus() {
     QDBusConnection bus = QDBusConnection::sessionBus();
@@ -39,7 +39,11 @@ bool DBusService::isAccessibilityTrusted() const {
 }
 
 QString DBusService::shortcut() const {
-    return QString::fromStdString(shortcutForPeople_().utf8());
+    return QString::fromStdString(shortcutTexts_.shortcut().utf8());
+}
+
+QString DBusService::shortcutProblem() const {
+    return QString::fromStdString(shortcutTexts_.problem().utf8());
 }
 
 QString DBusService::target() const {

@@ -19,14 +19,6 @@
 
 namespace tovrel {
 
-/// Why a hot key was refused, beside the error codes of the X protocol (10 BadAccess: another client has it).
-namespace hot_key_errors {
-inline constexpr HotKeyError noServer = -1;          ///< No X server, or one without XI 2.1.
-inline constexpr HotKeyError noSuchKey = -2;         ///< The keyboard has no key of that code.
-inline constexpr HotKeyError noSuchModifier = -3;    ///< The keyboard has no key for one of the modifiers.
-inline constexpr HotKeyError alreadyRegistered = -4; ///< This object has the combination already.
-} // namespace hot_key_errors
-
 /// Hot keys of an X11 desktop, on a connection of their own.
 ///
 /// No keystroke is lost between a hot key and the window it opens: from the instant the hot key fires the
@@ -58,9 +50,14 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
                    HotKeyIdentifier identifier) override;
     /// The release of a key that is down is not reported any more. When this returns, the server knows.
     void unregisterHotKey(HotKeyHandle handle) override;
+    [[nodiscard]] std::optional<HotKeyError> refusal(HotKeyHandle handle) const override;
+    void setKeyboardHandler(KeyboardHandler handler) override { keyboardHandler_ = std::move(handler); }
     void setHotKeyHandler(HotKeyHandler handler) override;
     /// The keys are those typed anywhere while the handler is set; they reach their window as well.
     void setRawKeyHandler(RawKeyHandler handler) override;
+    /// The focused window does not notice.
+    [[nodiscard]] bool takeKeyboard(KeyHandler handler, std::function<void()> onLoss) override;
+    void giveKeyboardBack(bool passesKeyOn) override;
     /// An X server keeps no list of the grabs of others: this one is tried, and given back at once.
     [[nodiscard]] bool isSystemShortcut(const Shortcut& shortcut) override;
     [[nodiscard]] std::optional<Text> characterForKeyCode(std::uint32_t keyCode) override;
@@ -84,17 +81,21 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
         std::uint32_t keyCode = 0;
         ModifierFlags modifiers = 0;
         X11HotKeyGrab grab;
-        bool isTaken = false; ///< False only if the keyboard has changed and the grab was refused since.
+        std::optional<HotKeyError> refusal; ///< Of the grab, since the keyboard has changed.
         KeyState state = KeyState::up;
     };
 
     /// What the keyboard makes of a combination at present.
     [[nodiscard]] std::variant<X11HotKeyGrab, HotKeyError> grabFor(std::uint32_t keyCode,
                                                                    ModifierFlags modifiers) const;
+    /// Takes the grab; why it cannot be had, else.
+    [[nodiscard]] std::optional<HotKeyError> take(const X11HotKeyGrab& grab) const;
     [[nodiscard]] Registration* find(HotKeyHandle handle);
 
     void handle(const xcb_generic_event_t& event, KeyboardGuard::Hold hold);
+    void handleKey(const xcb_key_press_event_t& event, KeyboardGuard::Hold hold);
     void handlePress(const xcb_key_press_event_t& event, KeyboardGuard::Hold hold);
+    void handleTakenKey(const xcb_key_press_event_t& event, bool isPress, KeyboardGuard::Hold hold);
     void handleRawKey(const X11RawKeys::Key& key);
     void released(HotKeyHandle handle);
     void report(HotKeyIdentifier identifier, HotKeyEventKind kind);
@@ -129,6 +130,7 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
 
     std::vector<Registration> registrations_;
     HotKeyHandle lastHandle_ = 0;
+    KeyboardHandler keyboardHandler_;
     HotKeyHandler handler_;
     RawKeyHandler rawHandler_;
     XkbExtension::State keyboardState_; ///< Kept up to date while there is a raw handler.
@@ -136,6 +138,10 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
     KeyboardGuard::Hold currentHold_ = 0; ///< 0 once this object has let the keyboard go.
     HotKeyHandle heldFor_ = 0;
     xcb_timestamp_t lastPressTime_ = 0;
+
+    KeyHandler keyHandler_; ///< While the keyboard is taken.
+    std::function<void()> onKeyboardLoss_;
+    KeyboardGuard::Hold takenKey_ = 0; ///< Of the key that it is handling; 0 between keys.
     std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true); ///< For tasks that outlive this.
 };
 

@@ -45,6 +45,7 @@ void SettingsViewAdapter::selectTab(int index) {
 
 void SettingsViewAdapter::refresh() {
     state_->viewModel().reload();
+    general_.recorder()->retry();
 }
 
 } // namespace tovrel
