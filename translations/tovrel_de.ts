@@ -431,6 +431,34 @@
         <source>space_key</source>
         <translation>Leertaste</translation>
     </message>
+    <message>
+        <source>The shortcut %@ is not available</source>
+        <translation>Das Kürzel %@ ist nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Another program uses this shortcut.</source>
+        <translation>Ein anderes Programm benutzt dieses Kürzel.</translation>
+    </message>
+    <message>
+        <source>This desktop has no global shortcuts.</source>
+        <translation>Dieser Desktop kennt keine globalen Kürzel.</translation>
+    </message>
+    <message>
+        <source>The keyboard lacks the key of this shortcut.</source>
+        <translation>Der Tastatur fehlt die Taste dieses Kürzels.</translation>
+    </message>
+    <message>
+        <source>The keyboard lacks a modifier key of this shortcut.</source>
+        <translation>Der Tastatur fehlt eine Umschalttaste dieses Kürzels.</translation>
+    </message>
+    <message>
+        <source>Tovrel itself uses this shortcut.</source>
+        <translation>Tovrel selbst benutzt dieses Kürzel.</translation>
+    </message>
+    <message>
+        <source>The desktop refuses this shortcut.</source>
+        <translation>Der Desktop lehnt dieses Kürzel ab.</translation>
+    </message>
 </context>
 <context>
     <name>MenuFilterTab</name>
@@ -673,6 +701,13 @@
     <message>
         <source>The last change was not stored</source>
         <translation>Die letzte Änderung wurde nicht gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutProblem</name>
+    <message>
+        <source>Not available: %1 Choose another one, or set it free there and refresh.</source>
+        <translation>Nicht verfügbar: %1 Wähle ein anderes, oder gib es dort frei und aktualisiere.</translation>
     </message>
 </context>
 <context>

@@ -43,15 +43,8 @@ HotKeyRegistrations::~HotKeyRegistrations() {
 void HotKeyRegistrations::registerShortcut(const Shortcut& shortcut) {
     lastId_ = checkedAdd(lastId_, 1);
     const std::uint32_t id = unsigned32(lastId_);
-    const std::optional<HotKeyHandle> handle = take(shortcut, id);
-    if (!handle) {
-        return;
-    }
-    records_.emplace(id, Record{shortcut, handle});
-    if (!isHandlerInstalled_) {
-        isHandlerInstalled_ = true;
-        updateEventHandler();
-    }
+    take(id, records_.emplace(id, Record{shortcut, std::nullopt, std::nullopt}).first->second);
+    installHandlerOnce();
 }
 
 void HotKeyRegistrations::unregisterShortcut(const Shortcut& shortcut) {
@@ -65,6 +58,33 @@ void HotKeyRegistrations::unregisterShortcut(const Shortcut& shortcut) {
         }
         return true;
     });
+    down_.erase(shortcut);
+}
+
+void HotKeyRegistrations::retryRefused() {
+    if (isMenuOpen_) {
+        return; // At its end all are tried.
+    }
+    for (auto& [id, record] : records_) {
+        if (const auto refusal = record.handle ? center_->refusal(*record.handle) : std::nullopt) {
+            center_->unregisterHotKey(*std::exchange(record.handle, std::nullopt));
+            record.refusal = refusal;
+        }
+        if (!record.handle) {
+            take(id, record);
+        }
+    }
+    installHandlerOnce();
+}
+
+std::map<Shortcut, HotKeyError> HotKeyRegistrations::refusals() const {
+    std::map<Shortcut, HotKeyError> refusals;
+    for (const auto& [id, record] : records_) {
+        if (record.refusal) {
+            refusals.emplace(record.shortcut, *record.refusal);
+        }
+    }
+    return refusals;
 }
 
 void HotKeyRegistrations::setMenuOpen(bool isOpen) {
@@ -73,17 +93,31 @@ void HotKeyRegistrations::setMenuOpen(bool isOpen) {
     }
 }
 
-std::optional<HotKeyHandle> HotKeyRegistrations::take(const Shortcut& shortcut, std::uint32_t id) {
+void HotKeyRegistrations::take(std::uint32_t id, Record& record) {
+    const Shortcut& shortcut = record.shortcut;
     const auto result = center_->registerHotKey(unsigned32(shortcut.carbonKeyCode),
                                                 unsigned32(shortcut.carbonModifiers), {signature, id});
-    if (const auto* error = std::get_if<HotKeyError>(&result)) {
+    if (const auto* handle = std::get_if<HotKeyHandle>(&result)) {
+        record.handle = *handle;
+        record.refusal.reset();
+        return;
+    }
+    const HotKeyError error = std::get<HotKeyError>(result);
+    if (!std::exchange(record.refusal, error)) {
         const Text text = symbolicText(
             shortcut, [this](std::uint32_t keyCode) { return center_->characterForKeyCode(keyCode); },
             *textServices_);
-        *output_ << "Error registering hotkey " << printable(text.utf8()) << ": " << *error << std::endl;
-        return std::nullopt;
+        *output_ << "Error registering hotkey " << printable(text.utf8()) << ": "
+                 << static_cast<std::int32_t>(error) << std::endl;
     }
-    return std::get<HotKeyHandle>(result);
+}
+
+void HotKeyRegistrations::installHandlerOnce() {
+    const bool isNeeded = std::any_of(records_.begin(), records_.end(),
+                                      [](const auto& entry) { return entry.second.handle.has_value(); });
+    if (isNeeded && !std::exchange(isHandlerInstalled_, true)) {
+        updateEventHandler();
+    }
 }
 
 void HotKeyRegistrations::updateEventHandler() {
@@ -99,11 +133,12 @@ void HotKeyRegistrations::updateEventHandler() {
     }
     for (auto& [id, record] : records_) {
         if (!record.handle) {
-            record.handle = take(record.shortcut, id);
+            take(id, record);
         }
     }
-    std::erase_if(records_, [](const auto& entry) { return !entry.second.handle; });
-    center_->setRawKeyHandler(nullptr);
+    if (down_.empty()) {
+        center_->setRawKeyHandler(nullptr);
+    }
     center_->setHotKeyHandler([this](const HotKeyEvent& event) { return handleHotKey(event); });
 }
 
@@ -113,19 +148,42 @@ bool HotKeyRegistrations::handleHotKey(const HotKeyEvent& event) {
         return false;
     }
     const Shortcut shortcut = found->second.shortcut; // the callback may unregister it
-    (event.kind == HotKeyEventKind::pressed ? onKeyDown_ : onKeyUp_)(shortcut);
+    if (event.kind == HotKeyEventKind::pressed) {
+        down_.insert(shortcut);
+        onKeyDown_(shortcut);
+    } else {
+        down_.erase(shortcut);
+        onKeyUp_(shortcut);
+    }
     return true;
 }
 
 bool HotKeyRegistrations::handleRawKey(const KeyEvent& event) {
-    const Shortcut pressed{event.keyCode, carbonModifiers(event.modifierFlags)};
-    const auto found = std::find_if(records_.begin(), records_.end(),
-                                    [&](const auto& entry) { return entry.second.shortcut == pressed; });
-    if (found == records_.end()) {
-        return false;
+    if (event.type == KeyEventType::keyUp) {
+        // The modifiers may have come up before the key.
+        const auto found = std::find_if(down_.begin(), down_.end(), [&](const Shortcut& shortcut) {
+            return shortcut.carbonKeyCode == event.keyCode;
+        });
+        if (found == down_.end()) {
+            return false;
+        }
+        const Shortcut released = *found;
+        down_.erase(found);
+        if (!isMenuOpen_ && down_.empty()) {
+            center_->setRawKeyHandler(nullptr);
+        }
+        onKeyUp_(released);
+        return true;
     }
-    (event.type == KeyEventType::keyDown ? onKeyDown_ : onKeyUp_)(pressed);
-    return true;
+    const Shortcut pressed{event.keyCode, carbonModifiers(event.modifierFlags)};
+    const bool isOurs = isMenuOpen_ && std::any_of(records_.begin(), records_.end(), [&](const auto& entry) {
+                            return entry.second.shortcut == pressed && !entry.second.refusal;
+                        });
+    if (isOurs) {
+        down_.insert(pressed);
+        onKeyDown_(pressed);
+    }
+    return isOurs;
 }
 
 } // namespace tovrel

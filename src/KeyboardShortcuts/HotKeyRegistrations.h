@@ -5,6 +5,7 @@
 #include <iosfwd>
 #include <map>
 #include <optional>
+#include <set>
 
 #include "model/Shortcut.h"
 #include "platform/HotKeyCenter.h"
@@ -15,7 +16,8 @@ namespace tovrel {
 /// The shortcuts this module has registered system-wide, and the events that come of them.
 ///
 /// While one of the program's menus is open the desktop delivers no hot keys: they are then given back, and
-/// the raw key events that reach the menu are matched instead.
+/// the raw key events that reach the menu are matched instead. A shortcut that is down when a menu opens or
+/// closes is followed to its release all the same.
 class HotKeyRegistrations {
   public:
     /// Told the shortcut that went down or up.
@@ -28,10 +30,16 @@ class HotKeyRegistrations {
     HotKeyRegistrations(const HotKeyRegistrations&) = delete;
     HotKeyRegistrations& operator=(const HotKeyRegistrations&) = delete;
 
-    /// A refused shortcut does not fire, and nothing else happens. A key code or modifiers outside 32 bits
-    /// end the process.
+    /// A refused shortcut does not fire until it can be had. A key code or modifiers outside 32 bits end the
+    /// process.
     void registerShortcut(const Shortcut& shortcut);
     void unregisterShortcut(const Shortcut& shortcut);
+
+    /// Tries what was refused once more, without another line of output.
+    void retryRefused();
+
+    /// The registered shortcuts that do not fire, and why.
+    [[nodiscard]] std::map<Shortcut, HotKeyError> refusals() const;
 
     /// Whether one of this program's menus is open. Initially none is.
     void setMenuOpen(bool isOpen);
@@ -39,10 +47,12 @@ class HotKeyRegistrations {
   private:
     struct Record {
         Shortcut shortcut;
-        std::optional<HotKeyHandle> handle; ///< Absent while given back.
+        std::optional<HotKeyHandle> handle; ///< Absent while given back or refused.
+        std::optional<HotKeyError> refusal; ///< When it was tried last.
     };
 
-    std::optional<HotKeyHandle> take(const Shortcut& shortcut, std::uint32_t id);
+    void take(std::uint32_t id, Record& record);
+    void installHandlerOnce();
     void updateEventHandler();
     bool handleHotKey(const HotKeyEvent& event);
     bool handleRawKey(const KeyEvent& event);
@@ -56,6 +66,7 @@ class HotKeyRegistrations {
     std::int64_t lastId_ = 0;
     bool isHandlerInstalled_ = false;
     bool isMenuOpen_ = false;
+    std::set<Shortcut> down_; ///< Those that fired and have not come up.
 };
 
 } // namespace tovrel

@@ -16,11 +16,21 @@ std::string storageKey(const KeyboardShortcuts::Name& name) {
 KeyboardShortcuts::KeyboardShortcuts(PreferencesDomain& defaults, HotKeyCenter& center,
                                      UserInterface& userInterface, const TextServices& textServices,
                                      std::ostream& output)
-    : defaults_(&defaults), hotKeys_(
-                                center, textServices, output,
-                                [this](const Shortcut& fired) { callHandlers(keyDownHandlers_, fired); },
-                                [this](const Shortcut& fired) { callHandlers(keyUpHandlers_, fired); }),
-      menuTracking_(userInterface.onMenuTracking([this](bool isOpen) { hotKeys_.setMenuOpen(isOpen); })) {}
+    : defaults_(&defaults), center_(&center),
+      hotKeys_(
+          center, textServices, output,
+          [this](const Shortcut& fired) { callHandlers(keyDownHandlers_, fired); },
+          [this](const Shortcut& fired) { callHandlers(keyUpHandlers_, fired); }),
+      menuTracking_(userInterface.onMenuTracking([this](bool isOpen) {
+          hotKeys_.setMenuOpen(isOpen);
+          tellAvailability();
+      })) {
+    center.setKeyboardHandler([this] { retryRefused(); });
+}
+
+KeyboardShortcuts::~KeyboardShortcuts() {
+    center_->setKeyboardHandler(nullptr);
+}
 
 KeyboardShortcuts::Name KeyboardShortcuts::makeName(std::string rawValue,
                                                     std::optional<Shortcut> defaultShortcut) {
@@ -87,6 +97,19 @@ void KeyboardShortcuts::setShortcut(const std::optional<Shortcut>& shortcut, con
         }
     }
     shortcutByNameDidChange_.notify(name);
+    tellAvailability();
+}
+
+std::optional<HotKeyError> KeyboardShortcuts::refusal(const Name& name) const {
+    const auto refusals = hotKeys_.refusals();
+    const auto shortcut = getShortcut(name);
+    const auto found = shortcut ? refusals.find(*shortcut) : refusals.end();
+    return found == refusals.end() ? std::nullopt : std::optional(found->second);
+}
+
+void KeyboardShortcuts::retryRefused() {
+    hotKeys_.retryRefused();
+    tellAvailability();
 }
 
 bool KeyboardShortcuts::store(const std::optional<Shortcut>& shortcut, const Name& name) {
@@ -119,6 +142,7 @@ void KeyboardShortcuts::enable(const std::vector<Name>& names) {
             registerOnce(*shortcut);
         }
     }
+    tellAvailability();
 }
 
 void KeyboardShortcuts::setRecorderActive(bool isActive) {
@@ -156,6 +180,14 @@ void KeyboardShortcuts::registerOnce(const Shortcut& shortcut) {
 void KeyboardShortcuts::unregister(const Shortcut& shortcut) {
     hotKeys_.unregisterShortcut(shortcut);
     registeredShortcuts_.erase(shortcut);
+}
+
+void KeyboardShortcuts::tellAvailability() {
+    auto refusals = hotKeys_.refusals();
+    if (refusals != toldRefusals_) {
+        toldRefusals_ = std::move(refusals);
+        availabilityDidChange_.notify();
+    }
 }
 
 } // namespace tovrel

@@ -36,6 +36,9 @@ class KeyboardShortcuts {
     /// All references must outlive the object. `output` gets a line for each combination that was refused.
     KeyboardShortcuts(PreferencesDomain& defaults, HotKeyCenter& center, UserInterface& userInterface,
                       const TextServices& textServices, std::ostream& output);
+    ~KeyboardShortcuts();
+    KeyboardShortcuts(const KeyboardShortcuts&) = delete;
+    KeyboardShortcuts& operator=(const KeyboardShortcuts&) = delete;
 
     /// Makes a name usable: stores its default when nothing at all is stored for it yet. While it cannot be
     /// known whether anything is, or the default cannot be stored, the default holds as if it were.
@@ -50,6 +53,18 @@ class KeyboardShortcuts {
     /// Stores and registers the shortcut in place of the one before; an absent one removes that. A name
     /// without a shortcut stays untouched by its removal, and so does every name when this cannot be stored.
     void setShortcut(const std::optional<Shortcut>& shortcut, const Name& name);
+
+    /// Why the name's shortcut does not fire although it is registered; absent while it does.
+    [[nodiscard]] std::optional<HotKeyError> refusal(const Name& name) const;
+
+    /// Tries what was refused once more: nothing tells when another program lets a combination go. A change
+    /// of the keyboard does so by itself.
+    void retryRefused();
+
+    /// The observer is called when some shortcut was refused, or could be had at last.
+    [[nodiscard]] Subscription onAvailabilityDidChange(std::function<void()> observer) const {
+        return availabilityDidChange_.subscribe(std::move(observer));
+    }
 
     /// Adds a handler, called after those added before. Registers the name's shortcut if it is not yet.
     void onKeyDown(const Name& name, Handler handler);
@@ -85,8 +100,10 @@ class KeyboardShortcuts {
     void callHandlers(const HandlersByName& handlersByName, const Shortcut& fired) const;
     void registerOnce(const Shortcut& shortcut);
     void unregister(const Shortcut& shortcut);
+    void tellAvailability();
 
     PreferencesDomain* defaults_;
+    HotKeyCenter* center_;
     std::map<std::string, Name> unstoredDefaults_; ///< By raw value: names whose default is to be stored.
     HandlersByName keyDownHandlers_;
     HandlersByName keyUpHandlers_;
@@ -94,6 +111,8 @@ class KeyboardShortcuts {
     HotKeyRegistrations hotKeys_;
     Subscription menuTracking_;
     bool isPaused_ = false;
+    std::map<Shortcut, HotKeyError> toldRefusals_;
+    ObserverList<> availabilityDidChange_;
     ObserverList<const Name&> shortcutByNameDidChange_;
     ObserverList<bool> recorderActiveStatusDidChange_;
 };

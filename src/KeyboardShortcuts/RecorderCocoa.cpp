@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "KeyboardShortcuts/HotKeyErrorText.h"
 #include "model/VirtualKeyCodes.h"
 
 namespace tovrel {
@@ -36,12 +37,14 @@ RecorderCocoa::RecorderCocoa(RecorderSurroundings surroundings, KeyboardShortcut
               if (changed.rawValue == name_.rawValue) {
                   showShortcut();
               }
-          })) {
+          })),
+      availabilityChange_(surroundings_.shortcuts.onAvailabilityDidChange([this] { showProblem(); })) {
     showShortcut();
 }
 
 RecorderCocoa::~RecorderCocoa() {
     if (isRecording_.get()) {
+        surroundings_.hotKeyCenter.giveKeyboardBack(false);
         surroundings_.shortcuts.setRecorderActive(false);
     }
 }
@@ -53,26 +56,42 @@ void RecorderCocoa::becomeFirstResponder() {
     placeholder_.set(surroundings_.localized("KeyboardShortcuts", "press_shortcut"));
     surroundings_.shortcuts.setRecorderActive(true);
     isRecording_.set(true);
+    // Refused while another program has the keyboard: then its window's own keys have to do.
+    static_cast<void>(surroundings_.hotKeyCenter.takeKeyboard(
+        [this](const KeyEvent& event) {
+            if (event.type == KeyEventType::keyDown) {
+                handleKeyDown(event);
+            }
+        },
+        [this] { endRecording(); }));
 }
 
-void RecorderCocoa::endRecording() {
+void RecorderCocoa::endRecording(bool passesKeyOn) {
     if (!isRecording_.get()) {
         return;
     }
+    surroundings_.hotKeyCenter.giveKeyboardBack(passesKeyOn);
     placeholder_.set(surroundings_.localized("KeyboardShortcuts", "record_shortcut"));
     surroundings_.shortcuts.setRecorderActive(false);
     isRecording_.set(false);
 }
 
 bool RecorderCocoa::handleKeyDown(const KeyEvent& event) {
-    if (!isRecording_.get() || isModifierKey(event.keyCode)) {
+    if (!isRecording_.get() || isHandlingKey_.get() || isModifierKey(event.keyCode)) {
         return false;
     }
+    isHandlingKey_.set(true);
+    const bool isUsed = handleKey(event);
+    isHandlingKey_.set(false);
+    return isUsed;
+}
+
+bool RecorderCocoa::handleKey(const KeyEvent& event) {
     const ModifierFlags modifiers = event.modifierFlags & anyModifier;
     if (modifiers == 0) {
         switch (event.keyCode) {
         case key_codes::tab:
-            endRecording();
+            endRecording(true);
             return false;
         case key_codes::escape:
             endRecording();
@@ -118,8 +137,11 @@ bool RecorderCocoa::isForced() {
          .informativeText = localized("KeyboardShortcuts", "keyboard_shortcuts_can_be_changed"),
          .firstButton = localized("KeyboardShortcuts", "ok"),
          .secondButton = localized("KeyboardShortcuts", "force_use_shortcut")});
-    focusRequest_.set(true);
-    return answer == AlertAnswer::secondButton;
+    const bool isForced = answer == AlertAnswer::secondButton;
+    if (!isForced) {
+        focusRequest_.set(true);
+    }
+    return isForced;
 }
 
 void RecorderCocoa::refuse(const Text& message) {
@@ -141,6 +163,12 @@ void RecorderCocoa::clear() {
 void RecorderCocoa::showShortcut() {
     const std::optional<Shortcut> shortcut = surroundings_.shortcuts.getShortcut(name_);
     stringValue_.set(shortcut ? surroundings_.textOf(*shortcut) : Text());
+    showProblem();
+}
+
+void RecorderCocoa::showProblem() {
+    const auto refusal = surroundings_.shortcuts.refusal(name_);
+    problem_.set(refusal ? hotKeyErrorText(*refusal, surroundings_.localized) : Text());
 }
 
 } // namespace tovrel

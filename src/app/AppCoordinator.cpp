@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/CommandFailureForPeople.h"
+#include "app/ShortcutForPeople.h"
 #include "app/StorageKeys.h"
 #include "commands/CommandIndex.h"
 #include "hotkeys/PaletteHotKeyRoutingPolicy.h"
@@ -73,6 +74,7 @@ void AppCoordinator::start() {
         }
     });
     storeDefaultShortcut();
+    addShortcutNotice();
     showAccessibilityOnboardingIfNeeded();
 }
 
@@ -85,6 +87,10 @@ void AppCoordinator::warmUp() {
 }
 
 void AppCoordinator::handleTogglePalette() {
+    platform_.userInterface.closeMenu();
+    if (isAsking()) {
+        return;
+    }
     if (shouldForwardToggleShortcut()) {
         paletteWindowController().close();
         hotKeyManager_->forwardToggleShortcut();
@@ -132,6 +138,9 @@ std::vector<Command> AppCoordinator::refreshCommands() {
 }
 
 void AppCoordinator::execute(const Command& command) {
+    if (isAsking()) {
+        return;
+    }
     if (const auto* custom = std::get_if<CustomCommand>(&command.action)) {
         executeCustom(command, *custom);
     } else {
@@ -260,6 +269,35 @@ void AppCoordinator::addStatusItem() {
              statusMenuItem(localized("StatusMenu", "Quit Tovrel"), "q", "power", &AppCoordinator::quit)}});
 }
 
+void AppCoordinator::addShortcutNotice() {
+    const auto textOf = [&platform = platform_](const Shortcut& shortcut) {
+        const auto character = [&platform](std::uint32_t keyCode) {
+            return platform.hotKeyCenter.characterForKeyCode(keyCode);
+        };
+        return shortcutForPeople(shortcut, character, platform.textServices, platform.localized);
+    };
+    shortcutNotice_ = std::make_unique<ShortcutNotice>(
+        ShortcutNotice::Surroundings{.shortcuts = platform_.shortcuts,
+                                     .notifications = platform_.notifications,
+                                     .localized = platform_.localized,
+                                     .textOf = textOf,
+                                     .setToolTip =
+                                         [this](const Text& toolTip) {
+                                             if (statusItem_) {
+                                                 statusItem_->setToolTip(toolTip);
+                                             }
+                                         }},
+        togglePalette_);
+}
+
+bool AppCoordinator::isAsking() {
+    const bool isAsking = platform_.userInterface.isAlertOpen();
+    if (isAsking) {
+        platform_.userInterface.activate();
+    }
+    return isAsking;
+}
+
 StatusMenuItem AppCoordinator::statusMenuItem(Text title, std::optional<Text> keyEquivalent, Text symbol,
                                               void (AppCoordinator::*action)()) {
     return {.title = std::move(title),
@@ -277,6 +315,10 @@ void AppCoordinator::quit() {
 }
 
 void AppCoordinator::showSettings() {
+    if (isAsking()) {
+        return;
+    }
+    platform_.shortcuts.retryRefused();
     const std::shared_ptr<RunningApplication> target = frontmostAppMonitor_.resolveTargetApplication();
     // What the settings see of the application is what it is now.
     auto model = std::make_shared<SettingsViewModel>(

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "app/ShortcutNotice.h"
 #include "execution/CommandExecutor.h"
 #include "hotkeys/FrontmostAppMonitor.h"
 #include "hotkeys/HotKeyManager.h"
@@ -115,6 +116,11 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
         return platform_.preferences.unstoredChange().get();
     }
 
+    /// Why the global shortcut does not work; absent while it does.
+    [[nodiscard]] std::optional<HotKeyError> shortcutRefusal() const {
+        return platform_.shortcuts.refusal(togglePalette_);
+    }
+
     /// By which the global shortcut is known.
     [[nodiscard]] const KeyboardShortcuts::Name& togglePalette() const { return togglePalette_; }
 
@@ -136,6 +142,9 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     void executeMenu(const Command& command, const MenuAction& action);
     [[nodiscard]] bool confirmCustomCommand(const CustomCommand& command);
     void addStatusItem();
+    void addShortcutNotice();
+    /// Whether a question of ours waits for its answer. It comes forward, and nothing else is to be opened.
+    [[nodiscard]] bool isAsking();
     [[nodiscard]] StatusMenuItem statusMenuItem(Text title, std::optional<Text> keyEquivalent, Text symbol,
                                                 void (AppCoordinator::*action)());
     void quit();
@@ -159,6 +168,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     FirstLaunchOnboardingStore firstLaunchOnboardingStore_;
     NotificationSettingsStore notificationSettingsStore_;
     std::unique_ptr<StatusItem> statusItem_;
+    std::unique_ptr<ShortcutNotice> shortcutNotice_;
     std::shared_ptr<RunningApplication> currentApplication_;
     std::vector<ScannedMenuItem> currentMenuItems_;
     std::unique_ptr<PaletteWindowController> paletteWindowController_;

@@ -95,6 +95,8 @@ void readProperty(DBusMessage& message, std::string_view name, ResidentStatus& s
         readText(message, status.shortcut);
     } else if (name == "Display") {
         readText(message, status.display);
+    } else if (name == "ShortcutProblem") {
+        readText(message, status.shortcutProblem);
     } else if (name == "Target") {
         readText(message, status.target);
     } else if (name == "UnstoredChange") {

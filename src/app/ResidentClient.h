@@ -16,9 +16,10 @@ struct ResidentStatus {
     std::uint32_t processIdentifier = 0;
     bool isPaletteVisible = false;
     bool isAccessibilityTrusted = false;
-    std::string shortcut; ///< For people, such as "Ctrl+Shift+P"; empty when there is none.
-    std::string display;  ///< Where it shows its windows, as `displayName` says it.
-    std::string target;   ///< Identifier of the application the palette was last prepared for; may be empty.
+    std::string shortcut;        ///< For people, such as "Ctrl+Shift+P"; empty when there is none.
+    std::string shortcutProblem; ///< Why it does not work, in the user's language; empty while it does.
+    std::string display;         ///< Where it shows its windows, as `displayName` says it.
+    std::string target; ///< Identifier of the application the palette was last prepared for; may be empty.
     /// Why the last change of the preferences could not be stored; empty when it could.
     std::string unstoredChange;
 };

@@ -42,16 +42,21 @@ int status(bool asJson, const Console& console) {
                                    {"paletteVisible", status.isPaletteVisible},
                                    {"accessibilityTrusted", status.isAccessibilityTrusted},
                                    {"shortcut", textOrNull(status.shortcut)},
+                                   {"shortcutProblem", textOrNull(status.shortcutProblem)},
                                    {"target", textOrNull(status.target)},
                                    {"unstoredChange", textOrNull(status.unstoredChange)}});
         console.output << '\n';
         return 0;
     }
+    const std::string problem =
+        status.shortcutProblem.empty()
+            ? ""
+            : "               not available: " + printable(status.shortcutProblem) + '\n';
     console.output << "tovrel " << printable(status.version) << " runs as process "
                    << status.processIdentifier << '\n'
                    << "Palette:       " << (status.isPaletteVisible ? "open" : "closed") << '\n'
                    << "Shortcut:      " << textOr(status.shortcut, "none") << '\n'
-                   << "Accessibility: " << (status.isAccessibilityTrusted ? "on" : "off") << '\n'
+                   << problem << "Accessibility: " << (status.isAccessibilityTrusted ? "on" : "off") << '\n'
                    << "Target:        " << textOr(status.target, "none yet") << '\n';
     if (!status.unstoredChange.empty()) {
         console.output << "Preferences:   the last change could not be stored: "

@@ -29,8 +29,15 @@ struct HotKeyEvent {
 
 /// Names one successful registration; no two have the same.
 using HotKeyHandle = std::uint64_t;
-/// Why a combination was refused, as the platform numbers its errors.
-using HotKeyError = std::int32_t;
+/// Why a combination cannot be had. The numbers are those that the line on standard output shows.
+enum class HotKeyError : std::int32_t {
+    takenByAnother = 10,    ///< Another program has it.
+    noHotKeys = -1,         ///< There is no display, or one without what hot keys need.
+    noSuchKey = -2,         ///< The keyboard has no key of that code.
+    noSuchModifier = -3,    ///< The keyboard has no key for one of the modifiers.
+    alreadyRegistered = -4, ///< This process has it already.
+    refused = -5,           ///< For a reason that says nothing to anyone.
+};
 
 /// System-wide hot keys: combinations that reach this process whatever application is in front.
 class HotKeyCenter {
@@ -38,17 +45,26 @@ class HotKeyCenter {
     /// Whether the event was for the handler; others are passed on.
     using HotKeyHandler = std::function<bool(const HotKeyEvent&)>;
     using RawKeyHandler = std::function<bool(const KeyEvent&)>;
+    using KeyboardHandler = std::function<void()>;
+    using KeyHandler = std::function<void(const KeyEvent&)>;
 
     virtual ~HotKeyCenter() = default;
 
-    /// Takes the combination for this process; `carbonModifiers` as in Shortcut. Refused, for example, when
-    /// another program has it, or when no key of the keyboard has the code. Nothing stays taken of a refused
-    /// one.
+    /// Takes the combination for this process; `carbonModifiers` as in Shortcut. Nothing stays taken of a
+    /// refused one.
     [[nodiscard]] virtual std::variant<HotKeyHandle, HotKeyError>
     registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers, HotKeyIdentifier identifier) = 0;
 
     /// Gives the combination back. A handle that is not registered is ignored.
     virtual void unregisterHotKey(HotKeyHandle handle) = 0;
+
+    /// Why a registered combination does not fire although it did once: the keyboard is another one since.
+    /// Absent while it fires, and for a handle that is not registered.
+    [[nodiscard]] virtual std::optional<HotKeyError> refusal(HotKeyHandle handle) const = 0;
+
+    /// From now on the handler is called when the keyboard has changed, so that other combinations may be had
+    /// than before; an empty one ends that.
+    virtual void setKeyboardHandler(KeyboardHandler handler) = 0;
 
     /// From now on presses and releases of registered combinations go to the handler; an empty one ends that.
     /// The release is reported also when the modifiers were released first.
@@ -57,6 +73,16 @@ class HotKeyCenter {
     /// From now on every key event that reaches this process while one of its menus is open goes to the
     /// handler; an empty one ends that.
     virtual void setRawKeyHandler(RawKeyHandler handler) = 0;
+
+    /// From now on every key goes to the handler and to nobody else, also what other programs and this one
+    /// have as hot keys. That ends with `giveKeyboardBack`, with the window that has the focus now, and
+    /// when a key has waited for 500 ms to be handled; then `onLoss` is called. False, and nothing changes,
+    /// when another program has the keyboard or it is taken already.
+    [[nodiscard]] virtual bool takeKeyboard(KeyHandler handler, std::function<void()> onLoss) = 0;
+
+    /// Without effect unless the keyboard is taken. The key that is being handled goes to the focused window
+    /// after all if `passesKeyOn`. Others that have been typed since do so in any case.
+    virtual void giveKeyboardBack(bool passesKeyOn) = 0;
 
     /// Whether the desktop or another program uses the combination, as far as that can be told. A combination
     /// registered here is not one of those.

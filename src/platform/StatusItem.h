@@ -20,6 +20,8 @@ struct StatusMenuItem {
 class StatusItem {
   public:
     virtual ~StatusItem() = default;
+
+    virtual void setToolTip(const Text& toolTip) = 0;
 };
 
 /// What a status item shows: an image in the colour of the bar, a tool tip, and a menu.

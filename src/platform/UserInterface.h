@@ -40,13 +40,21 @@ class UserInterface {
     [[nodiscard]] virtual std::optional<Rect> mainScreenVisibleFrame() = 0;
 
     /// Asks the question, as a warning, and returns once it is answered; events go on being handled.
+    /// The question belongs to the window from which it was asked, and until it is answered no other window
+    /// of this application takes keys or clicks. A second one is not asked meanwhile: its answer is none.
     [[nodiscard]] virtual AlertAnswer runAlert(const Alert& alert) = 0;
+
+    /// Whether a question is waiting for its answer.
+    [[nodiscard]] virtual bool isAlertOpen() const = 0;
 
     /// The item is shown as soon as the desktop has a status bar; null when it cannot have one.
     [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription description) = 0;
 
     /// The observer is called when one of this application's menus opens (true) and closes (false).
     [[nodiscard]] virtual Subscription onMenuTracking(std::function<void(bool)> observer) = 0;
+
+    /// Closes the one that is open, if any, as far as that is this process's and not the desktop's to do.
+    virtual void closeMenu() = 0;
 
     /// The short sound for what cannot be done.
     virtual void beep() = 0;

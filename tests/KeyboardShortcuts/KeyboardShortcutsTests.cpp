@@ -153,12 +153,63 @@ TEST_F(KeyboardShortcutsTest, ARefusedCombinationIsReportedInOneLine) {
     int calls = 0;
     const auto name = toggle();
     shortcuts_.onKeyDown(name, [&] { ++calls; });
-    EXPECT_EQ(output_.str(), "Error registering hotkey ⇧⌘P: -9878\n");
+    EXPECT_EQ(output_.str(), "Error registering hotkey ⇧⌘P: 10\n");
     EXPECT_FALSE(center_.press(standard));
     EXPECT_EQ(shortcuts_.getShortcut(name), standard);
     shortcuts_.setShortcut(other, name);
     EXPECT_TRUE(center_.press(other));
     EXPECT_EQ(calls, 1);
+}
+
+TEST_F(KeyboardShortcutsTest, ARefusedCombinationIsTriedAgain) {
+    center_.refuse(standard);
+    int calls = 0;
+    int told = 0;
+    const auto name = toggle();
+    shortcuts_.onKeyDown(name, [&] { ++calls; });
+    const auto subscription = shortcuts_.onAvailabilityDidChange([&] { ++told; });
+    EXPECT_EQ(shortcuts_.refusal(name), HotKeyError::takenByAnother);
+    shortcuts_.retryRefused();
+    EXPECT_EQ(told, 0);
+    center_.allow(standard);
+    shortcuts_.retryRefused();
+    EXPECT_EQ(shortcuts_.refusal(name), std::nullopt);
+    EXPECT_TRUE(center_.press(standard));
+    EXPECT_EQ(std::pair(calls, told), std::pair(1, 1));
+
+    // With another keyboard it is lost, and comes back.
+    center_.refuse(standard);
+    center_.changeKeyboard();
+    EXPECT_EQ(shortcuts_.refusal(name), HotKeyError::takenByAnother);
+    EXPECT_FALSE(center_.press(standard));
+    center_.allow(standard);
+    center_.changeKeyboard();
+    EXPECT_TRUE(center_.press(standard));
+    EXPECT_EQ(std::pair(calls, told), std::pair(2, 3));
+    EXPECT_EQ(center_.registrations(standard), 1U);
+    EXPECT_EQ(output_.str(), "Error registering hotkey ⇧⌘P: 10\n") << "once";
+}
+
+TEST_F(KeyboardShortcutsTest, TheReleaseCountsThoughAMenuOpensOrClosesBeforeIt) {
+    const auto name = toggle();
+    std::string calls;
+    shortcuts_.onKeyDown(name, [&] {
+        calls += "d";
+        userInterface_.closeMenu();
+    });
+    shortcuts_.onKeyUp(name, [&] { calls += "u"; });
+    const KeyEvent releaseWithoutModifiers{KeyEventType::keyUp, 35, std::nullopt, 0};
+    userInterface_.setMenuOpen(true);
+    EXPECT_TRUE(center_.press(standard));
+    EXPECT_TRUE(center_.rawKey(releaseWithoutModifiers));
+    EXPECT_FALSE(center_.listensToRawKeys());
+
+    EXPECT_TRUE(center_.press(standard));
+    userInterface_.setMenuOpen(true);
+    EXPECT_TRUE(center_.rawKey(releaseWithoutModifiers));
+    EXPECT_FALSE(center_.rawKey(releaseWithoutModifiers));
+    userInterface_.setMenuOpen(false);
+    EXPECT_EQ(calls, "dudu");
 }
 
 TEST_F(KeyboardShortcutsTest, WhileAMenuIsOpenTheKeysAreMatchedRaw) {

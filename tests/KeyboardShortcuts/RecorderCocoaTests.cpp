@@ -68,6 +68,7 @@ class RecorderCocoaTest : public testing::Test {
 };
 
 TEST_F(RecorderCocoaTest, WhileItRecordsNothingFires) {
+    center_.giveKeyboardBack(false); // as if it could not be had
     std::vector<bool> told;
     const Subscription subscription =
         shortcuts_.onRecorderActiveStatusDidChange([&](bool isActive) { told.push_back(isActive); });
@@ -85,6 +86,37 @@ TEST_F(RecorderCocoaTest, WhileItRecordsNothingFires) {
     center_.press(standard);
     EXPECT_EQ(fired_, 2) << "a recorder that goes away while recording";
     EXPECT_EQ(told, (std::vector<bool>{false, true, false}));
+}
+
+TEST_F(RecorderCocoaTest, TheKeyboardIsItsOwnAsLongAsItRecords) {
+    const Shortcut taken{keyK, carbon_modifiers::control};
+    center_.refuse(taken);
+    userInterface_.setAnswer(AlertAnswer::secondButton);
+    bool wasTakenDuringAlert = true;
+    userInterface_.duringAlert = [&] { wasTakenDuringAlert = center_.isKeyboardTaken(); };
+    EXPECT_TRUE(center_.press(taken)) << "though another program has it";
+    EXPECT_EQ(stored(), taken);
+    EXPECT_FALSE(wasTakenDuringAlert);
+    EXPECT_FALSE(center_.isKeyboardTaken());
+
+    recorder_->becomeFirstResponder();
+    EXPECT_TRUE(center_.isKeyboardTaken());
+    EXPECT_TRUE(center_.release(taken)) << "of the key that started it";
+    EXPECT_TRUE(recorder_->isRecording().get());
+    center_.press({key_codes::escape, 0});
+    EXPECT_FALSE(center_.isKeyboardTaken());
+    EXPECT_EQ(center_.keysPassedOn(), 0);
+    recorder_->becomeFirstResponder();
+    center_.press({key_codes::tab, 0});
+    EXPECT_FALSE(center_.isKeyboardTaken());
+    EXPECT_EQ(center_.keysPassedOn(), 1);
+
+    recorder_->becomeFirstResponder();
+    center_.loseKeyboard();
+    EXPECT_FALSE(recorder_->isRecording().get());
+    recorder_->becomeFirstResponder();
+    recorder_.reset();
+    EXPECT_FALSE(center_.isKeyboardTaken());
 }
 
 TEST_F(RecorderCocoaTest, KeysWithoutModifiersEndOrClear) {
@@ -160,7 +192,11 @@ TEST_F(RecorderCocoaTest, AConflictAsksAndGivesTheFocusBack) {
     EXPECT_TRUE(recorder_->handleKeyDown(keyDown(keyK, modifier_flags::control)));
     EXPECT_EQ(stored(), taken);
     EXPECT_FALSE(recorder_->isRecording().get());
-    EXPECT_EQ(requests, 4);
+    EXPECT_EQ(requests, 3) << "recording is over";
+    EXPECT_EQ(recorder_->problem().get(), Text("Another program uses this shortcut."));
+    center_.allow(taken);
+    recorder_->retry();
+    EXPECT_EQ(recorder_->problem().get(), Text());
 
     center_.refuse({key_codes::f12, 0});
     recorder_->becomeFirstResponder();

@@ -378,6 +378,59 @@ TEST_F(AppCoordinatorTest, CustomCommandsThatFailAreToldByTheirTitles) {
     EXPECT_EQ(notifications_.shown().size(), told.size());
 }
 
+TEST_F(AppCoordinatorTest, NothingIsOpenedOverAQuestionAndNoneIsAskedTwice) {
+    CustomCommandStore store(preferences_, "customCommands");
+    store.saveCustomCommand(customCommand("Backup", CustomCommandKind::shellScript));
+    pressHotKey();
+    model_->setQuery("backup");
+    const Command command = model_->results().get()[0].command;
+    const int activations = userInterface_.activations();
+    userInterface_.duringAlert = [&] {
+        pressHotKey();
+        coordinator_->execute(command);
+        coordinator_->showSettings();
+        EXPECT_TRUE(panel_->isVisible());
+    };
+    returnKey();
+    EXPECT_EQ(userInterface_.alerts().size(), 1U);
+    EXPECT_EQ(runner_.requests().size(), 1U);
+    EXPECT_EQ(settingsWindow_, nullptr);
+    EXPECT_EQ(userInterface_.activations(), activations + 3) << "the question comes forward";
+    EXPECT_FALSE(panel_->isVisible());
+}
+
+TEST_F(AppCoordinatorTest, TheHotKeyClosesTheStatusMenuBeforeItOpensThePalette) {
+    userInterface_.setMenuOpen(true);
+    center_.press(standard);
+    EXPECT_TRUE(panel_->isVisible());
+    EXPECT_EQ(center_.registrations(standard), 1U) << "the menu is closed";
+    center_.rawKey({KeyEventType::keyUp, 35, std::nullopt, 0});
+    pressHotKey();
+    EXPECT_FALSE(panel_->isVisible()) << "the next press counts";
+}
+
+TEST_F(AppCoordinatorTest, AShortcutThatCannotBeHadIsToldOnceAndTriedAgain) {
+    const auto names = std::vector{coordinator_->togglePalette()};
+    EXPECT_EQ(userInterface_.statusItem().toolTip, Text("Tovrel"));
+    shortcuts_.disable(names);
+    center_.refuse(standard);
+    shortcuts_.enable(names);
+    coordinator_->showSettings();
+    EXPECT_EQ(coordinator_->shortcutRefusal(), HotKeyError::takenByAnother);
+    const Text headline = "The shortcut Ctrl+Shift+P is not available";
+    const Text reason = "Another program uses this shortcut.";
+    EXPECT_EQ(notifications_.shown(),
+              (std::vector<MemoryUserNotifications::Notification>{{headline, reason}}));
+    EXPECT_EQ(userInterface_.statusItem().toolTip, Text("Tovrel\n" + headline.utf8() + "\n" + reason.utf8()));
+    center_.allow(standard);
+    coordinator_->showSettings();
+    EXPECT_EQ(coordinator_->shortcutRefusal(), std::nullopt);
+    EXPECT_EQ(userInterface_.statusItem().toolTip, Text("Tovrel"));
+    pressHotKey();
+    EXPECT_TRUE(panel_->isVisible());
+    EXPECT_EQ(notifications_.shown().size(), 1U);
+}
+
 TEST_F(AppCoordinatorTest, CallbacksDoNothingOnceTheCoordinatorIsGone) {
     pressHotKey();
     model_->setQuery("save");

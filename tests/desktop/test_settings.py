@@ -1,9 +1,15 @@
 """The settings window, driven by real keys: what each edit stores, and what it does to the palette that is
 opened next."""
 
+import os
+import tempfile
+from pathlib import Path
+
+from harness.keyboard import Keyboard
 from harness.palette_testing import HOT_KEY, PaletteTestCase, main
 from harness.settings_window import SettingsWindow
 
+PICTURES = Path(os.environ.get("TOVREL_TEST_PICTURES", tempfile.gettempdir()))
 TEXT = "the quick brown fox\n"
 EDITOR = "org.xfce.mousepad"
 NEW_HOT_KEY = ("ctrl", "alt", "k")
@@ -144,6 +150,64 @@ class SettingsTests(PaletteTestCase):
             self.settings.wait_until_gone(name, "list item")
         self.wait_for_stored("customCommands", [])
 
+    def is_recording(self):
+        return self.settings.node("Command Palette", "text").description == "Type shortcut…"
+
+    def wait_until_recording(self):
+        self.wait_until(self.is_recording, "the field to record")
+
+    def test_a_shortcut_of_another_program_is_asked_about_and_told_as_not_available(self):
+        other = Keyboard(self.desktop.environment)
+        self.assertTrue(other.take_hot_key("j"))
+        self.start()
+        self.open_settings()
+        self.settings.focus("Command Palette", "text")
+        self.wait_until_recording()
+        self.press("ctrl", "shift", "j")
+        self.wait_until(lambda: self.resident.has_focus() and not self.settings.has_focus(), "the question")
+        alert, = [window for window in self.desktop.windows.of_process(self.resident.pid)
+                  if window == self.desktop.front_window()]
+        owner, = [window for window in self.desktop.windows.of_process(self.resident.pid) if window != alert]
+        for place, size in ((0, 2), (1, 3)):
+            middles = [geometry[place] + geometry[size] / 2
+                       for geometry in map(self.desktop.windows.geometry, (alert, owner))]
+            self.assertAlmostEqual(*middles, delta=30)
+        self.desktop.take_picture(PICTURES / "question over the settings.png")
+        self.press(*HOT_KEY)
+        self.press("Tab")
+        self.press("Return")
+        self.wait_until(lambda: self.resident.status()["shortcut"] == "Ctrl+Shift+J", "the shortcut to be used")
+        self.wait_until(self.settings.has_focus, "the window to be back")
+        self.assertFalse(self.is_recording())
+        problem = "Another program uses this shortcut."
+        self.assertEqual(self.resident.status()["shortcutProblem"], problem)
+        self.wait_until(lambda: any(problem in node.name for node in self.settings.nodes("label")),
+                        "the reason in the window")
+        self.desktop.take_picture(PICTURES / "shortcut not available.png")
+        other.close()
+        self.settings.activate("Refresh")
+        self.wait_until(lambda: self.resident.status()["shortcutProblem"] is None, "the shortcut to be had")
+        self.settings.close()
+        self.wait_until_in_front(self.editor)
+        self.press("ctrl", "shift", "j")
+        self.wait_until(self.resident.has_focus, "the palette to open by it")
+
+    def test_the_recorder_has_the_keyboard_until_it_ends(self):
+        self.start()
+        self.open_settings()
+        self.settings.focus("Command Palette", "text")
+        self.wait_until_recording()
+        self.press("alt", "F4")
+        self.wait_until(lambda: self.resident.has_focus() and not self.settings.has_focus(),
+                        "the question about a shortcut of the window manager")
+        self.press("Escape")
+        self.wait_until(self.settings.has_focus, "the window to be back")
+        self.wait_until_recording()
+        self.press("Tab")
+        self.wait_until(lambda: self.settings.focused().name != "Command Palette", "the focus to move on")
+        self.assertFalse(self.is_recording())
+        self.assertTrue(self.keyboard.can_be_grabbed())
+
     def test_the_shortcut_is_recorded_used_and_cleared(self):
         self.start()
         self.open_settings()
@@ -153,7 +217,11 @@ class SettingsTests(PaletteTestCase):
                         "the answer that the window uses it itself")
         self.press("Return")
         self.wait_until(self.settings.has_focus, "the window to be back")
+        self.wait_until_recording()
         self.press(*HOT_KEY)
+        self.wait_until(lambda: not self.is_recording(), "the present shortcut to be taken for the new one")
+        self.press("Return")
+        self.wait_until_recording()
         self.press(*NEW_HOT_KEY)
         self.wait_until(lambda: self.resident.status()["shortcut"] == "Ctrl+Alt+K", "the new shortcut")
         self.assertFalse(self.resident.is_open())

@@ -7,10 +7,10 @@
 
 namespace tovrel {
 
-DBusService::DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutForPeople shortcutForPeople,
+DBusService::DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutTexts shortcutTexts,
                          std::function<void()> quit)
-    : coordinator_(std::move(coordinator)), shortcutForPeople_(std::move(shortcutForPeople)),
-      quit_(std::move(quit)) {}
+    : coordinator_(std::move(coordinator)), shortcutTexts_(std::move(shortcutTexts)), quit_(std::move(quit)) {
+}
 
 QString DBusService::version() const {
     return TOVREL_VERSION;
@@ -31,7 +31,11 @@ bool DBusService::isAccessibilityTrusted() const {
 }
 
 QString DBusService::shortcut() const {
-    return QString::fromStdString(shortcutForPeople_().utf8());
+    return QString::fromStdString(shortcutTexts_.shortcut().utf8());
+}
+
+QString DBusService::shortcutProblem() const {
+    return QString::fromStdString(shortcutTexts_.problem().utf8());
 }
 
 QString DBusService::target() const {

@@ -19,15 +19,19 @@ class DBusService : public QObject {
     Q_PROPERTY(bool PaletteVisible READ isPaletteVisible)
     Q_PROPERTY(bool AccessibilityTrusted READ isAccessibilityTrusted)
     Q_PROPERTY(QString Shortcut READ shortcut)
+    Q_PROPERTY(QString ShortcutProblem READ shortcutProblem)
     Q_PROPERTY(QString Target READ target)
     Q_PROPERTY(QString Display READ display CONSTANT)
     Q_PROPERTY(QString UnstoredChange READ unstoredChange)
 
   public:
-    /// The shortcut as people read it, or empty.
-    using ShortcutForPeople = std::function<Text()>;
+    /// What people read of the shortcut; each may be empty.
+    struct ShortcutTexts {
+        std::function<Text()> shortcut;
+        std::function<Text()> problem; ///< Why it does not work.
+    };
 
-    DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutForPeople shortcutForPeople,
+    DBusService(std::weak_ptr<AppCoordinator> coordinator, ShortcutTexts shortcutTexts,
                 std::function<void()> quit);
 
     [[nodiscard]] QString version() const;
@@ -35,6 +39,7 @@ class DBusService : public QObject {
     [[nodiscard]] bool isPaletteVisible() const;
     [[nodiscard]] bool isAccessibilityTrusted() const;
     [[nodiscard]] QString shortcut() const;
+    [[nodiscard]] QString shortcutProblem() const;
     [[nodiscard]] QString target() const;
     [[nodiscard]] QString display() const;
     [[nodiscard]] QString unstoredChange() const;
@@ -49,7 +54,7 @@ class DBusService : public QObject {
 
   private:
     std::weak_ptr<AppCoordinator> coordinator_;
-    ShortcutForPeople shortcutForPeople_;
+    ShortcutTexts shortcutTexts_;
     std::function<void()> quit_;
 };
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "KeyboardShortcuts/HotKeyErrorText.h"
 #include "app/DBusNames.h"
 #include "app/ErrorLine.h"
 #include "app/ResidentClient.h"
@@ -48,8 +49,10 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
       shortcuts_(preferences_, hotKeys_, userInterface_, textServices_, console.output),
       settingsWindowController_([this] { return makeSettingsWindow(); }),
       coordinator_(std::make_shared<AppCoordinator>(platform())),
-      service_(
-          coordinator_, [this] { return toggleShortcutForPeople(); }, [] { QApplication::quit(); }),
+      service_(coordinator_,
+               {.shortcut = [this] { return toggleShortcutForPeople(); },
+                .problem = [this] { return shortcutProblem(); }},
+               [] { QApplication::quit(); }),
       busPresence_(service_), activationEvents_(workspace_->activationEvents()),
       // That the user has come back to an application is older than the hot key pressed there.
       hotKeyEvents_(hotKeys_, &workspace_->activationEvents()), processEnds_(processRunner_) {
@@ -178,6 +181,11 @@ Text ResidentProgram::forPeople(const Shortcut& shortcut) {
 Text ResidentProgram::toggleShortcutForPeople() {
     const auto shortcut = coordinator_->toggleShortcut();
     return shortcut ? forPeople(*shortcut) : Text();
+}
+
+Text ResidentProgram::shortcutProblem() {
+    const auto refusal = coordinator_->shortcutRefusal();
+    return refusal ? hotKeyErrorText(*refusal, localizedByQt()) : Text();
 }
 
 } // namespace tovrel

@@ -62,6 +62,7 @@ class ResidentProgram {
     [[nodiscard]] CharacterForKeyCode characterForKeyCode();
     [[nodiscard]] Text forPeople(const Shortcut& shortcut);
     [[nodiscard]] Text toggleShortcutForPeople();
+    [[nodiscard]] Text shortcutProblem();
 
     // In the order in which they need each other; they end in the opposite one.
     const Console* console_;

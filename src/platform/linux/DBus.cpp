@@ -218,8 +218,8 @@ bool DBusConnection::takeAwaited(const DBusMessage& answer) {
         return false;
     }
     const std::string_view sender = textOf(sd_bus_message_get_sender(answer.handle()));
-    const bool isFromThere = kind_ == Kind::peer || sender == asked->second ||
-                             (sender == busName && !answer.errorName().empty());
+    const bool isFromThere =
+        kind_ == Kind::peer || sender == asked->second || (sender == busName && !answer.errorName().empty());
     if (isFromThere) {
         awaited_.erase(asked);
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "model/VirtualKeyCodes.h"
 #include "platform/linux/VirtualKeyCodes.h"
 
 namespace tovrel {
@@ -11,11 +12,20 @@ namespace {
 /// The bits of an event's state that are modifiers; the rest are pointer buttons and the layout's group.
 constexpr std::uint16_t modifierBits = 0xFF;
 
+/// To be asked once a hold: the server then delivers what it has kept, up to the next press of a hot key,
+/// which must find the keyboard held again.
+void ungrabKeyboard(xcb_connection_t* connection) {
+    xcb_ungrab_keyboard(connection, XCB_CURRENT_TIME);
+    xcb_flush(connection);
+}
+
 } // namespace
 
 LinuxHotKeyCenter::LinuxHotKeyCenter(MainQueue& queue, DestinationOfKeys destination, const char* display)
-    : queue_(queue), destination_(std::move(destination)), connection_(display), xkb_(connection_.handle()),
-      rawKeys_(connection_.handle(), connection_.root()), focusWait_(connection_) {
+    : queue_(queue), destination_(std::move(destination)), connection_(display),
+      guard_([this] { ungrabKeyboard(connection_.handle()); }), reader_(connection_, guard_),
+      xkb_(connection_.handle()), rawKeys_(connection_.handle(), connection_.root()),
+      focusWait_(connection_) {
     xkb_.useDetectableAutoRepeat();
     xkb_.selectKeyboardEvents();
     keyMap_ = X11KeyMap::read(connection_.handle());
@@ -35,13 +45,12 @@ std::variant<HotKeyHandle, HotKeyError> LinuxHotKeyCenter::registerHotKey(std::u
     registration.grab = std::get<X11HotKeyGrab>(std::move(grab));
     if (std::any_of(registrations_.begin(), registrations_.end(),
                     [&](const Registration& other) { return other.grab == registration.grab; })) {
-        return hot_key_errors::alreadyRegistered;
+        return HotKeyError::alreadyRegistered;
     }
-    if (const auto refusal = registration.grab.take(connection_.handle(), connection_.root())) {
+    if (const auto refusal = take(registration.grab)) {
         waitForServer();
-        return HotKeyError{*refusal};
+        return *refusal;
     }
-    registration.isTaken = true;
     registration.handle = ++lastHandle_;
     const HotKeyHandle handle = registration.handle;
     // Releases are selected before the question, so that none is missed between the two.
@@ -49,8 +58,7 @@ std::variant<HotKeyHandle, HotKeyError> LinuxHotKeyCenter::registerHotKey(std::u
     registrations_.push_back(std::move(registration));
     selectRawKeys();
     reportKeysFoundUp();
-    dispatchSoonWhatCameAlong();
-    return connection_.isOpen() ? std::variant<HotKeyHandle, HotKeyError>(handle) : hot_key_errors::noServer;
+    return connection_.isOpen() ? std::variant<HotKeyHandle, HotKeyError>(handle) : HotKeyError::noHotKeys;
 }
 
 void LinuxHotKeyCenter::unregisterHotKey(HotKeyHandle handle) {
@@ -68,6 +76,13 @@ void LinuxHotKeyCenter::unregisterHotKey(HotKeyHandle handle) {
     waitForServer();
 }
 
+std::optional<HotKeyError> LinuxHotKeyCenter::refusal(HotKeyHandle handle) const {
+    const auto found =
+        std::find_if(registrations_.begin(), registrations_.end(),
+                     [&](const Registration& registration) { return registration.handle == handle; });
+    return found == registrations_.end() ? std::nullopt : found->refusal;
+}
+
 void LinuxHotKeyCenter::setHotKeyHandler(HotKeyHandler handler) {
     handler_ = std::move(handler);
 }
@@ -78,9 +93,51 @@ void LinuxHotKeyCenter::setRawKeyHandler(RawKeyHandler handler) {
     selectRawKeys();
     if (rawHandler_) {
         keyboardState_ = xkb_.state().value_or(XkbExtension::State());
-        dispatchSoonWhatCameAlong();
     }
     xcb_flush(connection_.handle());
+}
+
+bool LinuxHotKeyCenter::takeKeyboard(KeyHandler handler, std::function<void()> onLoss) {
+    if (keyHandler_ || !keyMap_ || !connection_.isOpen()) {
+        return false;
+    }
+    xcb_connection_t* connection = connection_.handle();
+    const XcbOwned<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    const bool isWindow = focus && focus->focus > XCB_INPUT_FOCUS_POINTER_ROOT;
+    // The grab lies on the focused window, for another one would make that believe it had lost the focus. The
+    // server keeps what is typed after each key until that is handled, so that nothing is lost of it should
+    // the keyboard have to be let go.
+    const auto cookie = xcb_grab_keyboard(connection, 0, isWindow ? focus->focus : connection_.root(),
+                                          XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
+    xcb_allow_events(connection, XCB_ALLOW_SYNC_KEYBOARD, XCB_CURRENT_TIME);
+    const XcbOwned<xcb_grab_keyboard_reply_t> answer(xcb_grab_keyboard_reply(connection, cookie, nullptr));
+    if (!answer || answer->status != XCB_GRAB_STATUS_SUCCESS) {
+        return false;
+    }
+    keyHandler_ = std::move(handler);
+    onKeyboardLoss_ = std::move(onLoss);
+    return true;
+}
+
+void LinuxHotKeyCenter::giveKeyboardBack(bool passesKeyOn) {
+    if (!std::exchange(keyHandler_, nullptr)) {
+        return;
+    }
+    const KeyboardGuard::Hold key = std::exchange(takenKey_, 0);
+    xcb_connection_t* connection = connection_.handle();
+    if (key == 0) {
+        ungrabKeyboard(connection);
+    } else {
+        guard_.end(key, [&] {
+            if (passesKeyOn) {
+                xcb_allow_events(connection, XCB_ALLOW_REPLAY_KEYBOARD, XCB_CURRENT_TIME);
+                xcb_flush(connection);
+            } else {
+                ungrabKeyboard(connection);
+            }
+        });
+    }
 }
 
 bool LinuxHotKeyCenter::isSystemShortcut(const Shortcut& shortcut) {
@@ -89,10 +146,10 @@ bool LinuxHotKeyCenter::isSystemShortcut(const Shortcut& shortcut) {
     const auto* grab = std::get_if<X11HotKeyGrab>(&tried);
     if (grab == nullptr ||
         std::any_of(registrations_.begin(), registrations_.end(),
-                    [&](const Registration& own) { return own.isTaken && own.grab == *grab; })) {
+                    [&](const Registration& own) { return !own.refusal && own.grab == *grab; })) {
         return false;
     }
-    const bool isRefused = grab->take(connection_.handle(), connection_.root()).has_value();
+    const bool isRefused = take(*grab).has_value();
     if (!isRefused) {
         grab->giveBack(connection_.handle(), connection_.root());
     }
@@ -105,15 +162,13 @@ std::optional<Text> LinuxHotKeyCenter::characterForKeyCode(std::uint32_t keyCode
     if (!key || !connection_.isOpen()) {
         return std::nullopt;
     }
-    auto character = text(*key, xkb_.state().value_or(XkbExtension::State()).group, false);
-    dispatchSoonWhatCameAlong();
-    return character;
+    return text(*key, xkb_.state().value_or(XkbExtension::State()).group, false);
 }
 
 void LinuxHotKeyCenter::dispatch() {
     for (;;) {
-        if (const Event event = nextEvent()) {
-            handle(*event);
+        if (const X11EventReader::Event next = reader_.next()) {
+            handle(*next.event, next.hold);
         } else if (std::exchange(hasKeyboardChanged_, false)) {
             adoptKeyboard();
         } else {
@@ -126,17 +181,25 @@ void LinuxHotKeyCenter::dispatch() {
 std::variant<X11HotKeyGrab, HotKeyError> LinuxHotKeyCenter::grabFor(std::uint32_t keyCode,
                                                                     ModifierFlags modifiers) const {
     if (!keyMap_ || !connection_.isOpen() || !rawKeys_.isAvailable()) {
-        return hot_key_errors::noServer;
+        return HotKeyError::noHotKeys;
     }
     const auto key = x11KeyCode(keyCode);
     if (!key || !keyMap_->hasKey(*key)) {
-        return hot_key_errors::noSuchKey;
+        return HotKeyError::noSuchKey;
     }
     const auto x11Modifiers = keyMap_->modifiersFor(modifiers);
     if (!x11Modifiers) {
-        return hot_key_errors::noSuchModifier;
+        return HotKeyError::noSuchModifier;
     }
     return X11HotKeyGrab{*key, *x11Modifiers, keyMap_->lockCombinations()};
+}
+
+std::optional<HotKeyError> LinuxHotKeyCenter::take(const X11HotKeyGrab& grab) const {
+    const auto error = grab.take(connection_.handle(), connection_.root());
+    if (!error) {
+        return std::nullopt;
+    }
+    return *error == XCB_ACCESS ? HotKeyError::takenByAnother : HotKeyError::refused;
 }
 
 LinuxHotKeyCenter::Registration* LinuxHotKeyCenter::find(HotKeyHandle handle) {
@@ -146,16 +209,7 @@ LinuxHotKeyCenter::Registration* LinuxHotKeyCenter::find(HotKeyHandle handle) {
     return found == registrations_.end() ? nullptr : &*found;
 }
 
-LinuxHotKeyCenter::Event LinuxHotKeyCenter::nextEvent() {
-    if (cameAlong_.empty()) {
-        return Event(xcb_poll_for_event(connection_.handle()));
-    }
-    Event event = std::move(cameAlong_.front());
-    cameAlong_.pop_front();
-    return event;
-}
-
-void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event) {
+void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event, KeyboardGuard::Hold hold) {
     if (const auto key = rawKeys_.keyOf(event)) {
         handleRawKey(*key);
     } else if (const auto state = xkb_.stateOf(event)) {
@@ -165,7 +219,8 @@ void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event) {
     } else {
         switch (event.response_type & 0x7FU) {
         case XCB_KEY_PRESS:
-            handlePress(reinterpret_cast<const xcb_key_press_event_t&>(event));
+        case XCB_KEY_RELEASE:
+            handleKey(reinterpret_cast<const xcb_key_press_event_t&>(event), hold);
             break;
         case XCB_FOCUS_IN:
         case XCB_FOCUS_OUT:
@@ -183,8 +238,22 @@ void LinuxHotKeyCenter::handle(const xcb_generic_event_t& event) {
     }
 }
 
-void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event) {
-    const std::uint64_t hold = ++lastHold_;
+void LinuxHotKeyCenter::handleKey(const xcb_key_press_event_t& event, KeyboardGuard::Hold hold) {
+    if (hold == 0) {
+        return; // Another client has sent it.
+    }
+    const bool isPress = event.response_type == XCB_KEY_PRESS;
+    if (keyHandler_) {
+        handleTakenKey(event, isPress, hold);
+    } else if (isPress) {
+        handlePress(event, hold);
+    } else {
+        guard_.end(hold, [this] { ungrabKeyboard(connection_.handle()); });
+    }
+}
+
+void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event, KeyboardGuard::Hold hold) {
+    endHold(); // The one before is over, or this press would not have come.
     currentHold_ = hold;
     lastPressTime_ = event.time;
     const auto pressed =
@@ -198,7 +267,7 @@ void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event) {
     heldFor_ = pressed->handle;
     const HotKeyIdentifier identifier = pressed->identifier;
     if (pressed->state == KeyState::down) { // The key repeats itself: nothing will change the focus.
-        ungrabKeyboard();
+        endHold();
         report(identifier, HotKeyEventKind::pressed);
         reportKeysFoundUp();
         return;
@@ -206,16 +275,36 @@ void LinuxHotKeyCenter::handlePress(const xcb_key_press_event_t& event) {
     pressed->state = KeyState::down;
     selectRawKeys();
     holdAtFocusedWindow(event.time);
-    letGoAfter(longestHold);
     report(identifier, HotKeyEventKind::pressed);
     if (currentHold_ != hold) {
-        return; // The handler has unregistered the key, or taken too long.
+        return; // The handler has unregistered the key.
     }
     focusWait_.begin(destination_ ? destination_() : KeyDestination());
-    if (focusWait_.isReached()) {
+    if (!guard_.isHeld(hold) || focusWait_.isReached()) {
         letGo();
     } else {
         letGoAfter(longestFocusWait);
+    }
+}
+
+void LinuxHotKeyCenter::handleTakenKey(const xcb_key_press_event_t& event, bool isPress,
+                                       KeyboardGuard::Hold hold) {
+    takenKey_ = hold;
+    KeyEvent key;
+    key.type = isPress ? KeyEventType::keyDown : KeyEventType::keyUp;
+    key.keyCode = virtualKeyCodeOfX11(event.detail).value_or(key_codes::unknown);
+    key.modifierFlags = keyMap_->flagsFor(event.state & modifierBits);
+    const KeyHandler handler = keyHandler_; // it may give the keyboard back
+    handler(key);
+    if (std::exchange(takenKey_, 0) != hold) {
+        return;
+    }
+    const bool isStillTaken = guard_.end(
+        hold, [this] { xcb_allow_events(connection_.handle(), XCB_ALLOW_SYNC_KEYBOARD, XCB_CURRENT_TIME); });
+    if (!isStillTaken) {
+        keyHandler_ = nullptr;
+        const auto onLoss = std::exchange(onKeyboardLoss_, nullptr);
+        onLoss();
     }
 }
 
@@ -272,10 +361,13 @@ void LinuxHotKeyCenter::holdAtFocusedWindow(xcb_timestamp_t time) {
     if (!isWindow || (destination_ && destination_().window == focus->focus)) {
         return;
     }
-    const XcbOwned<xcb_grab_keyboard_reply_t> held(xcb_grab_keyboard_reply(
-        connection,
-        xcb_grab_keyboard(connection, 0, focus->focus, time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC),
-        nullptr)); // Refused, as by a window that is gone meanwhile: then it stays as it is.
+    xcb_grab_keyboard_cookie_t moved{};
+    const bool isAsked = guard_.during(currentHold_, [&] {
+        moved = xcb_grab_keyboard(connection, 0, focus->focus, time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
+    });
+    if (isAsked) { // Refused, as by a window that is gone meanwhile: then it stays as it is.
+        const XcbOwned<xcb_grab_keyboard_reply_t> answer(xcb_grab_keyboard_reply(connection, moved, nullptr));
+    }
 }
 
 void LinuxHotKeyCenter::letGoAfter(std::chrono::milliseconds limit) {
@@ -288,17 +380,14 @@ void LinuxHotKeyCenter::letGoAfter(std::chrono::milliseconds limit) {
 }
 
 void LinuxHotKeyCenter::letGo() {
-    ungrabKeyboard();
+    endHold();
     reportKeysFoundUp();
 }
 
-void LinuxHotKeyCenter::ungrabKeyboard() {
-    currentHold_ = 0;
+void LinuxHotKeyCenter::endHold() {
     heldFor_ = 0;
     focusWait_.end();
-    // This alone, exactly once a press: what the server has kept is delivered at once, up to the next press
-    // of a hot key, which must find the keyboard held again.
-    xcb_ungrab_keyboard(connection_.handle(), XCB_CURRENT_TIME);
+    guard_.end(std::exchange(currentHold_, 0), [this] { ungrabKeyboard(connection_.handle()); });
     xcb_flush(connection_.handle());
 }
 
@@ -324,15 +413,19 @@ void LinuxHotKeyCenter::adoptKeyboard() {
     for (Registration& registration : registrations_) {
         auto grab = grabFor(registration.keyCode, registration.modifiers);
         const auto* wanted = std::get_if<X11HotKeyGrab>(&grab);
-        if (registration.isTaken && wanted != nullptr && *wanted == registration.grab) {
+        if (!registration.refusal && wanted != nullptr && *wanted == registration.grab) {
             continue;
         }
         registration.grab.giveBack(connection_.handle(), connection_.root());
-        registration.isTaken = false;
-        if (wanted != nullptr) {
+        if (wanted == nullptr) {
+            registration.refusal = std::get<HotKeyError>(grab);
+        } else {
             registration.grab = *wanted;
-            registration.isTaken = !wanted->take(connection_.handle(), connection_.root());
+            registration.refusal = take(*wanted);
         }
+    }
+    if (const KeyboardHandler handler = keyboardHandler_) {
+        handler();
     }
 }
 
@@ -346,21 +439,6 @@ void LinuxHotKeyCenter::selectRawKeys() {
 void LinuxHotKeyCenter::waitForServer() {
     // Any question will do: it is answered after what was asked before.
     static_cast<void>(keysDown(connection_.handle()));
-    dispatchSoonWhatCameAlong();
-}
-
-void LinuxHotKeyCenter::dispatchSoonWhatCameAlong() {
-    while (Event event{xcb_poll_for_queued_event(connection_.handle())}) {
-        cameAlong_.push_back(std::move(event));
-    }
-    if (!cameAlong_.empty()) {
-        queue_.post([this, life = std::weak_ptr(life_)] {
-            if (!life.expired()) {
-                dispatch();
-            }
-        });
-    }
-    xcb_flush(connection_.handle());
 }
 
 std::optional<Text> LinuxHotKeyCenter::text(xcb_keycode_t key, std::uint32_t group, bool withShift) {

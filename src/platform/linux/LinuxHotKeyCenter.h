@@ -1,39 +1,31 @@
 #pragma once
 
 #include <chrono>
-#include <deque>
 #include <memory>
 #include <vector>
 
 #include "platform/HotKeyCenter.h"
 #include "platform/MainQueue.h"
 #include "platform/linux/EventSource.h"
+#include "platform/linux/KeyboardGuard.h"
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/X11EventReader.h"
 #include "platform/linux/X11FocusWait.h"
 #include "platform/linux/X11HotKeyGrab.h"
 #include "platform/linux/X11KeyMap.h"
 #include "platform/linux/X11Layout.h"
 #include "platform/linux/X11RawKeys.h"
-#include "platform/linux/XcbOwned.h"
 #include "platform/linux/XkbExtension.h"
 
 namespace tovrel {
-
-/// Why a hot key was refused, beside the error codes of the X protocol (10 BadAccess: another client has it).
-namespace hot_key_errors {
-inline constexpr HotKeyError noServer = -1;          ///< No X server, or one without XI 2.1.
-inline constexpr HotKeyError noSuchKey = -2;         ///< The keyboard has no key of that code.
-inline constexpr HotKeyError noSuchModifier = -3;    ///< The keyboard has no key for one of the modifiers.
-inline constexpr HotKeyError alreadyRegistered = -4; ///< This object has the combination already.
-} // namespace hot_key_errors
 
 /// Hot keys of an X11 desktop, on a connection of their own.
 ///
 /// No keystroke is lost between a hot key and the window it opens: from the instant the hot key fires the
 /// server keeps every later key event, while the handler runs and until the keyboard focus is where the
 /// handler has left it to go. Then the keyboard is let go and the server delivers what it has kept, in order
-/// and as if it were typed now. The handler must be brief: while it runs, no program
-/// gets a key.
+/// and as if it were typed now. The handler should be brief: while it runs, no program gets a key. A guard
+/// lets the keyboard go after 500 ms in all, whatever this thread does.
 ///
 /// While a hot key is down its release is watched for outside of any grab, so it is seen whichever window the
 /// key goes to and in whatever order the keys come up. A held key goes on being reported pressed. A key that
@@ -49,8 +41,6 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
     /// The longest the keyboard stays held after a handler has returned, for a window that never gets the
     /// focus. Where it was measured the focus arrived after 3 to 36 ms.
     static constexpr std::chrono::milliseconds longestFocusWait{300};
-    /// The longest it stays held in all, should the handler run an event loop of its own.
-    static constexpr std::chrono::milliseconds longestHold{1000};
 
     /// Connects to `display`, or to $DISPLAY when null; without a server every registration is refused.
     LinuxHotKeyCenter(MainQueue& queue, DestinationOfKeys destination, const char* display = nullptr);
@@ -60,14 +50,19 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
                    HotKeyIdentifier identifier) override;
     /// The release of a key that is down is not reported any more. When this returns, the server knows.
     void unregisterHotKey(HotKeyHandle handle) override;
+    [[nodiscard]] std::optional<HotKeyError> refusal(HotKeyHandle handle) const override;
+    void setKeyboardHandler(KeyboardHandler handler) override { keyboardHandler_ = std::move(handler); }
     void setHotKeyHandler(HotKeyHandler handler) override;
     /// The keys are those typed anywhere while the handler is set; they reach their window as well.
     void setRawKeyHandler(RawKeyHandler handler) override;
+    /// The focused window does not notice.
+    [[nodiscard]] bool takeKeyboard(KeyHandler handler, std::function<void()> onLoss) override;
+    void giveKeyboardBack(bool passesKeyOn) override;
     /// An X server keeps no list of the grabs of others: this one is tried, and given back at once.
     [[nodiscard]] bool isSystemShortcut(const Shortcut& shortcut) override;
     [[nodiscard]] std::optional<Text> characterForKeyCode(std::uint32_t keyCode) override;
 
-    [[nodiscard]] int fileDescriptor() const override { return connection_.fileDescriptor(); }
+    [[nodiscard]] int fileDescriptor() const override { return reader_.fileDescriptor(); }
     void dispatch() override;
 
     /// The server's time of the last press of a hot key, for requests that must tell by which action of the
@@ -75,8 +70,6 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
     [[nodiscard]] xcb_timestamp_t lastPressTime() const { return lastPressTime_; }
 
   private:
-    using Event = XcbOwned<xcb_generic_event_t>;
-
     enum class KeyState {
         up,
         down,
@@ -88,18 +81,21 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
         std::uint32_t keyCode = 0;
         ModifierFlags modifiers = 0;
         X11HotKeyGrab grab;
-        bool isTaken = false; ///< False only if the keyboard has changed and the grab was refused since.
+        std::optional<HotKeyError> refusal; ///< Of the grab, since the keyboard has changed.
         KeyState state = KeyState::up;
     };
 
     /// What the keyboard makes of a combination at present.
     [[nodiscard]] std::variant<X11HotKeyGrab, HotKeyError> grabFor(std::uint32_t keyCode,
                                                                    ModifierFlags modifiers) const;
+    /// Takes the grab; why it cannot be had, else.
+    [[nodiscard]] std::optional<HotKeyError> take(const X11HotKeyGrab& grab) const;
     [[nodiscard]] Registration* find(HotKeyHandle handle);
 
-    [[nodiscard]] Event nextEvent();
-    void handle(const xcb_generic_event_t& event);
-    void handlePress(const xcb_key_press_event_t& event);
+    void handle(const xcb_generic_event_t& event, KeyboardGuard::Hold hold);
+    void handleKey(const xcb_key_press_event_t& event, KeyboardGuard::Hold hold);
+    void handlePress(const xcb_key_press_event_t& event, KeyboardGuard::Hold hold);
+    void handleTakenKey(const xcb_key_press_event_t& event, bool isPress, KeyboardGuard::Hold hold);
     void handleRawKey(const X11RawKeys::Key& key);
     void released(HotKeyHandle handle);
     void report(HotKeyIdentifier identifier, HotKeyEventKind kind);
@@ -110,7 +106,7 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
     void holdAtFocusedWindow(xcb_timestamp_t time);
     void letGoAfter(std::chrono::milliseconds limit);
     void letGo();
-    void ungrabKeyboard();
+    void endHold();
     /// Reports hot keys that came up while the server kept the events.
     void reportKeysFoundUp();
 
@@ -118,32 +114,34 @@ class LinuxHotKeyCenter : public HotKeyCenter, public EventSource {
     void selectRawKeys();
     /// Returns when the server has done everything that it was asked.
     void waitForServer();
-    /// To be called after questions to the server outside of `dispatch`: events that arrived with the answers
-    /// make the descriptor readable no more.
-    void dispatchSoonWhatCameAlong();
     [[nodiscard]] std::optional<Text> text(xcb_keycode_t key, std::uint32_t group, bool withShift);
 
     MainQueue& queue_;
     DestinationOfKeys destination_;
     X11Connection connection_;
+    KeyboardGuard guard_;
+    X11EventReader reader_;
     XkbExtension xkb_;
     X11RawKeys rawKeys_;
     X11FocusWait focusWait_;
     std::optional<X11KeyMap> keyMap_;
     std::optional<X11Layout> layout_; ///< Read when first needed.
     bool hasKeyboardChanged_ = false;
-    std::deque<Event> cameAlong_;
 
     std::vector<Registration> registrations_;
     HotKeyHandle lastHandle_ = 0;
+    KeyboardHandler keyboardHandler_;
     HotKeyHandler handler_;
     RawKeyHandler rawHandler_;
     XkbExtension::State keyboardState_; ///< Kept up to date while there is a raw handler.
 
-    std::uint64_t lastHold_ = 0;
-    std::uint64_t currentHold_ = 0; ///< 0 while the keyboard is free.
+    KeyboardGuard::Hold currentHold_ = 0; ///< 0 once this object has let the keyboard go.
     HotKeyHandle heldFor_ = 0;
     xcb_timestamp_t lastPressTime_ = 0;
+
+    KeyHandler keyHandler_; ///< While the keyboard is taken.
+    std::function<void()> onKeyboardLoss_;
+    KeyboardGuard::Hold takenKey_ = 0; ///< Of the key that it is handling; 0 between keys.
     std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true); ///< For tasks that outlive this.
 };
 

@@ -7,8 +7,11 @@
 namespace tovrel {
 namespace {
 
-/// What the platform answers for a combination that exists already.
-constexpr HotKeyError combinationTaken = -9878;
+KeyEvent keyEvent(const Shortcut& shortcut, HotKeyEventKind kind) {
+    return {kind == HotKeyEventKind::pressed ? KeyEventType::keyDown : KeyEventType::keyUp,
+            static_cast<std::uint32_t>(shortcut.carbonKeyCode), std::nullopt,
+            modifierFlags(shortcut.carbonModifiers)};
+}
 
 } // namespace
 
@@ -17,7 +20,7 @@ std::variant<HotKeyHandle, HotKeyError> MemoryHotKeyCenter::registerHotKey(std::
                                                                            HotKeyIdentifier identifier) {
     const Shortcut shortcut{keyCode, carbonModifiers};
     if (refused_.contains(shortcut)) {
-        return combinationTaken;
+        return HotKeyError::takenByAnother;
     }
     registered_.emplace(++lastHandle_, Registration{shortcut, identifier});
     return lastHandle_;
@@ -25,6 +28,43 @@ std::variant<HotKeyHandle, HotKeyError> MemoryHotKeyCenter::registerHotKey(std::
 
 std::optional<Text> MemoryHotKeyCenter::characterForKeyCode(std::uint32_t keyCode) {
     return keyCode == key_codes::p ? std::optional<Text>("p") : std::nullopt;
+}
+
+std::optional<HotKeyError> MemoryHotKeyCenter::refusal(HotKeyHandle handle) const {
+    const auto found = registered_.find(handle);
+    return found != registered_.end() && refused_.contains(found->second.shortcut)
+               ? std::optional(HotKeyError::takenByAnother)
+               : std::nullopt;
+}
+
+bool MemoryHotKeyCenter::takeKeyboard(KeyHandler handler, std::function<void()> onLoss) {
+    if (keyHandler_) {
+        return false;
+    }
+    keyHandler_ = std::move(handler);
+    onKeyboardLoss_ = std::move(onLoss);
+    return true;
+}
+
+void MemoryHotKeyCenter::giveKeyboardBack(bool passesKeyOn) {
+    keysPassedOn_ += keyHandler_ && passesKeyOn ? 1 : 0;
+    keyHandler_ = nullptr;
+}
+
+void MemoryHotKeyCenter::changeKeyboard() const {
+    if (keyboardHandler_) {
+        keyboardHandler_();
+    }
+}
+
+void MemoryHotKeyCenter::loseKeyboard() {
+    keyHandler_ = nullptr;
+    onKeyboardLoss_();
+}
+
+bool MemoryHotKeyCenter::rawKey(const KeyEvent& event) const {
+    const RawKeyHandler handler = rawKeyHandler_; // it may replace itself
+    return handler && handler(event);
 }
 
 bool MemoryHotKeyCenter::press(const Shortcut& shortcut) {
@@ -42,19 +82,19 @@ std::size_t MemoryHotKeyCenter::registrations(const Shortcut& shortcut) const {
 }
 
 bool MemoryHotKeyCenter::deliver(const Shortcut& shortcut, HotKeyEventKind kind) {
-    const auto found = std::find_if(registered_.begin(), registered_.end(),
-                                    [&](const auto& entry) { return entry.second.shortcut == shortcut; });
+    if (keyHandler_) {
+        const KeyHandler handler = keyHandler_;
+        handler(keyEvent(shortcut, kind));
+        return true;
+    }
+    const auto found = std::find_if(registered_.begin(), registered_.end(), [&](const auto& entry) {
+        return entry.second.shortcut == shortcut && !refused_.contains(shortcut);
+    });
     if (found != registered_.end() && hotKeyHandler_) {
         const HotKeyHandler handler = hotKeyHandler_;
         return handler({found->second.identifier, kind});
     }
-    if (!rawKeyHandler_) {
-        return false;
-    }
-    const RawKeyHandler handler = rawKeyHandler_;
-    return handler({kind == HotKeyEventKind::pressed ? KeyEventType::keyDown : KeyEventType::keyUp,
-                    static_cast<std::uint32_t>(shortcut.carbonKeyCode), std::nullopt,
-                    modifierFlags(shortcut.carbonModifiers)});
+    return rawKey(keyEvent(shortcut, kind));
 }
 
 } // namespace tovrel

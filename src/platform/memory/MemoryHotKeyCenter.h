@@ -16,20 +16,35 @@ class MemoryHotKeyCenter : public HotKeyCenter {
     void unregisterHotKey(HotKeyHandle handle) override { registered_.erase(handle); }
     void setHotKeyHandler(HotKeyHandler handler) override { hotKeyHandler_ = std::move(handler); }
     void setRawKeyHandler(RawKeyHandler handler) override { rawKeyHandler_ = std::move(handler); }
+    [[nodiscard]] std::optional<HotKeyError> refusal(HotKeyHandle handle) const override;
+    void setKeyboardHandler(KeyboardHandler handler) override { keyboardHandler_ = std::move(handler); }
+    [[nodiscard]] bool takeKeyboard(KeyHandler handler, std::function<void()> onLoss) override;
+    void giveKeyboardBack(bool passesKeyOn) override;
     [[nodiscard]] bool isSystemShortcut(const Shortcut& shortcut) override {
         return refused_.contains(shortcut);
     }
     [[nodiscard]] std::optional<Text> characterForKeyCode(std::uint32_t keyCode) override;
 
-    /// From now on the combination is refused, as one that another program has.
+    /// From now on the combination is refused, as one that another program has; or no longer.
     void refuse(const Shortcut& shortcut) { refused_.insert(shortcut); }
+    void allow(const Shortcut& shortcut) { refused_.erase(shortcut); }
+    /// The keyboard is another one: registered combinations that are refused now do not fire any more.
+    void changeKeyboard() const;
+    /// As if the taken keyboard had not been attended to in time.
+    void loseKeyboard();
 
-    /// Whether a handler took the key. A combination that nobody registered goes to the raw key handler only.
+    /// Whether a handler took the key. A combination that nobody registered goes to the raw key handler only;
+    /// while the keyboard is taken, all go to whoever has it.
     bool press(const Shortcut& shortcut);
     bool release(const Shortcut& shortcut);
+    /// A key as it comes while a menu is open; whether there was a handler.
+    bool rawKey(const KeyEvent& event) const;
 
     /// How often a combination is registered now.
     [[nodiscard]] std::size_t registrations(const Shortcut& shortcut) const;
+    [[nodiscard]] bool isKeyboardTaken() const { return static_cast<bool>(keyHandler_); }
+    /// How often the keyboard was given back with the key passed on.
+    [[nodiscard]] int keysPassedOn() const { return keysPassedOn_; }
     [[nodiscard]] bool listensToRawKeys() const { return static_cast<bool>(rawKeyHandler_); }
 
   private:
@@ -45,6 +60,10 @@ class MemoryHotKeyCenter : public HotKeyCenter {
     std::set<Shortcut> refused_;
     HotKeyHandler hotKeyHandler_;
     RawKeyHandler rawKeyHandler_;
+    KeyboardHandler keyboardHandler_;
+    KeyHandler keyHandler_;
+    std::function<void()> onKeyboardLoss_;
+    int keysPassedOn_ = 0;
 };
 
 } // namespace tovrel

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/UserInterface.h"
@@ -16,15 +19,29 @@ class MemoryUserInterface : public UserInterface {
     }
     [[nodiscard]] std::optional<Rect> mainScreenVisibleFrame() override { return visibleFrame_; }
     [[nodiscard]] AlertAnswer runAlert(const Alert& alert) override {
+        if (isAlertOpen_) {
+            return AlertAnswer::none;
+        }
         alerts_.push_back(alert);
+        isAlertOpen_ = true;
+        if (duringAlert) {
+            duringAlert();
+        }
+        isAlertOpen_ = false;
         return answer_;
     }
+    [[nodiscard]] bool isAlertOpen() const override { return isAlertOpen_; }
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription description) override {
         statusItem_ = std::move(description);
-        return std::make_unique<StatusItem>();
+        return std::make_unique<Item>(statusItem_);
     }
     [[nodiscard]] Subscription onMenuTracking(std::function<void(bool)> observer) override {
         return menuTracking_.subscribe(std::move(observer));
+    }
+    void closeMenu() override {
+        if (std::exchange(isMenuOpen_, false)) {
+            menuTracking_.notify(false);
+        }
     }
     void beep() override { ++beeps_; }
     void terminate() override { isTerminated_ = true; }
@@ -33,7 +50,12 @@ class MemoryUserInterface : public UserInterface {
     void setAnswer(AlertAnswer answer) { answer_ = answer; }
     void setVisibleFrame(std::optional<Rect> frame) { visibleFrame_ = frame; }
     void resignActive() { resignActive_.notify(); }
-    void setMenuOpen(bool isOpen) { menuTracking_.notify(isOpen); }
+    void setMenuOpen(bool isOpen) {
+        isMenuOpen_ = isOpen;
+        menuTracking_.notify(isOpen);
+    }
+    /// Called while a question waits for its answer; may be empty.
+    std::function<void()> duringAlert;
 
     [[nodiscard]] int activations() const { return activations_; }
     [[nodiscard]] int beeps() const { return beeps_; }
@@ -43,7 +65,15 @@ class MemoryUserInterface : public UserInterface {
     [[nodiscard]] bool isTerminated() const { return isTerminated_; }
 
   private:
+    struct Item : StatusItem {
+        explicit Item(StatusItemDescription& described) : description(described) {}
+        void setToolTip(const Text& toolTip) override { description.toolTip = toolTip; }
+        StatusItemDescription& description;
+    };
+
     int activations_ = 0;
+    bool isAlertOpen_ = false;
+    bool isMenuOpen_ = false;
     int beeps_ = 0;
     AlertAnswer answer_ = AlertAnswer::firstButton;
     bool isTerminated_ = false;

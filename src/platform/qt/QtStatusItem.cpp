@@ -3,9 +3,11 @@
 #include <QAction>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QPalette>
 #include <QPixmap>
+#include <algorithm>
 #include <utility>
 
 #include "palette/views/QtText.h"
@@ -48,8 +50,33 @@ QtStatusItem::QtStatusItem(StatusItemDescription description, const std::functio
             }
         });
     }
+    menu_.installEventFilter(this);
     QObject::connect(&menu_, &QMenu::aboutToShow, &menu_, [onMenuTracking] { onMenuTracking(true); });
     QObject::connect(&menu_, &QMenu::aboutToHide, &menu_, [onMenuTracking] { onMenuTracking(false); });
+}
+
+void QtStatusItem::setToolTip(const Text& toolTip) {
+    description_.toolTip = toolTip;
+    if (icon_) {
+        icon_->setToolTip(qtString(toolTip));
+    }
+}
+
+bool QtStatusItem::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        // A menu leaves shortcuts to the window it belongs to, and this one belongs to none.
+        const QKeySequence pressed(static_cast<QKeyEvent*>(event)->keyCombination());
+        const auto actions = menu_.actions();
+        const auto chosen = std::find_if(actions.begin(), actions.end(), [&](const QAction* action) {
+            return action->shortcut() == pressed && !pressed.isEmpty();
+        });
+        if (chosen != actions.end()) {
+            menu_.close();
+            (*chosen)->trigger();
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void QtStatusItem::show() {

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 #include <QScreen>
+#include <QWidget>
 #include <algorithm>
 #include <utility>
 
@@ -24,6 +26,32 @@ bool hasFocusedWindow(const WindowSystem& windowSystem) {
     });
 }
 
+bool isOrdinaryWindow(const QWindow& window) {
+    return window.isVisible() && window.type() != Qt::Popup && window.type() != Qt::ToolTip;
+}
+
+/// The window that has the focus, or else one that is shown; null without one.
+QWindow* windowInUse() {
+    if (QWindow* focused = QGuiApplication::focusWindow(); focused != nullptr && isOrdinaryWindow(*focused)) {
+        return focused;
+    }
+    const auto windows = QGuiApplication::topLevelWindows();
+    const auto shown = std::find_if(windows.begin(), windows.end(),
+                                    [](const QWindow* window) { return isOrdinaryWindow(*window); });
+    return shown == windows.end() ? nullptr : *shown;
+}
+
+/// In the middle of the owner, or of the screen, and on the screen as a whole.
+QPoint centred(QSize size, const QWindow* owner, const QRect& screen) {
+    QRect frame(QPoint(), size);
+    frame.moveCenter(owner == nullptr ? screen.center() : owner->frameGeometry().center());
+    frame.moveRight(std::min(frame.right(), screen.right()));
+    frame.moveBottom(std::min(frame.bottom(), screen.bottom()));
+    frame.moveLeft(std::max(frame.left(), screen.left()));
+    frame.moveTop(std::max(frame.top(), screen.top()));
+    return frame.topLeft();
+}
+
 } // namespace
 
 QtUserInterface::QtUserInterface(ViewEngine& engine, WindowSystem windowSystem)
@@ -37,12 +65,18 @@ QtUserInterface::QtUserInterface(ViewEngine& engine, WindowSystem windowSystem)
 void QtUserInterface::activate() {
     // A loss from before must not close what is shown next.
     focusLoss_.stop();
+    const auto bringForward = [](QWindow* window) {
+        window->raise();
+        window->requestActivate();
+    };
     const auto windows = QGuiApplication::topLevelWindows();
     for (QWindow* window : windows) {
-        if (window->isVisible() && window->type() != Qt::Popup && window->type() != Qt::ToolTip) {
-            window->raise();
-            window->requestActivate();
+        if (isOrdinaryWindow(*window) && window != alert_) {
+            bringForward(window);
         }
+    }
+    if (alert_ != nullptr) {
+        bringForward(alert_);
     }
 }
 
@@ -60,6 +94,9 @@ std::optional<Rect> QtUserInterface::mainScreenVisibleFrame() {
 }
 
 AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
+    if (alert_ != nullptr) {
+        return AlertAnswer::none;
+    }
     AlertQuestion question;
     question.messageText = qtString(alert.messageText);
     question.informativeText = qtString(alert.informativeText);
@@ -70,11 +107,13 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
                            .properties = {{QStringLiteral("question"), QVariant::fromValue(&question)}},
                            .title = QStringLiteral("Tovrel"),
                            .type = Qt::Dialog});
-    if (const QScreen* screen = mainScreen(windowSystem_)) {
-        QRect frame = window.view().geometry();
-        frame.moveCenter(screen->availableGeometry().center());
-        window.view().setPosition(frame.topLeft());
+    QWindow* owner = windowInUse();
+    window.view().setTransientParent(owner);
+    window.view().setModality(Qt::ApplicationModal);
+    if (const QScreen* screen = owner == nullptr ? mainScreen(windowSystem_) : owner->screen()) {
+        window.view().setPosition(centred(window.view().size(), owner, screen->availableGeometry()));
     }
+    const QScopedValueRollback isAsking(alert_, &static_cast<QWindow&>(window.view()));
     QEventLoop loop;
     AlertAnswer answer = AlertAnswer::none;
     QObject::connect(&question, &AlertQuestion::answered, &loop, [&](bool isFirst) {
@@ -101,6 +140,12 @@ std::unique_ptr<StatusItem> QtUserInterface::makeStatusItem(StatusItemDescriptio
 
 Subscription QtUserInterface::onMenuTracking(std::function<void(bool)> observer) {
     return menuTracking_->subscribe(std::move(observer));
+}
+
+void QtUserInterface::closeMenu() {
+    if (QWidget* menu = QApplication::activePopupWidget()) {
+        menu->close();
+    }
 }
 
 void QtUserInterface::beep() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QWindow>
 #include <memory>
 
 #include "platform/UserInterface.h"
@@ -17,16 +18,18 @@ class QtUserInterface final : public QObject, public UserInterface {
     /// `engine` outlives it.
     QtUserInterface(ViewEngine& engine, WindowSystem windowSystem);
 
-    /// Brings the windows forward that are shown. Without one there is nothing to do: each window takes the
-    /// focus when it is shown.
+    /// Brings the windows forward that are shown, a question last. Without one there is nothing to do: each
+    /// window takes the focus when it is shown.
     void activate() override;
     [[nodiscard]] Subscription onResignActive(std::function<void()> observer) override;
     /// Of the screen with the active window, else of that with the pointer. In the coordinates of
     /// ScreenCoordinates.h.
     [[nodiscard]] std::optional<Rect> mainScreenVisibleFrame() override;
     [[nodiscard]] AlertAnswer runAlert(const Alert& alert) override;
+    [[nodiscard]] bool isAlertOpen() const override { return alert_ != nullptr; }
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription description) override;
     [[nodiscard]] Subscription onMenuTracking(std::function<void(bool)> observer) override;
+    void closeMenu() override;
     void beep() override;
     void terminate() override;
 
@@ -36,6 +39,7 @@ class QtUserInterface final : public QObject, public UserInterface {
     ObserverList<> resignActive_;
     std::shared_ptr<ObserverList<bool>> menuTracking_ = std::make_shared<ObserverList<bool>>();
     FocusLossWatch focusLoss_;
+    QWindow* alert_ = nullptr; ///< The question that is being asked.
 };
 
 } // namespace tovrel

@@ -80,6 +80,10 @@ SettingsPage {
                 name: qsTr("Command Palette")
             }
         }
+        ShortcutProblem {
+            width: parent.width
+            recorder: tab.general.recorder
+        }
     }
     SettingsCard {
         width: parent.width

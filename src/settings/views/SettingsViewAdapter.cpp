@@ -52,6 +52,7 @@ void SettingsViewAdapter::selectTab(int index) {
 
 void SettingsViewAdapter::refresh() {
     state_->viewModel().reload();
+    general_.recorder()->retry();
 }
 
 } // namespace tovrel

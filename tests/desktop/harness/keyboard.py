@@ -7,7 +7,7 @@ import threading
 import time
 
 KEYSYMS = {"ctrl": 0xFFE3, "shift": 0xFFE1, "alt": 0xFFE9, "super": 0xFFEB, "Return": 0xFF0D, "Escape": 0xFF1B,
-           "Tab": 0xFF09, "BackSpace": 0xFF08, "Delete": 0xFFFF, "Left": 0xFF51, "Right": 0xFF53, "Down": 0xFF54, "Up": 0xFF52, " ": 0x20, "dead_acute": 0xFE51, "dead_circumflex": 0xFE52}
+           "Tab": 0xFF09, "BackSpace": 0xFF08, "Delete": 0xFFFF, "Left": 0xFF51, "Right": 0xFF53, "Down": 0xFF54, "Up": 0xFF52, "F4": 0xFFC1, " ": 0x20, "dead_acute": 0xFE51, "dead_circumflex": 0xFE52}
 _environment_lock = threading.Lock()
 _errors = []
 

@@ -49,6 +49,10 @@ class SettingsWindow:
         """The node on the screen with that name and role, or None."""
         return self._first(lambda node: node.role == role and node.name == name and "showing" in node.states)
 
+    def nodes(self, role):
+        """All nodes of that role on the screen."""
+        return self._all(lambda node: node.role == role and "showing" in node.states)
+
     def wait_for(self, name, role):
         """Waits until it is on the screen, and looks for it all over the page."""
         directions = itertools.cycle([DOWN] * MOST_TURNS + [UP] * MOST_TURNS)

@@ -61,7 +61,8 @@ class LinuxHotKeyCenterTest : public X11ServerTest {
 
     HotKeyHandle registered(std::uint32_t keyCode = keyP, std::uint32_t modifiers = commandShift) {
         const auto result = center_.registerHotKey(keyCode, modifiers, {0x5456484B, 1});
-        EXPECT_TRUE(std::holds_alternative<HotKeyHandle>(result)) << std::get<HotKeyError>(result);
+        EXPECT_TRUE(std::holds_alternative<HotKeyHandle>(result))
+            << static_cast<int>(std::get<HotKeyError>(result));
         return std::get<HotKeyHandle>(result);
     }
 
@@ -217,21 +218,21 @@ TEST_F(LinuxHotKeyCenterTest, RefusesWhatItCannotHaveAndKeepsNothingOfIt) {
     };
     ASSERT_TRUE(grabbed(XCB_MOD_MASK_2)) << "one of the four combinations";
     using Result = std::variant<HotKeyHandle, HotKeyError>;
-    EXPECT_EQ(center_.registerHotKey(keyP, commandShift, {}), Result(HotKeyError{10}));
+    EXPECT_EQ(center_.registerHotKey(keyP, commandShift, {}), Result(HotKeyError::takenByAnother));
     EXPECT_TRUE(center_.isSystemShortcut({keyP, commandShift}));
     EXPECT_TRUE(grabbed(0) && grabbed(XCB_MOD_MASK_LOCK) && grabbed(XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2));
 
     const HotKeyHandle handle = registered(keyK);
-    EXPECT_EQ(center_.registerHotKey(keyK, commandShift, {}), Result(hot_key_errors::alreadyRegistered));
+    EXPECT_EQ(center_.registerHotKey(keyK, commandShift, {}), Result(HotKeyError::alreadyRegistered));
     EXPECT_FALSE(center_.isSystemShortcut({keyK, commandShift})) << "it is our own";
     center_.unregisterHotKey(handle);
     EXPECT_FALSE(center_.isSystemShortcut({keyK, commandShift}));
     EXPECT_NE(registered(keyK), handle) << "trying has kept nothing of it";
-    EXPECT_EQ(center_.registerHotKey(63, commandShift, {}), Result(hot_key_errors::noSuchKey));
-    EXPECT_EQ(center_.registerHotKey(4711, commandShift, {}), Result(hot_key_errors::noSuchKey));
+    EXPECT_EQ(center_.registerHotKey(63, commandShift, {}), Result(HotKeyError::noSuchKey));
+    EXPECT_EQ(center_.registerHotKey(4711, commandShift, {}), Result(HotKeyError::noSuchKey));
 
     LinuxHotKeyCenter nowhere(loop_, {}, ":60987");
-    EXPECT_EQ(nowhere.registerHotKey(keyK, commandShift, {}), Result(hot_key_errors::noServer));
+    EXPECT_EQ(nowhere.registerHotKey(keyK, commandShift, {}), Result(HotKeyError::noHotKeys));
     EXPECT_EQ(nowhere.fileDescriptor(), -1);
     EXPECT_EQ(nowhere.characterForKeyCode(keyP), std::nullopt);
     nowhere.unregisterHotKey(1);
@@ -267,6 +268,34 @@ TEST_F(LinuxHotKeyCenterTest, LetsTheKeyboardGoWhenTheWindowNeverGetsTheFocus) {
     keyboard_.flush();
     ASSERT_TRUE(loop_.runUntil([&] { return releases() == 3; }));
     EXPECT_EQ(presses(), 3);
+}
+
+TEST_F(LinuxHotKeyCenterTest, LetsTheKeyboardGoWhileItsThreadIsBlocked) {
+    focusByThemselves();
+    registered();
+    // Nothing of the center is dispatched in here; the second press is one that its thread does not know of.
+    onPress = [this] {
+        onPress = nullptr;
+        TestLoop elsewhere;
+        elsewhere.watch(front_);
+        const auto typedArrive = [&](std::size_t inAll) {
+            releaseHotKey();
+            typeTenKeys();
+            keyboard_.flush();
+            EXPECT_TRUE(elsewhere.runUntil([&] { return front_.presses().size() == inAll; }))
+                << front_.presses().size() << " of " << inAll;
+        };
+        typedArrive(12);
+        pressHotKey();
+        typedArrive(24);
+    };
+    pressHotKey();
+    keyboard_.flush();
+    ASSERT_TRUE(loop_.runUntil([&] { return presses() == 2 && releases() == 2; }));
+
+    // Whatever was done too late has not ended a later hold.
+    toggleOnPress();
+    toggleAndType(5);
 }
 
 TEST_F(LinuxHotKeyCenterTest, ReportsTheReleaseOnceInWhateverOrderTheKeysComeUp) {
@@ -360,6 +389,77 @@ TEST_F(LinuxHotKeyCenterTest, GivesTheKeyboardBackWithAKeyThatIsHeld) {
     keyboard.flush();
     ASSERT_TRUE(loop_.runUntil([&] { return front_.keys().size() >= 2 && keyboard.down().empty(); }));
     EXPECT_EQ(releases(), 0);
+}
+
+TEST_F(LinuxHotKeyCenterTest, TakesTheKeyboardFromEveryHotKey) {
+    focusByThemselves();
+    registered();
+    X11TestClient other(display_);
+    xcb_connection_t* connection = other.connection().handle();
+    xcb_grab_key(connection, 0, other.connection().root(), XCB_MOD_MASK_1, x11KeyCode(keyK).value(),
+                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    xcb_flush(connection);
+    front_.forget();
+    std::vector<KeyEvent> keys;
+    const auto note = [&](const KeyEvent& key) { keys.push_back(key); };
+    ASSERT_TRUE(center_.takeKeyboard(note, {}));
+    EXPECT_FALSE(center_.takeKeyboard(note, {}));
+    pressHotKey();
+    releaseHotKey();
+    keyboard_.press(keyAlt);
+    keyboard_.tap(keyK);
+    keyboard_.release(keyAlt);
+    keyboard_.flush();
+    ASSERT_TRUE(loop_.runUntil([&] { return keys.size() == 10; })) << keys.size();
+    EXPECT_EQ(keys[2].keyCode, keyP);
+    EXPECT_EQ(keys[2].type, KeyEventType::keyDown);
+    EXPECT_EQ(keys[2].modifierFlags, modifier_flags::command | modifier_flags::shift);
+    EXPECT_EQ(keys[3].type, KeyEventType::keyUp);
+    EXPECT_EQ(keys[7].keyCode, keyK);
+    EXPECT_EQ(keys[7].modifierFlags, modifier_flags::option);
+    other.dispatch();
+    EXPECT_TRUE(other.keys().empty());
+    EXPECT_EQ(presses(), 0);
+
+    // The window that has the focus learns nothing of it, and gets the key that is passed on.
+    center_.giveKeyboardBack(false);
+    const std::uint32_t passedOn = keyReturn;
+    ASSERT_TRUE(center_.takeKeyboard([&](const KeyEvent&) { center_.giveKeyboardBack(true); }, {}));
+    keyboard_.tap(passedOn);
+    typeTenKeys();
+    keyboard_.flush();
+    ASSERT_TRUE(loop_.runUntil([&] { return front_.presses().size() == 11; }));
+    EXPECT_EQ(front_.presses().front(), passedOn);
+    EXPECT_TRUE(front_.seemsFocused());
+
+    const XcbOwned<xcb_grab_keyboard_reply_t> grab(
+        xcb_grab_keyboard_reply(connection,
+                                xcb_grab_keyboard(connection, 0, other.connection().root(), XCB_CURRENT_TIME,
+                                                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                                nullptr));
+    ASSERT_EQ(grab->status, XCB_GRAB_STATUS_SUCCESS);
+    EXPECT_FALSE(center_.takeKeyboard(note, {}));
+}
+
+TEST_F(LinuxHotKeyCenterTest, LosesATakenKeyboardThatIsNotAttendedTo) {
+    focusByThemselves();
+    registered();
+    front_.forget();
+    int losses = 0;
+    const auto block = [&](const KeyEvent&) {
+        TestLoop elsewhere;
+        elsewhere.watch(front_);
+        EXPECT_TRUE(elsewhere.runUntil([&] { return front_.presses() == tenKeys(); }));
+    };
+    ASSERT_TRUE(center_.takeKeyboard(block, [&] { ++losses; }));
+    keyboard_.tap(keyReturn);
+    typeTenKeys();
+    keyboard_.flush();
+    ASSERT_TRUE(loop_.runUntil([&] { return losses == 1; }));
+    center_.giveKeyboardBack(false);
+    toggleOnPress();
+    toggleAndType(3);
+    EXPECT_EQ(losses, 1);
 }
 
 TEST_F(LinuxHotKeyCenterTest, ShowsRawKeysWhileAnotherClientHoldsTheKeyboard) {

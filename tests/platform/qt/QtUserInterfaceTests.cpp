@@ -71,6 +71,24 @@ TEST_F(QtUserInterfaceTest, AlertsAreAnsweredByKeysAndClicks) {
     EXPECT_EQ(answerAfter(clickSecond), AlertAnswer::secondButton);
 }
 
+TEST_F(QtUserInterfaceTest, AnAlertIsCentredOnTheWindowThatAsksAndKeepsKeysFromIt) {
+    QWindow owner;
+    owner.setGeometry(300, 200, 400, 300);
+    owner.show();
+    owner.requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&owner));
+    const auto whileAsking = [&](QQuickView& view) {
+        EXPECT_TRUE(userInterface_.isAlertOpen());
+        EXPECT_EQ(view.transientParent(), &owner);
+        EXPECT_EQ(view.modality(), Qt::ApplicationModal);
+        EXPECT_LE((view.frameGeometry().center() - owner.frameGeometry().center()).manhattanLength(), 2);
+        EXPECT_EQ(userInterface_.runAlert({}), AlertAnswer::none) << "not asked meanwhile";
+        view.close();
+    };
+    EXPECT_EQ(answerAfter(whileAsking), AlertAnswer::none);
+    EXPECT_FALSE(userInterface_.isAlertOpen());
+}
+
 TEST_F(QtUserInterfaceTest, EventsGoOnDuringAnAlert) {
     QtMainQueue queue;
     bool ran = false;
@@ -126,8 +144,12 @@ TEST_F(QtUserInterfaceTest, TheStatusMenuHasWhatItWasMadeWith) {
     }
     EXPECT_THAT(chosen, ElementsAre("open", "settings", "quit"));
     menu.popup({});
-    menu.close();
-    EXPECT_THAT(tracked, ElementsAre(true, false));
+    QTest::keyClick(&menu, Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_FALSE(menu.isVisible());
+    EXPECT_THAT(chosen, ElementsAre("open", "settings", "quit", "settings"));
+    menu.popup({});
+    userInterface_.closeMenu();
+    EXPECT_THAT(tracked, ElementsAre(true, false, true, false));
 }
 
 TEST(QtMainQueueTest, TasksRunLaterInTheirOrderAndNotAfterTheQueueIsGone) {

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "model/Shortcut.h"
+#include "platform/UserNotifications.h"
+#include "support/LocalizedString.h"
+#include "support/Text.h"
+
+namespace tovrel {
+
+/// Tells the user, who would else press it in vain, that the global shortcut does not work: by the status
+/// item's tool tip as long as that lasts, and by one notification.
+class ShortcutNotice {
+  public:
+    struct Surroundings {
+        KeyboardShortcuts& shortcuts;
+        UserNotifications& notifications;
+        LocalizedString localized;
+        std::function<Text(const Shortcut&)> textOf;
+        std::function<void(const Text&)> setToolTip;
+    };
+
+    /// Everything referred to outlives it. What is the case already is told at once.
+    ShortcutNotice(Surroundings surroundings, KeyboardShortcuts::Name name);
+
+  private:
+    void tell();
+
+    Surroundings surroundings_;
+    KeyboardShortcuts::Name name_;
+    std::optional<Shortcut> notified_; ///< The last that was; it is not told of again.
+    Subscription availability_;
+    Subscription change_;
+};
+
+} // namespace tovrel

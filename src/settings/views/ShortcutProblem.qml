@@ -1,0 +1,42 @@
+import QtQuick
+import Tovrel.Views
+
+// Says that a shortcut does not work, and why; nothing while it does.
+RoundedBox {
+    id: notice
+
+    required property RecorderAdapter recorder
+
+    visible: notice.recorder.problem !== ""
+    implicitHeight: message.height + 20
+    radius: 13
+    from: SettingsTheme.warningTint
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: message.text
+
+    Symbol {
+        x: 14
+        anchors.verticalCenter: parent.verticalCenter
+        name: "exclamationmark.triangle"
+        colour: SettingsTheme.warning
+        size: 18
+    }
+    Text {
+        id: message
+
+        anchors.left: parent.left
+        anchors.leftMargin: 42
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        anchors.verticalCenter: parent.verticalCenter
+        text: qsTr("Not available: %1 Choose another one, or set it free there and refresh.").arg(notice.recorder.problem)
+        color: SettingsTheme.warning
+        font.pixelSize: 13
+        font.weight: Font.DemiBold
+        lineHeight: 1.1
+        wrapMode: Text.Wrap
+        textFormat: Text.PlainText
+        Accessible.ignored: true
+    }
+}
