@@ -16,8 +16,8 @@ TEST(PointInTime, CountsFromTheFirstOfJanuary2001) {
     const PointInTime before = sinceReferenceDate();
     const PointInTime now = currentTime();
     constexpr double rounding = 0.001;
-    EXPECT_GT(secondsBetween(before, now), -rounding);
-    EXPECT_GT(secondsBetween(now, sinceReferenceDate()), -rounding);
+    EXPECT_GT(now.secondsSinceReferenceDate, before.secondsSinceReferenceDate - rounding);
+    EXPECT_GT(sinceReferenceDate().secondsSinceReferenceDate, now.secondsSinceReferenceDate - rounding);
 }
 
 } // namespace
