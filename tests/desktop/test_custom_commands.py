@@ -31,8 +31,7 @@ class CustomCommandTests(PaletteTestCase):
         self.type(word)
         palette = self.resident.window
         self.press("Return")
-        self.wait_until(lambda: self.resident.window not in (None, palette) and self.resident.has_focus(),
-                        "the question")
+        self.wait_until_asked(palette)
         self.press("Return")
         self.wait_until_closed()
         self.assertEqual(self.history()[f"custom:{word}"], used + 1)

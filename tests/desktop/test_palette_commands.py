@@ -48,8 +48,7 @@ class CommandTests(PaletteTestCase):
             self.type("safe")
             palette = self.resident.window
             self.press("Return")
-            self.wait_until(lambda: self.resident.window not in (None, palette) and self.resident.has_focus(),
-                            "the question")
+            self.wait_until_asked(palette)
             self.assertFalse(ran.exists())
             self.press(answer)
             self.wait_until_closed()
@@ -67,8 +66,7 @@ class CommandTests(PaletteTestCase):
         self.assertIn("Open Accessibility Settings", self.resident.rows()[0])
         palette = self.resident.window
         self.press("Return")
-        self.wait_until(lambda: self.resident.window not in (None, palette) and self.resident.has_focus(),
-                        "the offer to turn it on")
+        self.wait_until_asked(palette)
         self.press("Return")
         self.wait_until(lambda: self.resident.status()["accessibilityTrusted"], "accessibility to be on")
         self.assertEqual(self.history(), {"custom.accessibility": 1})

@@ -44,6 +44,11 @@ class PaletteTestCase(DesktopTestCase):
         self.keyboard.type(text).send()
         self.wait_until(lambda: self.resident.query() == text, f"{text!r} in the search field")
 
+    def wait_until_asked(self, palette):
+        """Waits for a question over the palette, whose window is given."""
+        self.wait_until(lambda: self.desktop.front_window() not in (None, palette) and self.resident.has_focus(),
+                        "the question")
+
     def wait_until_closed(self):
         self.wait_until(lambda: not self.resident.is_open() and self.resident.window is None,
                         "the palette to close")
