@@ -32,8 +32,12 @@ TEST_F(DBusConnectionTest, GoesToSocketsOfThisMachineOnly) {
     const std::string good = bus_.address();
     const auto file = std::filesystem::temp_directory_path() / ("tovrel-ran-" + std::to_string(getpid()));
     const std::string program = "unixexec:path=/usr/bin/touch,argv1=" + file.string();
+    const auto list = [](const std::string& one, const std::string& other) {
+        std::string addresses = one;
+        return addresses.append(";").append(other);
+    };
     for (const std::string& address :
-         {program, good + ";" + program, program + ";" + good, "tcp:host=localhost,port=1;" + good,
+         {program, list(good, program), list(program, good), list("tcp:host=localhost,port=1", good),
           std::string("unix:"), std::string("unix:path=/nonexistent"), std::string("unix:path=%zz"),
           std::string()}) {
         EXPECT_FALSE(DBusConnection::open(address).has_value()) << address;
