@@ -21,10 +21,6 @@ constexpr auto firstRetry = 250ms;
 /// A session without its bus has other troubles than a wake-up now and then.
 constexpr auto longestRetry = 8s;
 
-QString connectionName() {
-    return QStringLiteral("tovrel");
-}
-
 /// Qt waits for a bus that does not answer as long as it takes.
 bool isBusAnswering(std::chrono::milliseconds patience) {
     auto bus = DBusConnection::openSessionBus();
@@ -37,6 +33,10 @@ bool isBusAnswering(std::chrono::milliseconds patience) {
 }
 
 } // namespace
+
+QString BusPresence::connectionName() {
+    return QStringLiteral("tovrel");
+}
 
 BusPresence::~BusPresence() {
     disappear();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 #include <QTimer>
 #include <chrono>
 
@@ -23,6 +24,9 @@ class BusPresence : public QObject {
     ~BusPresence() override;
     BusPresence(const BusPresence&) = delete;
     BusPresence& operator=(const BusPresence&) = delete;
+
+    /// Of the connection, for others who speak to the bus (QDBusConnection).
+    [[nodiscard]] static QString connectionName();
 
     /// Offers the object and then asks for the name. Waits up to 5 s for a bus that does not answer.
     [[nodiscard]] Outcome appear();

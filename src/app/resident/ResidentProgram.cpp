@@ -45,6 +45,7 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
       toolkitAccessibility_(accessibilityBus_, workspace_),
       hotKeys_(queue_, [this] { return keyDestination(); }), processRunner_(queue_),
       translations_(invocation.localeIdentifier), userInterface_(views_, windowSystem()),
+      notifications_(BusPresence::connectionName()),
       accessibilityOffer_(toolkitAccessibility_, userInterface_, localizedByQt()),
       shortcuts_(preferences_, hotKeys_, userInterface_, textServices_, console.output),
       settingsWindowController_([this] { return makeSettingsWindow(); }),

@@ -31,7 +31,7 @@ QString withoutMarkup(QString text) {
         .replace(u'>', QLatin1String("&gt;"));
 }
 
-void notify(const QString& title, const QString& body) {
+void notify(const QDBusConnection& bus, const QString& title, const QString& body) {
     const uint replacesNone = 0;
     const int asLongAsTheServerLikes = -1;
     const QString identifier = QGuiApplication::desktopFileName(); // also the name of the icon
@@ -39,24 +39,24 @@ void notify(const QString& title, const QString& body) {
     call.setArguments({QGuiApplication::applicationDisplayName(), replacesNone, identifier, title, body,
                        QStringList(), QVariantMap{{QStringLiteral("desktop-entry"), identifier}},
                        asLongAsTheServerLikes});
-    QDBusConnection::sessionBus().send(call);
+    bus.send(call);
 }
 
 } // namespace
 
 void QtUserNotifications::show(const Text& title, const Text& body) {
     // Markup is a matter of the body alone, and each server says for itself whether it reads any.
-    const QDBusPendingCall question =
-        QDBusConnection::sessionBus().asyncCall(callOf(QStringLiteral("GetCapabilities")), patience);
+    const QDBusConnection bus(connectionName_);
+    const QDBusPendingCall question = bus.asyncCall(callOf(QStringLiteral("GetCapabilities")), patience);
     // Its parent becomes its owner.
     auto* call = std::make_unique<QDBusPendingCallWatcher>(question, &pendingCalls_).release();
     QObject::connect(call, &QDBusPendingCallWatcher::finished, &pendingCalls_,
-                     [call, title = qtString(title), body = qtString(body)] {
+                     [call, bus, title = qtString(title), body = qtString(body)] {
                          const QDBusPendingReply<QStringList> reply = *call;
                          call->deleteLater();
                          if (reply.isValid()) {
                              const bool readsMarkup = reply.value().contains(QLatin1String("body-markup"));
-                             notify(title, readsMarkup ? withoutMarkup(body) : body);
+                             notify(bus, title, readsMarkup ? withoutMarkup(body) : body);
                          }
                      });
 }
