@@ -1,5 +1,6 @@
 #include "platform/linux/AtspiBus.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -13,6 +14,11 @@ using namespace std::chrono_literals;
 
 /// The session bus may have to start the accessibility bus first, which took 20 ms where it was measured.
 constexpr auto launchPatience = 1000ms;
+/// Of a launcher whose last answer serves as well, and of one that was silent before: a user waits for the
+/// palette meanwhile.
+constexpr auto shortPatience = 100ms;
+/// So long a launcher that was silent is not asked again, since one opening has several questions to it.
+constexpr auto restAfterSilence = 1000ms;
 /// The bus itself and the registry answer in about a millisecond unless the machine is out of breath.
 constexpr auto busPatience = 500ms;
 
@@ -65,9 +71,13 @@ bool AtspiBus::findLauncher(SteadyTime deadline) {
 }
 
 template <typename Arguments>
-std::optional<DBusMessage> AtspiBus::askLauncher(const char* interface, const char* member,
-                                                 Arguments arguments) {
-    const SteadyTime deadline = after(launchPatience);
+std::optional<DBusMessage> AtspiBus::askLauncher(std::chrono::milliseconds patience, const char* interface,
+                                                 const char* member, Arguments arguments) {
+    if (silentUntil_ && std::chrono::steady_clock::now() < *silentUntil_) {
+        return std::nullopt;
+    }
+    const SteadyTime deadline = after(silentUntil_ ? std::min(patience, shortPatience) : patience);
+    silentUntil_.reset();
     // A connection or a launcher known from before may turn out lost; then a new one is tried.
     for (const bool mayBeLost : {true, false}) {
         if (!findLauncher(deadline)) {
@@ -89,6 +99,9 @@ std::optional<DBusMessage> AtspiBus::askLauncher(const char* interface, const ch
             break;
         }
     }
+    if (std::chrono::steady_clock::now() >= deadline) {
+        silentUntil_ = after(restAfterSilence);
+    }
     return std::nullopt;
 }
 
@@ -99,7 +112,8 @@ std::optional<std::string> AtspiBus::address() {
     if (fromEnvironment != nullptr && *fromEnvironment != '\0') {
         return fromEnvironment;
     }
-    if (auto answer = askLauncher("org.a11y.Bus", "GetAddress", [](sd_bus_message*) { return true; })) {
+    if (auto answer =
+            askLauncher(launchPatience, "org.a11y.Bus", "GetAddress", [](sd_bus_message*) { return true; })) {
         const auto address = answer->readString();
         if (address && !address->empty()) {
             return std::string(*address);
@@ -126,14 +140,22 @@ bool AtspiBus::answers() {
 }
 
 bool AtspiBus::isEnabled() {
-    auto answer = askLauncher("org.freedesktop.DBus.Properties", "Get", [](sd_bus_message* call) {
-        return sd_bus_message_append(call, "ss", "org.a11y.Status", "IsEnabled") >= 0;
-    });
-    return answer && answer->readVariantBoolean().value_or(false);
+    auto answer =
+        askLauncher(isKnownEnabled_ ? shortPatience : launchPatience, "org.freedesktop.DBus.Properties",
+                    "Get", [](sd_bus_message* call) {
+                        return sd_bus_message_append(call, "ss", "org.a11y.Status", "IsEnabled") >= 0;
+                    });
+    if (answer) {
+        isKnownEnabled_ = answer->readVariantBoolean().value_or(false);
+    } else if (!silentUntil_) {
+        isKnownEnabled_.reset(); // It is gone.
+    }
+    return isKnownEnabled_.value_or(false);
 }
 
 bool AtspiBus::setEnabled(bool isEnabled) {
-    return askLauncher("org.freedesktop.DBus.Properties", "Set",
+    silentUntil_.reset();
+    return askLauncher(launchPatience, "org.freedesktop.DBus.Properties", "Set",
                        [&](sd_bus_message* call) {
                            return sd_bus_message_append(call, "ssv", "org.a11y.Status", "IsEnabled", "b",
                                                         isEnabled ? 1 : 0) >= 0;

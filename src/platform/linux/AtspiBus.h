@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -36,7 +37,8 @@ class AtspiBus {
     [[nodiscard]] bool answers();
 
     /// Whether accessibility is enabled for toolkits: IsEnabled of org.a11y.Status on the session bus. GTK
-    /// registers on the accessibility bus regardless, Qt and Firefox only when it is. False when unknown.
+    /// registers on the accessibility bus regardless, Qt and Firefox only when it is. A launcher that is
+    /// silent for 100 ms still stands by its last answer. False when unknown.
     [[nodiscard]] bool isEnabled();
     /// Sets it. False when nobody takes it.
     bool setEnabled(bool isEnabled);
@@ -51,13 +53,17 @@ class AtspiBus {
     /// Sees to it that `session_` and `launcher_` are known.
     bool findLauncher(SteadyTime deadline);
 
-    /// What the object on the session bus answers that starts the accessibility bus; absent for an error.
+    /// What the object on the session bus answers that starts the accessibility bus; absent for an error, and
+    /// when it is silent, which `silentUntil_` tells.
     template <typename Arguments>
-    std::optional<DBusMessage> askLauncher(const char* interface, const char* member, Arguments arguments);
+    std::optional<DBusMessage> askLauncher(std::chrono::milliseconds patience, const char* interface,
+                                           const char* member, Arguments arguments);
 
     std::function<std::optional<std::string>()> addressOnScreen_;
     std::optional<DBusConnection> session_;
-    std::optional<std::string> launcher_; ///< Unique name of that object's owner on `session_`.
+    std::optional<std::string> launcher_;   ///< Unique name of that object's owner on `session_`.
+    std::optional<SteadyTime> silentUntil_; ///< Since it did not answer: when it is asked again.
+    std::optional<bool> isKnownEnabled_;    ///< As it answered last.
     std::optional<DBusConnection> connection_;
 };
 

@@ -108,6 +108,9 @@ void FakeAccessibility::add(const std::string& uniqueName) {
 
 void FakeAccessibility::answer(sd_bus_message* call) {
     const std::string_view member = sd_bus_message_get_member(call);
+    if (isSilent) {
+        return;
+    }
     if (member == "GetAddress" && refusesAddress) {
         sd_bus_reply_method_errorf(call, SD_BUS_ERROR_ACCESS_DENIED, "%s", address().c_str());
     } else if (member == "GetAddress") {

@@ -59,6 +59,7 @@ class FakeAccessibility {
     [[nodiscard]] const std::string& address() const { return daemon_->announced(); }
     void add(const std::string& uniqueName);
     std::atomic<bool> isEnabled = true;
+    std::atomic<bool> isSilent = false;       ///< As if it were stopped.
     std::atomic<bool> refusesAddress = false; ///< With an error whose text is the address.
 
   private:

@@ -152,6 +152,14 @@ TEST_F(LinuxAccessibilityTest, TrustNeedsTheBusAndTheSwitch) {
     EXPECT_EQ(unreachable.lastReport()->outcome, MenuReadOutcome::noAccessibilityBus);
 }
 
+TEST_F(LinuxAccessibilityTest, ASilentLauncherStandsByItsLastAnswer) {
+    ASSERT_TRUE(linux_.isTrusted());
+    accessibility_.isSilent = true;
+    accessibility_.isEnabled = false;
+    EXPECT_TRUE(linux_.isTrusted());
+    EXPECT_FALSE(AtspiBus().isEnabled()) << "nobody knows who never got an answer";
+}
+
 TEST_F(LinuxAccessibilityTest, TakesTheTitledWindowsBarElseTheActiveOnesAndNoneOfContent) {
     // Windows 1 to 4: an active dialog without a bar, a window, an active one and the titled one; the bar of
     // the last lies behind a filler, and ones in its document and in a root pane are not what the user sees.
