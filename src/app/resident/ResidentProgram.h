@@ -44,6 +44,7 @@ class ResidentProgram {
     /// `seat` is this process's own; without one it is only to be found on the session bus.
     ResidentProgram(const command_line::Invocation& invocation, const Console& console,
                     const std::optional<ResidentSeat>& seat);
+    ~ResidentProgram() = default;
     ResidentProgram(const ResidentProgram&) = delete;
     ResidentProgram& operator=(const ResidentProgram&) = delete;
 

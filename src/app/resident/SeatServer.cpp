@@ -9,12 +9,11 @@ namespace tovrel {
 
 SeatServer::SeatServer(const ResidentSeat& seat, QObject& object)
     : server_(QString::fromStdString(seat.address())) {
-    QObject::connect(&server_, &QDBusServer::newConnection, this,
-                     [this, &object](const QDBusConnection& connection) {
-                         // Its parent owns it.
-                         std::make_unique<SeatVisitor>(connection, object, *this)
-                             .release(); // NOLINT(bugprone-unused-return-value)
-                     });
+    QObject::connect(
+        &server_, &QDBusServer::newConnection, this, [this, &object](const QDBusConnection& connection) {
+            // Its parent owns it.
+            static_cast<void>(std::make_unique<SeatVisitor>(connection, object, *this).release());
+        });
 }
 
 SeatVisitor::SeatVisitor(const QDBusConnection& connection, QObject& object, QObject& parent)
