@@ -6,6 +6,9 @@
 
 #include "KeyboardShortcuts/StoredShortcut.h"
 #include "app/PreferencesCommands.h"
+#include "commands/CommandIndex.h"
+#include "commands/CommandSearch.h"
+#include "commands/CommandSearchIndex.h"
 #include "fuzz/Fuzzing.h"
 #include "platform/memory/MemoryPreferencesDomain.h"
 #include "stores/CommandHistoryStore.h"
@@ -17,8 +20,19 @@ namespace {
 using namespace tovrel;
 using fuzzing::require;
 
+/// Whatever was counted, what is searched for is found.
+void trySearch(CommandHistoryStore& history, const TextServices& text) {
+    ScannedMenuItem save;
+    save.title = "Save";
+    save.menuPath = {"File", "Save"};
+    const CommandSearchIndex index(
+        CommandIndex::buildCommands({save}, {}, Text("org.xfce.mousepad"), {}, {}, history), text);
+    require(CommandSearch().search("save", index).size() == 1, "the command is found");
+}
+
 void tryHistory(MemoryPreferencesDomain& domain, const TextServices& text) {
     CommandHistoryStore history(domain, "document", text);
+    trySearch(history, text);
     const std::size_t before = history.entries().size();
     const bool isKnown = history.snapshot()->records().contains("menu:x:File/Save");
     history.setFavorite(true, "menu:x:File/Save");
