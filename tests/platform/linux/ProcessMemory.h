@@ -8,22 +8,23 @@
 
 namespace tovrel {
 
+/// The address sanitizer needs terabytes of address space for itself and keeps much more memory than is asked
+/// for, so that nothing can be limited there; nor does it bear the fork of a process with threads.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool hasAddressSanitizer = true;
+#elif defined(__has_feature)
+inline constexpr bool hasAddressSanitizer = __has_feature(address_sanitizer);
+#else
+inline constexpr bool hasAddressSanitizer = false;
+#endif
+
 /// Lets this process take so many bytes of address space more than it has now; an allocation beyond fails.
-/// The address sanitizer needs terabytes of address space for itself, so that there nothing is limited: what
-/// memory costs is asserted by the other builds.
-inline void limitMemoryTo([[maybe_unused]] std::size_t moreBytes) {
-#if !defined(__SANITIZE_ADDRESS__)
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-    return;
-#endif
-#endif
+inline void limitMemoryTo(std::size_t moreBytes) {
     std::size_t pages = 0;
     std::ifstream("/proc/self/statm") >> pages;
     const rlim_t limit = pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)) + moreBytes;
     const rlimit limits{limit, limit};
     setrlimit(RLIMIT_AS, &limits);
-#endif
 }
 
 } // namespace tovrel
