@@ -159,7 +159,7 @@ TEST_F(CommandHistory, IsReadOncePerChangeAndNeverStale) {
 
 TEST_F(CommandHistory, ADocumentThatCouldNotBeReadIsReadAgain) {
     struct : FailingPreferencesDomain {
-        // The lock comes after the look at the revision.
+        // The lock comes after the look at the revision. NOLINTNEXTLINE(bugprone-parent-virtual-call)
         [[nodiscard]] std::uint64_t revision() override { return MemoryPreferencesDomain::revision(); }
     } locked;
     CommandHistoryStore here(locked, storageKey, text);

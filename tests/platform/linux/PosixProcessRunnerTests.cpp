@@ -81,6 +81,8 @@ TEST_F(PosixProcessRunnerTest, AnswersHowTheProgramEnded) {
 }
 
 TEST_F(PosixProcessRunnerTest, MissesNoEndWithoutDescriptorsOfProcessesOrWithoutStatuses) {
+    // A sanitizer looks at an object by a pipe, when it meets its type for the first time.
+    EXPECT_EQ(shell("exit 5"), ProcessOutcome(ProcessEnd{5, false}));
     for (const char* script : {"exit 4", "sleep 0.3; exit 4"}) {
         {
             const NoMoreDescriptors none;
