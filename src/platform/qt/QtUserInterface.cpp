@@ -65,18 +65,19 @@ QtUserInterface::QtUserInterface(ViewEngine& engine, WindowSystem windowSystem)
 void QtUserInterface::activate() {
     // A loss from before must not close what is shown next.
     focusLoss_.stop();
-    const auto bringForward = [](QWindow* window) {
-        window->raise();
-        window->requestActivate();
-    };
     const auto windows = QGuiApplication::topLevelWindows();
     for (QWindow* window : windows) {
         if (isOrdinaryWindow(*window) && window != alert_) {
-            bringForward(window);
+            window->raise();
+            // On the way to a question keys would come to another window and be lost.
+            if (alert_ == nullptr) {
+                window->requestActivate();
+            }
         }
     }
     if (alert_ != nullptr) {
-        bringForward(alert_);
+        alert_->raise();
+        alert_->requestActivate();
     }
 }
 
