@@ -24,12 +24,7 @@ constexpr auto longestRetry = 8s;
 /// Qt waits for a bus that does not answer as long as it takes.
 bool isBusAnswering(std::chrono::milliseconds patience) {
     auto bus = DBusConnection::openSessionBus();
-    if (!bus) {
-        return false;
-    }
-    const auto question =
-        bus->methodCall("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "GetId");
-    return bus->call(question, std::chrono::steady_clock::now() + patience).has_value();
+    return bus && bus->call(bus->busCall("GetId"), std::chrono::steady_clock::now() + patience);
 }
 
 } // namespace
