@@ -8,6 +8,7 @@
 
 #include "commands/CommandIndex.h"
 #include "menus/MenuScanner.h"
+#include "model/MenuPath.h"
 #include "platform/memory/MemoryAccessibility.h"
 #include "platform/memory/MemoryPreferencesDomain.h"
 #include "platform/memory/Recording.h"

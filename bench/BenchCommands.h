@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <vector>
 
+#include "menus/ScannedMenuItem.h"
 #include "model/Command.h"
-#include "model/ScannedMenuItem.h"
 
 namespace tovrel::bench {
 

@@ -18,9 +18,9 @@
 #include <sys/wait.h>
 
 #include "LibatspiWalk.h"
-#include "platform/linux/DBusMenuReader.h"
-#include "platform/linux/GtkMenuReader.h"
-#include "platform/linux/LinuxAccessibility.h"
+#include "platform/linux/menus/LinuxAccessibility.h"
+#include "platform/linux/menus/dbusmenu/DBusMenuReader.h"
+#include "platform/linux/menus/gtk/GtkMenuReader.h"
 
 namespace {
 

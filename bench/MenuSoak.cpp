@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/LinuxAccessibility.h"
+#include "platform/linux/menus/LinuxAccessibility.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include <xcb/res.h>
 
-#include "platform/linux/XcbOwned.h"
+#include "platform/x11/server/XcbOwned.h"
 
 namespace tovrel {
 namespace {

@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "platform/linux/X11Connection.h"
+#include "platform/x11/server/X11Connection.h"
 
 namespace tovrel {
 

@@ -7,7 +7,7 @@
 
 #include <xcb/xtest.h>
 
-#include "platform/linux/XcbOwned.h"
+#include "platform/x11/server/XcbOwned.h"
 
 namespace tovrel {
 namespace {

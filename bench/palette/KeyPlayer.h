@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/linux/X11Connection.h"
+#include "platform/x11/server/X11Connection.h"
 
 namespace tovrel {
 

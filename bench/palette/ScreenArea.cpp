@@ -7,7 +7,7 @@
 #include <sys/ipc.h>
 #include <sys/shm.h>
 
-#include "platform/linux/XcbOwned.h"
+#include "platform/x11/server/XcbOwned.h"
 
 namespace tovrel {
 namespace {

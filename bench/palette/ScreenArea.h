@@ -9,7 +9,7 @@
 #include <xcb/damage.h>
 #include <xcb/shm.h>
 
-#include "platform/linux/X11Connection.h"
+#include "platform/x11/server/X11Connection.h"
 
 namespace tovrel {
 

@@ -3,14 +3,14 @@
 #include <exception>
 #include <new>
 
-#include "app/CommandLine.h"
-#include "app/DescriptorBuffer.h"
-#include "app/ErrorLine.h"
-#include "app/Failure.h"
-#include "app/ResidentVerbs.h"
-#include "app/Verbs.h"
-#include "platform/linux/PreferencesFile.h"
-#include "platform/linux/SqlitePreferencesDomain.h"
+#include "app/desktop/PreferencesFile.h"
+#include "app/terminal/DescriptorBuffer.h"
+#include "app/terminal/ErrorLine.h"
+#include "app/terminal/Failure.h"
+#include "app/verbs/CommandLine.h"
+#include "app/verbs/ResidentVerbs.h"
+#include "app/verbs/Verbs.h"
+#include "platform/preferences/SqlitePreferencesDomain.h"
 
 namespace tovrel {
 namespace {

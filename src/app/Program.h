@@ -2,8 +2,8 @@
 
 #include <functional>
 
-#include "app/CommandLine.h"
-#include "app/Console.h"
+#include "app/terminal/Console.h"
+#include "app/verbs/CommandLine.h"
 
 namespace tovrel {
 

@@ -3,10 +3,10 @@
 #include <iostream>
 #include <unistd.h>
 
-#include "app/DescriptorBuffer.h"
 #include "app/Program.h"
-#include "app/Terminal.h"
 #include "app/resident/Resident.h"
+#include "app/terminal/DescriptorBuffer.h"
+#include "app/terminal/Terminal.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <optional>
 #include <vector>
 
+#include "menus/ScannedMenuItem.h"
 #include "model/Command.h"
 #include "model/Rules.h"
-#include "model/ScannedMenuItem.h"
 #include "stores/CommandHistoryStore.h"
 
 namespace tovrel {

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "model/ScannedMenuItem.h"
+#include "menus/ScannedMenuItem.h"
 #include "platform/RunningApplication.h"
 #include "support/Text.h"
 #include "support/Uptime.h"

@@ -3,7 +3,7 @@
 #include <functional>
 #include <vector>
 
-#include "model/ScannedMenuItem.h"
+#include "menus/ScannedMenuItem.h"
 
 namespace tovrel {
 

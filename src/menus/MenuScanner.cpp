@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "menus/ShortcutText.h"
+#include "model/MenuPath.h"
 
 namespace tovrel {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "model/ScannedMenuItem.h"
+#include "menus/ScannedMenuItem.h"
 #include "platform/Accessibility.h"
 #include "platform/RunningApplication.h"
 #include "support/TextServices.h"

@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "model/ScannedMenuItem.h"
+#include "model/MenuPath.h"
 
 namespace tovrel {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "model/Command.h"
 #include "palette/PaletteKeyboardAction.h"
+#include "palette/PalettePanel.h"
 #include "palette/PaletteViewModel.h"
-#include "platform/PalettePanel.h"
 #include "platform/UserInterface.h"
 #include "platform/Workspace.h"
 #include "stores/PaletteSettingsStore.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "commands/CommandIndex.h"
+#include "model/MenuPath.h"
 
 namespace tovrel::settings_menu_lists {
 namespace {

@@ -3,8 +3,8 @@
 #include <optional>
 #include <vector>
 
+#include "menus/ScannedMenuItem.h"
 #include "model/Rules.h"
-#include "model/ScannedMenuItem.h"
 #include "settings/SettingsRecords.h"
 #include "stores/CommandHistoryStore.h"
 

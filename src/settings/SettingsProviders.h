@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "model/ScannedMenuItem.h"
+#include "menus/ScannedMenuItem.h"
 #include "platform/Accessibility.h"
 #include "platform/Workspace.h"
 #include "settings/SettingsRecords.h"

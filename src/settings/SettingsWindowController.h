@@ -3,8 +3,8 @@
 #include <functional>
 #include <memory>
 
-#include "platform/SettingsWindow.h"
 #include "settings/SettingsViewModel.h"
+#include "settings/SettingsWindow.h"
 
 namespace tovrel {
 

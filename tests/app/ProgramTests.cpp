@@ -12,8 +12,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "app/DescriptorBuffer.h"
-#include "app/Failure.h"
+#include "app/terminal/DescriptorBuffer.h"
+#include "app/terminal/Failure.h"
 #include "support/Json.h"
 
 namespace tovrel {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "model/MenuPath.h"
 #include "platform/memory/MemoryPreferencesDomain.h"
 
 namespace tovrel {

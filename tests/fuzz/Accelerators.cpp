@@ -4,8 +4,8 @@
 
 #include "fuzz/Fuzzing.h"
 #include "menus/ShortcutText.h"
-#include "platform/linux/AtspiKeyBinding.h"
-#include "platform/linux/MenuShortcut.h"
+#include "platform/linux/menus/accessibility/AtspiKeyBinding.h"
+#include "platform/linux/menus/source/MenuShortcut.h"
 
 namespace {
 

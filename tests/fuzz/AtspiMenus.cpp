@@ -1,10 +1,10 @@
 // An application with anything on the accessibility bus.
 
-#include "platform/linux/AtspiMenus.h"
+#include "platform/linux/menus/accessibility/AtspiMenus.h"
 
 #include "fuzz/FuzzedPeer.h"
 #include "fuzz/Fuzzing.h"
-#include "platform/linux/AtspiMenuReader.h"
+#include "platform/linux/menus/accessibility/AtspiMenuReader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tovrel;

@@ -2,7 +2,7 @@
 
 #include "fuzz/FuzzedPeer.h"
 #include "fuzz/Fuzzing.h"
-#include "platform/linux/DBusMenuReader.h"
+#include "platform/linux/menus/dbusmenu/DBusMenuReader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tovrel;

@@ -1,7 +1,7 @@
 // A desktop entry of any content, in several languages.
 
 #include "fuzz/Fuzzing.h"
-#include "platform/linux/DesktopEntryFile.h"
+#include "platform/linux/applications/DesktopEntryFile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tovrel;

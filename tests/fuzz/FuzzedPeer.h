@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "platform/linux/DBus.h"
-#include "platform/linux/MenuReadLimits.h"
+#include "platform/linux/dbus/DBus.h"
+#include "platform/linux/dbus/MenuReadLimits.h"
 
 namespace tovrel::fuzzing {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "KeyboardShortcuts/StoredShortcut.h"
-#include "app/PreferencesCommands.h"
+#include "app/verbs/PreferencesCommands.h"
 #include "commands/CommandIndex.h"
 #include "commands/CommandSearch.h"
 #include "commands/CommandSearchIndex.h"

@@ -4,8 +4,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "app/ErrorLine.h"
-#include "app/Table.h"
+#include "app/terminal/ErrorLine.h"
+#include "app/terminal/Table.h"
 #include "fuzz/Fuzzing.h"
 #include "menus/ShortcutNames.h"
 #include "support/Json.h"

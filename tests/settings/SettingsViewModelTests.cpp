@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "model/MenuPath.h"
 #include "platform/memory/MemoryAccessibility.h"
 #include "platform/memory/MemoryApplication.h"
 #include "platform/memory/MemoryWorkspace.h"

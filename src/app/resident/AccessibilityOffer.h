@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "platform/UserInterface.h"
-#include "platform/linux/ToolkitAccessibility.h"
+#include "platform/linux/applications/ToolkitAccessibility.h"
 #include "support/LocalizedString.h"
 
 namespace tovrel {

@@ -4,9 +4,9 @@
 #include <QDBusConnectionInterface>
 #include <algorithm>
 
-#include "app/DBusNames.h"
 #include "app/resident/LostConnection.h"
-#include "platform/linux/DBus.h"
+#include "app/seat/DBusNames.h"
+#include "platform/linux/dbus/DBus.h"
 
 namespace tovrel {
 namespace {

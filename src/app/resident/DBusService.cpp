@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <utility>
 
-#include "app/ResidentSeat.h"
+#include "app/seat/ResidentSeat.h"
 
 namespace tovrel {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "app/AppCoordinator.h"
+#include "app/coordinator/AppCoordinator.h"
 
 namespace tovrel {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace tovrel {
 

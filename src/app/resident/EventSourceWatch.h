@@ -4,7 +4,7 @@
 #include <QSocketNotifier>
 #include <memory>
 
-#include "platform/linux/EventSource.h"
+#include "platform/posix/EventSource.h"
 
 namespace tovrel {
 

@@ -9,16 +9,16 @@
 #include <thread>
 #include <unistd.h>
 
-#include "app/DBusNames.h"
-#include "app/DescriptorBuffer.h"
-#include "app/Failure.h"
-#include "app/ResidentClient.h"
-#include "app/ResidentSeat.h"
 #include "app/resident/EndSignals.h"
 #include "app/resident/ResidentProgram.h"
 #include "app/resident/SeatLock.h"
-#include "platform/linux/X11Connection.h"
-#include "platform/qt/ViewEngine.h"
+#include "app/seat/DBusNames.h"
+#include "app/seat/ResidentClient.h"
+#include "app/seat/ResidentSeat.h"
+#include "app/terminal/DescriptorBuffer.h"
+#include "app/terminal/Failure.h"
+#include "platform/x11/server/X11Connection.h"
+#include "windows/ViewEngine.h"
 
 namespace tovrel {
 namespace {

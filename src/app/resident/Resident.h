@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/CommandLine.h"
-#include "app/Console.h"
+#include "app/terminal/Console.h"
+#include "app/verbs/CommandLine.h"
 
 namespace tovrel {
 

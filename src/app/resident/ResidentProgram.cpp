@@ -5,12 +5,12 @@
 #include <utility>
 
 #include "KeyboardShortcuts/HotKeyErrorText.h"
-#include "app/DBusNames.h"
-#include "app/ErrorLine.h"
-#include "app/ResidentClient.h"
-#include "app/ShortcutForPeople.h"
-#include "platform/linux/PreferencesFile.h"
-#include "platform/linux/VirtualKeyCodes.h"
+#include "app/coordinator/ShortcutForPeople.h"
+#include "app/desktop/PreferencesFile.h"
+#include "app/seat/DBusNames.h"
+#include "app/seat/ResidentClient.h"
+#include "app/terminal/ErrorLine.h"
+#include "platform/linux/keyboard/VirtualKeyCodes.h"
 
 namespace tovrel {
 namespace {

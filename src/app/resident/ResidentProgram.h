@@ -4,36 +4,36 @@
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "KeyboardShortcuts/RecorderCocoa.h"
-#include "app/AppCoordinator.h"
-#include "app/CommandLine.h"
-#include "app/Console.h"
-#include "app/ResidentSeat.h"
+#include "app/coordinator/AppCoordinator.h"
 #include "app/resident/AccessibilityOffer.h"
 #include "app/resident/BusPresence.h"
 #include "app/resident/DBusService.h"
 #include "app/resident/EventSourceWatch.h"
 #include "app/resident/SeatServer.h"
-#include "platform/linux/AtspiBus.h"
-#include "platform/linux/DesktopEntries.h"
-#include "platform/linux/LinuxAccessibility.h"
-#include "platform/linux/LinuxHotKeyCenter.h"
-#include "platform/linux/LinuxKeyEventPoster.h"
-#include "platform/linux/LinuxWorkspace.h"
-#include "platform/linux/PosixProcessRunner.h"
-#include "platform/linux/SqlitePreferencesDomain.h"
-#include "platform/linux/ToolkitAccessibility.h"
-#include "platform/linux/X11Windows.h"
-#include "platform/qt/QtMainQueue.h"
-#include "platform/qt/QtPalettePanel.h"
-#include "platform/qt/QtSettingsWindow.h"
-#include "platform/qt/QtUserInterface.h"
-#include "platform/qt/QtUserNotifications.h"
-#include "platform/qt/Translations.h"
-#include "platform/qt/ViewEngine.h"
+#include "app/seat/ResidentSeat.h"
+#include "app/terminal/Console.h"
+#include "app/verbs/CommandLine.h"
+#include "platform/linux/applications/DesktopEntries.h"
+#include "platform/linux/applications/LinuxWorkspace.h"
+#include "platform/linux/applications/PosixProcessRunner.h"
+#include "platform/linux/applications/ToolkitAccessibility.h"
+#include "platform/linux/menus/LinuxAccessibility.h"
+#include "platform/linux/menus/accessibility/AtspiBus.h"
+#include "platform/preferences/SqlitePreferencesDomain.h"
+#include "platform/x11/hotkeys/X11HotKeyCenter.h"
+#include "platform/x11/keyboard/X11KeyEventPoster.h"
+#include "platform/x11/windows/X11Windows.h"
+#include "qt/QtMainQueue.h"
 #include "settings/SettingsWindowController.h"
 #include "settings/WindowMenu.h"
 #include "stores/LastKnownPreferences.h"
 #include "support/TextServices.h"
+#include "windows/QtPalettePanel.h"
+#include "windows/QtSettingsWindow.h"
+#include "windows/QtUserInterface.h"
+#include "windows/QtUserNotifications.h"
+#include "windows/Translations.h"
+#include "windows/ViewEngine.h"
 
 namespace tovrel {
 
@@ -76,8 +76,8 @@ class ResidentProgram {
     LinuxAccessibility accessibility_;
     ToolkitAccessibility toolkitAccessibility_;
     QtMainQueue queue_;
-    LinuxHotKeyCenter hotKeys_;
-    LinuxKeyEventPoster keyPoster_;
+    X11HotKeyCenter hotKeys_;
+    X11KeyEventPoster keyPoster_;
     PosixProcessRunner processRunner_;
     Translations translations_;
     ViewEngine views_;

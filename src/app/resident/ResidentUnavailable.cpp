@@ -1,5 +1,5 @@
-#include "app/Failure.h"
 #include "app/resident/Resident.h"
+#include "app/terminal/Failure.h"
 
 namespace tovrel {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/ResidentSeat.h"
-#include "platform/linux/FileDescriptor.h"
+#include "app/seat/ResidentSeat.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace tovrel {
 

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "app/DBusNames.h"
 #include "app/resident/LostConnection.h"
+#include "app/seat/DBusNames.h"
 
 namespace tovrel {
 

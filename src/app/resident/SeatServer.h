@@ -3,7 +3,7 @@
 #include <QDBusServer>
 #include <QObject>
 
-#include "app/ResidentSeat.h"
+#include "app/seat/ResidentSeat.h"
 
 namespace tovrel {
 

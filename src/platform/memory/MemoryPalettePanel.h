@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/PalettePanel.h"
+#include "palette/PalettePanel.h"
 
 namespace tovrel {
 

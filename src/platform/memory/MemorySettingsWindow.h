@@ -3,8 +3,8 @@
 #include <memory>
 #include <utility>
 
-#include "platform/SettingsWindow.h"
 #include "settings/SettingsViewState.h"
+#include "settings/SettingsWindow.h"
 
 namespace tovrel {
 

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/PreferencesDomain.h"
-#include "platform/linux/SqlitePreferencesDomain.h"
 #include "platform/memory/MemoryPreferencesDomain.h"
+#include "platform/preferences/SqlitePreferencesDomain.h"
 #include "stores/LastKnownPreferences.h"
 #include "support/TemporaryDirectory.h"
 

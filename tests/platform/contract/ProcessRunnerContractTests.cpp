@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/PosixProcessRunner.h"
 #include "platform/linux/TestLoop.h"
+#include "platform/linux/applications/PosixProcessRunner.h"
 #include "platform/memory/MemoryProcessRunner.h"
 
 namespace tovrel {

@@ -6,7 +6,7 @@
 
 #include <sys/types.h>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/posix/FileDescriptor.h"
 
 namespace tovrel {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/MainQueue.h"
-#include "platform/linux/EventSource.h"
+#include "platform/posix/EventSource.h"
 
 namespace tovrel {
 

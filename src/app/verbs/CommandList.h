@@ -1,0 +1,24 @@
+#pragma once
+
+#include <vector>
+
+#include "app/verbs/MenuSource.h"
+#include "app/verbs/ScannedMenus.h"
+#include "model/Command.h"
+#include "platform/PreferencesDomain.h"
+#include "support/TextServices.h"
+
+namespace tovrel {
+
+/// What the palette would list over the application.
+struct CommandList {
+    std::vector<Command> commands;
+    ScannedMenus menus;
+};
+
+/// Reads the application's menus and builds the list from them and the preferences. An application for which
+/// the palette is turned off has its commands listed all the same.
+CommandList buildCommandList(const MenuSource& source, PreferencesDomain& preferences,
+                             const TextServices& textServices);
+
+} // namespace tovrel

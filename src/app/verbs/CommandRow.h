@@ -1,0 +1,20 @@
+#pragma once
+
+#include "app/terminal/Table.h"
+#include "model/Command.h"
+
+namespace tovrel {
+
+/// A command as people read it: check mark, "File › Export", shortcut, and "disabled" unless colour shows it;
+/// then its id, if that is wanted.
+TableRow commandRow(const Command& command, bool showsID, const OutputStyle& style);
+
+/// Of such rows the path gives way on a narrow terminal, from its beginning: the title is at its end.
+inline constexpr FlexibleColumn commandPathColumn{.index = 1, .elideAt = terminal_text::ElideAt::start};
+
+/// The cells that say how an item stands.
+std::string checkMarkCell(bool isChecked);
+std::string shortcutCell(const std::optional<Text>& shortcut);
+std::string disabledCell(bool isEnabled, const OutputStyle& style);
+
+} // namespace tovrel

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <memory>
+
+#include "app/terminal/Console.h"
+#include "app/verbs/CommandLine.h"
+#include "app/verbs/MenuSource.h"
+#include "platform/PreferencesDomain.h"
+#include "support/TextServices.h"
+
+/// What each verb of the command line does, one file each. Every function prints its result on standard
+/// output and returns the exit status; where it cannot do its work it throws Failure.
+namespace tovrel::verbs {
+
+/// Everything a verb about menus works on.
+struct Context {
+    const command_line::Invocation& invocation;
+    const Console& console;
+    const MenuSource& source;
+    PreferencesDomain& preferences;
+    const TextServices& textServices;
+};
+
+/// `menus`: the menus as a tree.
+int menus(const Context& context);
+
+/// `commands`: the built command list, in its order.
+int commands(const Context& context);
+
+/// `search QUERY…`: the ranked commands of each query.
+int search(const Context& context);
+
+/// `press ID`: presses the menu item of a command. Activates nothing first.
+int press(const Context& context);
+
+/// `record`: writes a recording of the menus.
+int record(const Context& context);
+
+/// `preferences …`.
+int preferences(const command_line::PreferencesArguments& arguments, bool asJson,
+                PreferencesDomain& preferences, const Console& console);
+
+} // namespace tovrel::verbs

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "platform/RunningApplication.h"
+#include "platform/linux/applications/DesktopEntries.h"
+#include "platform/x11/windows/X11Windows.h"
+
+namespace tovrel {
+
+/// A process that shows windows or menus, with the desktop entry it belongs to as it was found.
+class LinuxRunningApplication : public RunningApplication {
+  public:
+    /// Finds the entry: by the application id the window publishes, then by its window class against what the
+    /// entries declare (StartupWMClass), then against the entries' ids, then by the program that runs.
+    LinuxRunningApplication(std::int32_t processIdentifier, const std::optional<X11Window>& window,
+                            DesktopEntries& entries);
+
+    /// This process itself, which is known without an entry.
+    [[nodiscard]] static LinuxRunningApplication ofThisProcess();
+
+    /// The id of the desktop entry; absent when none fits.
+    [[nodiscard]] std::optional<Text> bundleIdentifier() const override { return identifier_; }
+    /// The entry's name, else the window's class, else the program's name.
+    [[nodiscard]] std::optional<Text> localizedName() const override { return name_; }
+    [[nodiscard]] std::int32_t processIdentifier() const override { return processIdentifier_; }
+    [[nodiscard]] bool isTerminated() const override;
+
+    /// As the entry has it.
+    [[nodiscard]] std::optional<ApplicationIcon> icon() const override { return icon_; }
+
+  private:
+    LinuxRunningApplication();
+
+    std::int32_t processIdentifier_;
+    std::optional<std::uint64_t> startTime_;
+    std::optional<Text> identifier_;
+    std::optional<Text> name_;
+    std::optional<ApplicationIcon> icon_;
+};
+
+} // namespace tovrel

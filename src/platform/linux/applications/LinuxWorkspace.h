@@ -1,0 +1,83 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/Workspace.h"
+#include "platform/linux/applications/DesktopEntries.h"
+#include "platform/linux/applications/LinuxRunningApplication.h"
+#include "platform/linux/menus/accessibility/AtspiBus.h"
+#include "platform/x11/windows/X11ActivationWatch.h"
+#include "platform/x11/windows/X11Windows.h"
+
+namespace tovrel {
+
+/// The applications of an X11 desktop. Without a display there is no front application, and those that run
+/// are the ones on the accessibility bus.
+class LinuxWorkspace : public Workspace {
+  public:
+    LinuxWorkspace(std::shared_ptr<X11Windows> windows, std::shared_ptr<AtspiBus> bus,
+                   std::shared_ptr<DesktopEntries> entries);
+
+    /// The application of the active window. A desktop that is just changing it is given 50 ms; the change
+    /// takes a few where it was seen.
+    [[nodiscard]] std::shared_ptr<RunningApplication> frontApplication() override;
+
+    bool activate(const RunningApplication& application) override;
+
+    /// Observers are called from `activationEvents`, so the main loop must watch that. Each change of the
+    /// active window counts, also within an application; that none is active for a moment does not.
+    [[nodiscard]] Subscription
+    onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override;
+
+    [[nodiscard]] std::optional<InstalledApplication>
+    installedApplication(const Text& bundleIdentifier) override;
+    [[nodiscard]] std::vector<InstalledApplication> installedApplications() override;
+
+    /// By xdg-open, which is not waited for.
+    void open(const Text& url) override;
+
+    /// Where activations come from; made when first asked for.
+    [[nodiscard]] EventSource& activationEvents();
+
+    /// Brings one window to the front; see X11Windows::activate.
+    bool activate(xcb_window_t window, xcb_timestamp_t userTime) {
+        return windows_->activate(window, userTime);
+    }
+
+    /// See X11Windows::activeWindowFrame.
+    [[nodiscard]] std::optional<X11Rectangle> activeWindowFrame() { return windows_->activeWindowFrame(); }
+
+    /// Waits until a window of the application is active, as it soon is after `activate`.
+    bool waitUntilFront(const RunningApplication& application, std::chrono::milliseconds patience);
+
+    /// Null when there is no such process.
+    [[nodiscard]] std::shared_ptr<LinuxRunningApplication>
+    applicationWithProcessIdentifier(std::int32_t processIdentifier);
+
+    /// The running applications with this identifier, the one with the topmost window first.
+    [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>>
+    applicationsWithIdentifier(const Text& identifier);
+
+    /// Each process that has a window, the one with the topmost window first.
+    [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>> applicationsWithWindows();
+
+    /// Each process that has a window or is on the accessibility bus, those with windows first and the one
+    /// with the topmost window before the others.
+    [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>> runningApplications();
+
+  private:
+    [[nodiscard]] std::shared_ptr<LinuxRunningApplication>
+    application(std::int32_t processIdentifier, const std::optional<X11Window>& window);
+
+    std::shared_ptr<X11Windows> windows_;
+    std::shared_ptr<AtspiBus> bus_;
+    std::shared_ptr<DesktopEntries> entries_;
+    ObserverList<const std::shared_ptr<RunningApplication>&> activations_;
+    std::unique_ptr<X11ActivationWatch> activationWatch_;
+};
+
+} // namespace tovrel

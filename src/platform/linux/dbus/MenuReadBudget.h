@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "platform/linux/dbus/DBus.h"
+#include "platform/linux/dbus/MenuReadLimits.h"
+
+namespace tovrel {
+
+/// What is left of the limits while the answers of one source are decoded. Once something has run out nothing
+/// more is looked at, so that what was decoded until then is all there is.
+class MenuReadBudget {
+  public:
+    /// `started` is when the read began, which `limits.total` counts from.
+    MenuReadBudget(const MenuReadLimits& limits, SteadyTime started)
+        : limits_(limits), end_(started + limits.total) {}
+
+    [[nodiscard]] const MenuReadLimits& limits() const { return limits_; }
+
+    /// One more value is looked at. False when that is one too many, or the time is over.
+    bool look();
+
+    /// The text, which is kept from now on. Empty when it is longer than `limit`, which then nothing real is,
+    /// or the room for texts has run out.
+    std::string kept(std::string_view text, std::size_t limit = longestName);
+
+    /// What may become a title, cut where no title goes on (see `menuTitle`), kept likewise.
+    std::string_view keptTitle(std::string_view text);
+
+    /// One more entry is kept; false when that is one too many. The others are still to be passed by.
+    bool keepsEntry() { return entries_++ < limits_.nodes; }
+
+    /// So many bytes of a value are kept from now on; false when there is no room for them.
+    bool keepsValue(std::size_t bytes);
+
+    [[nodiscard]] bool isExhausted() const { return isExhausted_; }
+
+    /// No name of an action and no path of an object is longer.
+    static constexpr std::size_t longestName = 512;
+
+  private:
+    MenuReadLimits limits_;
+    SteadyTime end_;
+    std::size_t entries_ = 0;
+    std::size_t values_ = 0;
+    std::size_t textBytes_ = 0;
+    std::size_t valueBytes_ = 0;
+    bool isExhausted_ = false;
+};
+
+} // namespace tovrel

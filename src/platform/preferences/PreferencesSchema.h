@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/preferences/SqliteConnection.h"
+
+/// How preferences lie in an SQLite database: one table `preferences` of keys and values, where a value's
+/// storage class is its type (BLOB data, TEXT string, INTEGER 0 or 1 boolean).
+namespace tovrel::preferences_schema {
+
+enum class State {
+    empty,   ///< No table yet: a new file.
+    current, ///< As this program writes it.
+    newer,   ///< Written by a later version of the program.
+    foreign, ///< A sound database that belongs to another program.
+    damaged, ///< Ours, but not as it should be.
+};
+
+/// What the database is, by its header and schema; to be called inside a transaction, for it takes several
+/// looks. Throws sqlite::Error.
+State stateOf(sqlite::Connection& connection);
+
+/// Whether every page of the file is in order and every value of a known type. Throws sqlite::Error.
+bool isSound(sqlite::Connection& connection);
+
+/// Creates the table and marks the file as ours; to be called inside a write transaction.
+void create(sqlite::Connection& connection);
+
+} // namespace tovrel::preferences_schema

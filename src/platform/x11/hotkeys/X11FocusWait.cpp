@@ -1,0 +1,83 @@
+#include "platform/x11/hotkeys/X11FocusWait.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "platform/x11/server/XcbOwned.h"
+
+namespace tovrel {
+namespace {
+
+bool contains(const std::vector<xcb_window_t>& windows, xcb_window_t window) {
+    return std::find(windows.begin(), windows.end(), window) != windows.end();
+}
+
+} // namespace
+
+void X11FocusWait::begin(const KeyDestination& destination) {
+    end();
+    destination_ = destination;
+    isWaiting_ = true;
+    selectEvents(true);
+}
+
+void X11FocusWait::end() {
+    if (isWaiting_) {
+        isWaiting_ = false;
+        selectEvents(false);
+    }
+}
+
+bool X11FocusWait::isReached() {
+    if (destination_.window == 0) {
+        return true;
+    }
+    const xcb_window_t focused = focusedWindow();
+    if (focused == XCB_NONE || focused == XCB_INPUT_FOCUS_POINTER_ROOT || focused == connection_.root()) {
+        return false;
+    }
+    const std::vector<xcb_window_t> around = withAncestors(focused);
+    if (contains(around, destination_.window)) {
+        return destination_.shouldHaveFocus;
+    }
+    if (destination_.shouldHaveFocus) {
+        return false;
+    }
+    const auto active = connection_.activeWindow();
+    return active ? contains(around, *active) : !contains(withAncestors(destination_.window), focused);
+}
+
+xcb_window_t X11FocusWait::focusedWindow() {
+    const XcbOwned<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection_.handle(), xcb_get_input_focus(connection_.handle()), nullptr));
+    return reply ? reply->focus : xcb_window_t{XCB_NONE};
+}
+
+std::vector<xcb_window_t> X11FocusWait::withAncestors(xcb_window_t window) {
+    constexpr std::size_t deepest = 64; // The tree may change between the questions.
+    std::vector<xcb_window_t> windows;
+    while (window != XCB_NONE && window != connection_.root() && windows.size() < deepest) {
+        windows.push_back(window);
+        xcb_generic_error_t* error = nullptr;
+        const XcbOwned<xcb_query_tree_reply_t> reply(
+            xcb_query_tree_reply(connection_.handle(), xcb_query_tree(connection_.handle(), window), &error));
+        const XcbOwned<xcb_generic_error_t> owned(error); // The window may be gone by now.
+        window = reply ? reply->parent : xcb_window_t{XCB_NONE};
+    }
+    return windows;
+}
+
+void X11FocusWait::selectEvents(bool isWanted) {
+    if (destination_.window == 0) {
+        return;
+    }
+    const auto select = [this, isWanted](xcb_window_t window, std::uint32_t events) {
+        const std::uint32_t mask = isWanted ? events : 0;
+        xcb_change_window_attributes(connection_.handle(), window, XCB_CW_EVENT_MASK, &mask);
+    };
+    select(destination_.window, XCB_EVENT_MASK_FOCUS_CHANGE);
+    // The root window is told when the focus moves between it, or none, and any other window.
+    select(connection_.root(), std::uint32_t{XCB_EVENT_MASK_FOCUS_CHANGE} | XCB_EVENT_MASK_PROPERTY_CHANGE);
+}
+
+} // namespace tovrel

@@ -1,0 +1,43 @@
+#include "views/settings/pages/RecorderAdapter.h"
+
+#include <QMetaObject>
+#include <utility>
+
+#include "qt/QtText.h"
+
+namespace tovrel {
+
+RecorderAdapter::RecorderAdapter(std::unique_ptr<RecorderCocoa> recorder, KeyCodeFromEvdev keyCodeFromEvdev,
+                                 QObject* parent)
+    : QObject(parent), recorder_(std::move(recorder)), keyCodeFromEvdev_(std::move(keyCodeFromEvdev)) {
+    subscriptions_.push_back(recorder_->stringValue().subscribe([this] { Q_EMIT textChanged(); }));
+    subscriptions_.push_back(recorder_->placeholder().subscribe([this] { Q_EMIT placeholderChanged(); }));
+    subscriptions_.push_back(recorder_->problem().subscribe([this] { Q_EMIT problemChanged(); }));
+    subscriptions_.push_back(recorder_->isRecording().subscribe([this] { Q_EMIT isRecordingChanged(); }));
+    // The window gets the focus back from an alert only once this turn is over.
+    subscriptions_.push_back(recorder_->focusRequest().subscribe(
+        [this] { QMetaObject::invokeMethod(this, &RecorderAdapter::focusRequested, Qt::QueuedConnection); }));
+    subscriptions_.push_back(recorder_->isHandlingKey().subscribe([this] {
+        if (!isHandlingKey()) {
+            QMetaObject::invokeMethod(this, &RecorderAdapter::keyHandled, Qt::QueuedConnection);
+        }
+    }));
+}
+
+QString RecorderAdapter::text() const {
+    return qtString(recorder_->stringValue().get());
+}
+
+QString RecorderAdapter::placeholder() const {
+    return qtString(recorder_->placeholder().get());
+}
+
+QString RecorderAdapter::problem() const {
+    return qtString(recorder_->problem().get());
+}
+
+bool RecorderAdapter::handleKeyDown(const QKeyEvent& event) {
+    return recorder_->handleKeyDown(keyEventFrom(event, keyCodeFromEvdev_));
+}
+
+} // namespace tovrel

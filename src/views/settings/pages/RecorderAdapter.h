@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QKeyEvent>
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+#include <memory>
+#include <vector>
+
+#include "KeyboardShortcuts/RecorderCocoa.h"
+#include "qt/QtKeyEvents.h"
+
+namespace tovrel {
+
+/// A shortcut recorder for a view to bind to.
+class RecorderAdapter : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The settings' window makes it.")
+    Q_PROPERTY(QString text READ text NOTIFY textChanged FINAL)
+    Q_PROPERTY(QString placeholder READ placeholder NOTIFY placeholderChanged FINAL)
+    Q_PROPERTY(QString problem READ problem NOTIFY problemChanged FINAL)
+    Q_PROPERTY(bool isRecording READ isRecording NOTIFY isRecordingChanged FINAL)
+
+  public:
+    RecorderAdapter(std::unique_ptr<RecorderCocoa> recorder, KeyCodeFromEvdev keyCodeFromEvdev,
+                    QObject* parent = nullptr);
+
+    /// The shortcut; empty when there is none.
+    [[nodiscard]] QString text() const;
+    [[nodiscard]] QString placeholder() const;
+    /// Why the shortcut does not fire; empty while it does.
+    [[nodiscard]] QString problem() const;
+    [[nodiscard]] bool isRecording() const { return recorder_->isRecording().get(); }
+
+    void startRecording() { recorder_->becomeFirstResponder(); }
+    void endRecording() { recorder_->endRecording(); }
+    /// True when the key is used up. May ask the user, and then returns only after the answer.
+    bool handleKeyDown(const QKeyEvent& event);
+    /// Whether the user is being asked about a key, so that the recorder must stay.
+    [[nodiscard]] bool isHandlingKey() const { return recorder_->isHandlingKey().get(); }
+    /// Has a shortcut tried again that could not be had.
+    void retry() { recorder_->retry(); }
+
+    Q_INVOKABLE void clear() { recorder_->clear(); }
+
+  Q_SIGNALS:
+    void textChanged();
+    void placeholderChanged();
+    void problemChanged();
+    void isRecordingChanged();
+    /// The field is to take the keyboard focus (again) and to record.
+    void focusRequested();
+    /// A key has been handled, and what it led to is over.
+    void keyHandled();
+
+  private:
+    std::unique_ptr<RecorderCocoa> recorder_;
+    KeyCodeFromEvdev keyCodeFromEvdev_;
+    std::vector<Subscription> subscriptions_;
+};
+
+} // namespace tovrel

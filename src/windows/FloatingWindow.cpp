@@ -1,0 +1,75 @@
+#include "windows/FloatingWindow.h"
+
+#include <QPainterPath>
+#include <QQuickItem>
+#include <QRegion>
+#include <utility>
+
+#include "support/Fatal.h"
+
+namespace tovrel {
+namespace {
+
+/// Of the corners, as the views draw them.
+constexpr qreal cornerRadius = 24;
+
+QRegion roundedRegion(QSize size) {
+    QPainterPath path;
+    // A little rounder than the view would lose parts of its border, which is smoothed over two pixels.
+    constexpr qreal radius = cornerRadius - 1.5;
+    path.addRoundedRect(QRectF(QPointF(0, 0), QSizeF(size)), radius, radius);
+    return QRegion(path.toFillPolygon().toPolygon());
+}
+
+} // namespace
+
+FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, const Description& description)
+    : windowSystem_(std::move(windowSystem)), view_(&engine.qml(), nullptr),
+      activation_(view_, windowSystem_, WindowStay::brief) {
+    view_.setFlags(description.type | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    view_.setTitle(description.title);
+    view_.setColor(Qt::transparent);
+    view_.setResizeMode(QQuickView::SizeRootObjectToView);
+    view_.setInitialProperties(description.properties);
+    view_.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Tovrel/Views/%1.qml").arg(description.view)));
+    const QQuickItem* root = view_.rootObject();
+    if (root == nullptr) {
+        fatal("a view of the user interface cannot be loaded");
+    }
+    const QSize size(static_cast<int>(root->implicitWidth()), static_cast<int>(root->implicitHeight()));
+    view_.resize(size);
+    view_.setMinimumSize(size);
+    view_.setMaximumSize(size);
+    QObject::connect(root, SIGNAL(moveWanted()), this, SLOT(beginMove()));
+    view_.installEventFilter(this);
+    view_.create();
+}
+
+void FloatingWindow::show() {
+    if (!view_.isVisible()) {
+        shape();
+    }
+    activation_.show();
+}
+
+bool FloatingWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease && std::exchange(isMoveAskedFor_, false)) {
+        windowSystem_.endMove(view_);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void FloatingWindow::beginMove() {
+    // The user may have let go by now, and a window manager would wait for that.
+    isMoveAskedFor_ = windowSystem_.isFirstButtonDown() && view_.startSystemMove();
+}
+
+void FloatingWindow::shape() {
+    const bool isComposited = windowSystem_.isComposited();
+    // Without a compositor what is transparent is black, so the corners are cut off, along an edge that has
+    // the colour of the border.
+    view_.setColor(isComposited ? QColor(Qt::transparent) : QColor(0xc3, 0xd2, 0xc4));
+    view_.setMask(isComposited ? QRegion() : roundedRegion(view_.size()));
+}
+
+} // namespace tovrel

@@ -1,0 +1,42 @@
+#include "windows/FocusLossWatch.h"
+
+#include <chrono>
+#include <utility>
+
+namespace tovrel {
+namespace {
+
+using std::chrono_literals::operator""ms;
+
+// Qt itself reports a loss 100 ms after it happened. As long as a grab lasts no event tells of its end.
+constexpr auto recheckInterval = 50ms;
+// A window that is just being shown gets the focus within a few milliseconds, on a busy machine within some
+// more. There is time: that another application came to the front is told by other means.
+constexpr int missesOfALoss = 4;
+
+} // namespace
+
+FocusLossWatch::FocusLossWatch(std::function<bool()> hasFocus, std::function<void()> onLoss)
+    : hasFocus_(std::move(hasFocus)), onLoss_(std::move(onLoss)) {
+    recheck_.setInterval(recheckInterval);
+    QObject::connect(&recheck_, &QTimer::timeout, &recheck_, [this] { check(); });
+}
+
+void FocusLossWatch::activeChanged(bool isActive) {
+    recheck_.stop();
+    if (!isActive) {
+        misses_ = 0;
+        recheck_.start();
+        check();
+    }
+}
+
+void FocusLossWatch::check() {
+    misses_ = hasFocus_() ? 0 : misses_ + 1;
+    if (misses_ == missesOfALoss) {
+        recheck_.stop();
+        onLoss_();
+    }
+}
+
+} // namespace tovrel

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QScreen>
+
+#include "windows/WindowSystem.h"
+
+namespace tovrel {
+
+/// The screen that holds the active window, whoever's, else the one with the pointer; null without a screen.
+QScreen* mainScreen(const WindowSystem& windowSystem);
+
+} // namespace tovrel

@@ -1,0 +1,83 @@
+#include "windows/QtPalettePanel.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <utility>
+
+#include "views/palette/PaletteViewAdapter.h"
+#include "windows/ScreenCoordinates.h"
+
+namespace tovrel {
+
+QtPalettePanel::QtPalettePanel(PaletteViewContext context, const TextServices& textServices,
+                               ViewEngine& engine, WindowSystem windowSystem,
+                               KeyCodeFromEvdev keyCodeFromEvdev)
+    : adapter_(std::make_unique<PaletteViewAdapter>(std::move(context), textServices)),
+      keyCodeFromEvdev_(std::move(keyCodeFromEvdev)),
+      window_(engine, std::move(windowSystem),
+              {.view = QStringLiteral("PaletteView"),
+               .properties = {{QStringLiteral("palette"), QVariant::fromValue(adapter_.get())}},
+               .title = QStringLiteral("Tovrel")}),
+      focusLoss_([this] { return window_.hasInputFocus(); },
+                 [this] {
+                     if (resignKeyHandler_) {
+                         resignKeyHandler_();
+                     }
+                 }) {
+    window().installEventFilter(this);
+    QObject::connect(&window(), &QWindow::activeChanged, this, [this] {
+        if (isVisible()) {
+            focusLoss_.activeChanged(window().isActive());
+        }
+    });
+}
+
+QtPalettePanel::~QtPalettePanel() {
+    // The window changes its state once more when it goes.
+    window().removeEventFilter(this);
+    QObject::disconnect(&window(), nullptr, this, nullptr);
+}
+
+bool QtPalettePanel::isVisible() const {
+    return window_.view().isVisible();
+}
+
+Size QtPalettePanel::frameSize() const {
+    return {.width = static_cast<double>(window_.view().width()),
+            .height = static_cast<double>(window_.view().height())};
+}
+
+void QtPalettePanel::setFrameOrigin(Point origin) {
+    if (const QScreen* primary = QGuiApplication::primaryScreen()) {
+        window().setPosition(downwards(origin, window().size(), *primary));
+    }
+}
+
+void QtPalettePanel::showAndMakeKey() {
+    window_.show();
+}
+
+void QtPalettePanel::close() {
+    focusLoss_.stop();
+    window_.hide();
+}
+
+bool QtPalettePanel::eventFilter(QObject* watched, QEvent* event) {
+    if (!keyHandler_) {
+        return QObject::eventFilter(watched, event);
+    }
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept(); // no shortcut: it comes again as a key press
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        const KeyHandler handler = keyHandler_; // it may take itself away
+        if (handler(keyEventFrom(*static_cast<QKeyEvent*>(event), keyCodeFromEvdev_))) {
+            event->accept();
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace tovrel

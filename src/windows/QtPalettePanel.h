@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+#include <QQuickView>
+#include <functional>
+#include <memory>
+
+#include "palette/PalettePanel.h"
+#include "palette/PaletteWindowController.h"
+#include "qt/QtKeyEvents.h"
+#include "windows/FloatingWindow.h"
+#include "windows/FocusLossWatch.h"
+#include "windows/ViewEngine.h"
+#include "windows/WindowSystem.h"
+
+namespace tovrel {
+
+class PaletteViewAdapter;
+
+/// The palette's window. Its view is loaded at once, so that the first showing is as fast as any other.
+class QtPalettePanel final : public QObject, public PalettePanel {
+  public:
+    /// `engine`, `textServices` and all that `context` refers to outlive the panel.
+    QtPalettePanel(PaletteViewContext context, const TextServices& textServices, ViewEngine& engine,
+                   WindowSystem windowSystem, KeyCodeFromEvdev keyCodeFromEvdev);
+    ~QtPalettePanel() override;
+    QtPalettePanel(const QtPalettePanel&) = delete;
+    QtPalettePanel& operator=(const QtPalettePanel&) = delete;
+
+    [[nodiscard]] bool isVisible() const override;
+    [[nodiscard]] Size frameSize() const override;
+    /// In the coordinates of ScreenCoordinates.h.
+    void setFrameOrigin(Point origin) override;
+    void showAndMakeKey() override;
+    void close() override;
+    void setKeyHandler(KeyHandler handler) override { keyHandler_ = std::move(handler); }
+    void setResignKeyHandler(std::function<void()> handler) override {
+        resignKeyHandler_ = std::move(handler);
+    }
+
+    [[nodiscard]] QQuickView& window() { return window_.view(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    std::unique_ptr<PaletteViewAdapter> adapter_;
+    KeyCodeFromEvdev keyCodeFromEvdev_;
+    KeyHandler keyHandler_;
+    std::function<void()> resignKeyHandler_;
+    FloatingWindow window_;
+    FocusLossWatch focusLoss_;
+};
+
+} // namespace tovrel

@@ -1,0 +1,64 @@
+#include "windows/ViewEngine.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QOpenGLContext>
+#include <QQuickWindow>
+#include <array>
+#include <memory>
+
+#include "views/shared/AppIconImages.h"
+#include "views/shared/SymbolImages.h"
+
+// Registers the types of the module that the views are; generated, and otherwise left out by the linker.
+void qml_register_types_Tovrel_Views(); // NOLINT(readability-identifier-naming)
+
+namespace tovrel {
+namespace {
+
+/// The first of these that is installed, rounder ones first; without any, the desktop's own font.
+constexpr std::array fontFamilies{"Inter", "Cantarell", "Noto Sans"};
+
+void useRoundFont() {
+    for (const char* family : fontFamilies) {
+        if (QFontDatabase::hasFamily(QLatin1String(family))) {
+            QFont font = QGuiApplication::font();
+            font.setFamily(QLatin1String(family));
+            QGuiApplication::setFont(font);
+            return;
+        }
+    }
+}
+
+void useOpenGLIfAskedFor() {
+    if (qEnvironmentVariable("TOVREL_RENDERER") != QLatin1String("opengl")) {
+        return;
+    }
+    // Qt ends the process when it is told to use an OpenGL that is not there.
+    if (QOpenGLContext context; context.create()) {
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    }
+}
+
+} // namespace
+
+void configureQtEnvironment() {
+    qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+ViewEngine::ViewEngine() {
+    useOpenGLIfAskedFor();
+    useRoundFont();
+    qml_register_types_Tovrel_Views();
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Tovrel/Views/SettingsAppIcon.svg")));
+    engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    // The engine becomes their owner.
+    engine_.addImageProvider(QLatin1String(SymbolImages::scheme), std::make_unique<SymbolImages>().release());
+    engine_.addImageProvider(QLatin1String(AppIconImages::scheme),
+                             std::make_unique<AppIconImages>().release());
+}
+
+} // namespace tovrel

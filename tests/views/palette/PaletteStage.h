@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QQuickView>
+#include <memory>
+#include <vector>
+
+#include "palette/PaletteViewModel.h"
+#include "platform/memory/MemoryPreferencesDomain.h"
+#include "stores/PaletteSettingsStore.h"
+#include "windows/QtPalettePanel.h"
+#include "windows/ViewEngine.h"
+
+namespace tovrel {
+
+/// A palette's panel with its models, and what it called.
+struct PaletteStage {
+    PaletteStage()
+        : panel({viewModel, settings, [this](const Command& command) { executed.push_back(command); },
+                 [this] { ++dismissals; }},
+                textServices, engine, {}, nullptr) {}
+
+    /// Shows the commands and waits until the window is ready for keys.
+    void show(std::vector<Command> commands, std::optional<Text> appName = std::nullopt,
+              std::optional<ApplicationIcon> appIcon = std::nullopt);
+
+    TextServices textServices{"en_US"};
+    MemoryPreferencesDomain preferences;
+    PaletteSettingsStore settings{preferences, "paletteSettings"};
+    PaletteViewModel viewModel{{}, textServices};
+    std::vector<Command> executed;
+    int dismissals = 0;
+    ViewEngine engine;
+    QtPalettePanel panel;
+};
+
+} // namespace tovrel
