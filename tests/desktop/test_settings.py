@@ -173,12 +173,18 @@ class SettingsTests(PaletteTestCase):
                        for geometry in map(self.desktop.windows.geometry, (alert, owner))]
             self.assertAlmostEqual(*middles, delta=30)
         self.desktop.take_picture(PICTURES / "question over the settings.png")
+        # Clicks on what lies behind it do nothing but bring it forward again.
+        left, top, width, height = self.settings.node("History", "page tab").extents
+        middle_of_the_tab = left + width // 2, top + height // 2
+        self.desktop.windows.click(*middle_of_the_tab)
+        self.wait_until(lambda: self.desktop.front_window() == alert, "the question to be in front")
         self.press(*HOT_KEY)
         self.press("Tab")
         self.press("Return")
         self.wait_until(lambda: self.resident.status()["shortcut"] == "Ctrl+Shift+J", "the shortcut to be used")
         self.wait_until(self.settings.has_focus, "the window to be back")
         self.assertFalse(self.is_recording())
+        self.assertTrue(self.settings.node("General", "heading"))
         problem = "Another program uses this shortcut."
         self.assertEqual(self.resident.status()["shortcutProblem"], problem)
         self.wait_until(lambda: any(problem in node.name for node in self.settings.nodes("label")),
@@ -187,6 +193,8 @@ class SettingsTests(PaletteTestCase):
         other.close()
         self.settings.activate("Refresh")
         self.wait_until(lambda: self.resident.status()["shortcutProblem"] is None, "the shortcut to be had")
+        self.desktop.windows.click(*middle_of_the_tab)
+        self.settings.wait_for("History", "heading")
         self.settings.close()
         self.wait_until_in_front(self.editor)
         self.press("ctrl", "shift", "j")

@@ -27,13 +27,19 @@ class BusConnection:
         self._connection.signal_subscribe(None, interface, member, None, first_argument, Gio.DBusSignalFlags.NONE,
                                           lambda _connection, sender, path, *_: heard(sender, path))
 
-    def serve(self, name, path, interface, methods):
-        """Takes the name and answers calls to an object with that interface, given as XML, when `hear` is called.
-        Each of `methods` takes a call's arguments and returns the answer's type and value."""
+    def serve(self, name, path, interface, methods, properties=None):
+        """Takes the name and answers calls to an object with that interface, given as XML, when `hear` is called
+        or a loop runs. Each of `methods` takes a call's arguments and returns the answer's type and value, or None
+        for an empty one; each of `properties` is its type and value."""
         def answer(_connection, _sender, _path, _interface, method, arguments, invocation):
-            invocation.return_value(GLib.Variant(*methods[method](*arguments.unpack())))
+            values = methods[method](*arguments.unpack())
+            invocation.return_value(GLib.Variant(*values) if values else None)
 
-        self._connection.register_object(path, Gio.DBusNodeInfo.new_for_xml(interface).interfaces[0], answer)
+        def property_value(_connection, _sender, _path, _interface, prop):
+            return GLib.Variant(*properties[prop])
+
+        self._connection.register_object(path, Gio.DBusNodeInfo.new_for_xml(interface).interfaces[0], answer,
+                                         property_value)
         self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
                   GLib.Variant("(su)", (name, 0)))
 

@@ -73,6 +73,9 @@ class Windows:
     def point_at(self, x, y):
         self._xdotool("mousemove", str(x), str(y))
 
+    def click(self, x, y):
+        self._xdotool("mousemove", str(x), str(y), "click", "1")
+
     def move_pointer(self, right, down):
         self._xdotool("mousemove_relative", "--", str(right), str(down))
 
