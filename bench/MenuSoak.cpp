@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "platform/linux/menus/LinuxAccessibility.h"
+#include "platform/x11/windows/X11WindowList.h"
 
 namespace {
 
@@ -50,7 +51,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: tovrel_menu_soak PROCESS-IDENTIFIER READS (more than " << warmUp << ")\n";
         return 2;
     }
-    X11Windows windows;
+    X11WindowList windows;
     LinuxAccessibility accessibility({std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()},
                                      [&](std::int32_t process) { return windows.windowsOf(process); });
     std::map<MenuReadOutcome, int> outcomes;

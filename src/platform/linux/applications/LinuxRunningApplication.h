@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/ApplicationWindow.h"
 #include "platform/RunningApplication.h"
 #include "platform/linux/applications/DesktopEntries.h"
-#include "platform/x11/windows/X11Windows.h"
 
 namespace tovrel {
 
@@ -14,7 +14,7 @@ class LinuxRunningApplication : public RunningApplication {
   public:
     /// Finds the entry: by the application id the window publishes, then by its window class against what the
     /// entries declare (StartupWMClass), then against the entries' ids, then by the program that runs.
-    LinuxRunningApplication(std::int32_t processIdentifier, const std::optional<X11Window>& window,
+    LinuxRunningApplication(std::int32_t processIdentifier, const std::optional<ApplicationWindow>& window,
                             DesktopEntries& entries);
 
     /// This process itself, which is known without an entry.
