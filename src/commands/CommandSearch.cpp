@@ -25,7 +25,7 @@ std::vector<CommandSearch::Match> CommandSearch::discoveries(const CommandSearch
     return matches;
 }
 
-/// The matches of either list, with the better score of those in both.
+/// The matches of both lists; a command in both gets the better score.
 std::vector<CommandSearch::Match> CommandSearch::bestOf(std::vector<Match> left,
                                                         const std::vector<Match>& right) {
     if (right.empty()) {

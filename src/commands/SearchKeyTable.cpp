@@ -101,7 +101,8 @@ void SearchKeyTable::addKeys(const std::vector<std::string>& keys, bool isAlias)
         NewKey added{.bytes = key,
                      .symbols = isAscii(key) ? std::u32string() : internedSymbols(key),
                      .exactSizes = {static_cast<std::uint32_t>(key.size())}};
-        // By grapheme clusters too: the last one of the shorter key must not go on in the longer one.
+        // Compared by grapheme clusters too: the last cluster of the shorter key must not go on in the longer
+        // one.
         const auto longer = std::find_if(kept.begin(), kept.end(), [&](const NewKey& other) {
             return other.bytes.starts_with(key) &&
                    (other.symbols.empty() ||
