@@ -9,7 +9,7 @@
 
 namespace tovrel {
 
-/// A process that shows windows or menus, with the desktop entry it belongs to as it was found.
+/// A process that shows windows or menus, and the desktop entry that was found for it.
 class LinuxRunningApplication : public RunningApplication {
   public:
     /// Finds the entry: by the application id the window publishes, then by its window class against what the
@@ -27,7 +27,7 @@ class LinuxRunningApplication : public RunningApplication {
     [[nodiscard]] std::int32_t processIdentifier() const override { return processIdentifier_; }
     [[nodiscard]] bool isTerminated() const override;
 
-    /// As the entry has it.
+    /// The icon named in the entry.
     [[nodiscard]] std::optional<ApplicationIcon> icon() const override { return icon_; }
 
   private:

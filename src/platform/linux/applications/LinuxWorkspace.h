@@ -14,8 +14,8 @@
 
 namespace tovrel {
 
-/// The applications of a Linux desktop. Without a display there is no front application, and those that run
-/// are the ones on the accessibility bus.
+/// The applications of a Linux desktop. Without a display there is no front application, and the running ones
+/// are those on the accessibility bus.
 class LinuxWorkspace : public Workspace {
   public:
     LinuxWorkspace(std::shared_ptr<WindowList> windows, std::shared_ptr<AtspiBus> bus,
@@ -24,13 +24,13 @@ class LinuxWorkspace : public Workspace {
     LinuxWorkspace(const LinuxWorkspace&) = delete;
     LinuxWorkspace& operator=(const LinuxWorkspace&) = delete;
 
-    /// The application of the active window. A desktop that is just changing it is given 50 ms; the change
-    /// takes a few where it was seen.
+    /// The application of the active window. Waits up to 50 ms for a desktop that is just changing it;
+    /// changes were seen to take a few milliseconds.
     [[nodiscard]] std::shared_ptr<RunningApplication> frontApplication() override;
 
     bool activate(const RunningApplication& application) override;
 
-    /// Each change of the active window counts, also within an application.
+    /// Reports each change of the active window, also within an application.
     [[nodiscard]] Subscription
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override;
 
@@ -38,7 +38,7 @@ class LinuxWorkspace : public Workspace {
     installedApplication(const Text& bundleIdentifier) override;
     [[nodiscard]] std::vector<InstalledApplication> installedApplications() override;
 
-    /// By xdg-open, which is not waited for.
+    /// Starts xdg-open and does not wait for it.
     void open(const Text& url) override;
 
     /// Waits until a window of the application is active, as it soon is after `activate`.
