@@ -20,10 +20,10 @@ namespace {
 
 using namespace tovrel;
 
-/// By then what is made once has been made.
+/// The number of reads after which everything that is made only once has been made.
 constexpr int warmUp = 100;
 
-/// kB that this process has written to and nobody else has (proc(5), smaps_rollup).
+/// The memory in kB that only this process has written to (proc(5), smaps_rollup).
 long privateMemory() {
     std::ifstream rollup("/proc/self/smaps_rollup");
     std::string word;

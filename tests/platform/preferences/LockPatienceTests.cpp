@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 
 class LockPatienceTest : public testing::Test {
   protected:
-    /// Waits as long as it may; how long that was.
+    /// Waits as long as the patience lasts, and returns how long that was.
     std::chrono::nanoseconds operation(LockPatience& patience) {
         const auto start = now_;
         patience.beginOperation();

@@ -41,7 +41,7 @@ class LinuxWorkspaceTest : public X11ServerTest {
         setNumber(other_, other_.connection().root(), "_NET_ACTIVE_WINDOW", window);
     }
 
-    /// The process identifiers of the activations that were told; 0 for one of no known application.
+    /// The process identifiers of the reported activations; 0 for one of no known application.
     std::vector<std::int32_t> told_;
     Subscription subscribeTo(LinuxWorkspace& workspace) {
         loop_.watch(windows_->activationEvents());
