@@ -1,5 +1,5 @@
-"""Applications that hang or die, preferences that make no sense, a hot key that is taken: nothing hangs and
-nothing ends."""
+"""Applications that hang or die, invalid preferences, a hot key that is taken: the program neither hangs
+nor ends."""
 
 import signal
 import subprocess

@@ -1,4 +1,4 @@
-"""The resident program stays within reach when the session bus goes, comes back, or serves two displays."""
+"""The resident program can be reached when the session bus is gone, is back, or serves two displays."""
 
 import subprocess
 
