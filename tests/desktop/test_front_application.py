@@ -53,7 +53,7 @@ class FrontApplicationTests(DesktopTestCase):
         for environment in (without, unreachable):
             self.assert_fails_in_one_line(self.tovrel.run("menus", environment=environment),
                                           mentioning="display")
-            # A named process can be read without a display.
+            # A process that is named needs no display to be read.
             self.tovrel.expect("menus", "--pid", editor.pid, environment=environment)
 
 

@@ -47,7 +47,7 @@ std::string inSeconds(std::chrono::milliseconds time) {
     return text.str();
 }
 
-/// The reason why an application gives no menus and what its user can do, as the end of a sentence about it.
+/// Why an application gives no menus, and what its user can do, as the end of a sentence about it.
 std::string adviceOn(MenuObstacle obstacle, bool isRegistered, bool isEnabled) {
     switch (obstacle) {
     case MenuObstacle::switchedOff:

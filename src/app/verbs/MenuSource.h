@@ -12,13 +12,13 @@
 
 namespace tovrel {
 
-/// Describes what the last read of an application's menus is missing.
+/// How the last read of an application's menus fell short.
 struct MenuReadShortfall {
     std::string reason;      ///< A clause without a full stop: "mousepad did not answer within 0.3 s".
-    bool wasCutShort = true; ///< Only a part was read; false when there was nothing to read.
+    bool wasCutShort = true; ///< What was read is a part only; false when there was nothing to read.
 };
 
-/// An application, live or recorded, and the interface its menus are read through.
+/// Where the menus come from: an application and the door to it, be it live or recorded.
 struct MenuSource {
     std::shared_ptr<RunningApplication> application;
     std::shared_ptr<Accessibility> accessibility;

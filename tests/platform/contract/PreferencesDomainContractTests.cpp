@@ -23,7 +23,7 @@ struct SqliteDomain {
                                    [](const std::string& line) { ADD_FAILURE() << line; }};
 };
 
-/// Puts the last known preferences before a domain, as the resident program does.
+/// What the resident program puts before either of them.
 template <typename Stored>
 struct LastKnown {
     Stored stored;
