@@ -23,7 +23,7 @@ struct MenuSource {
     std::shared_ptr<RunningApplication> application;
     std::shared_ptr<Accessibility> accessibility;
     bool isRecording = false; ///< The menus belong to no running application and cannot be pressed.
-    /// Tells what the last read missed; absent when it read everything. May be null, which means the same.
+    /// Tells what the last read missed; absent when it read everything. May be null for complete reads.
     std::function<std::optional<MenuReadShortfall>()> shortfall;
     /// Brings the application to the front and waits for it, within half a second. False when it was there
     /// already or could not be brought there. Null when there is no such application.
