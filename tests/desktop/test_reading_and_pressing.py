@@ -86,7 +86,7 @@ class PressingTests(DesktopTestCase):
                              if window != application.window], f"the dialog {title}")
                 self.assertIn(title, self.desktop.windows.title(dialog[0]))
 
-    def test_a_dialog_that_keeps_the_user_from_the_menus_keeps_presses_off(self):
+    def test_a_modal_dialog_keeps_presses_from_the_menus(self):
         for editor in ("mousepad", "featherpad"):
             with self.subTest(editor=editor):
                 application, _ = self.open_text(editor, TEXT)

@@ -36,7 +36,7 @@ TEST(MenuCache, EachInstanceHasItsOwn) {
     EXPECT_FALSE(cache.cachedItems({"X", 101}, 0s));
 }
 
-TEST(MenuCache, WhatBelongedToAnApplicationThatHasEndedIsDropped) {
+TEST(MenuCache, EntriesOfEndedApplicationsAreDropped) {
     MenuCache cache;
     const auto editor = application(100, "X");
     cache.store(editor, oneItem, 0s);

@@ -59,7 +59,7 @@ TEST_F(MenuScannerTest, BuildsTheTreeWithoutSeparators) {
     EXPECT_EQ(item.element, save);
 }
 
-TEST_F(MenuScannerTest, WhatCannotBeReadTakesItsDefault) {
+TEST_F(MenuScannerTest, UnreadableAttributesTakeTheirDefaults) {
     const auto odd = element("Odd");
     odd->set("AXEnabled", Text("no"));
     odd->set("AXMenuItemMarkChar", true);

@@ -15,7 +15,7 @@ std::string repeated(const std::string& text, std::size_t times) {
     return all;
 }
 
-TEST(MenuTitle, EndsBehindTheLastWholeCharacterThatFitsIn) {
+TEST(MenuTitle, EndsAfterTheLastWholeCharacterThatFits) {
     EXPECT_EQ(menuTitle(" Open…  \n"), Text("Open…"));
     EXPECT_EQ(menuTitle(std::string(1024, 'x')).view().size(), 1024U);
     EXPECT_EQ(menuTitle(std::string(70'000, 'x')).view(), std::string(1024, 'x'));

@@ -17,7 +17,7 @@ class LastKnownPreferencesTest : public testing::Test {
     LastKnownPreferences preferences_{stored_};
 };
 
-TEST_F(LastKnownPreferencesTest, WhatCannotBeReadIsAsItWasKnownLast) {
+TEST_F(LastKnownPreferencesTest, AnUnreadableValueIsTheLastKnownOne) {
     RulesStore rules(preferences_, text_);
     CommandHistoryStore history(preferences_, "history", text_);
     rules.setBehavior(AppBehaviorRule::disabled, "editor");

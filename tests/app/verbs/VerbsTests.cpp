@@ -219,7 +219,7 @@ TEST_F(Verbs, PressPressesTheItemOrSaysWhyNot) {
     EXPECT_EQ(save_->performedActions().size(), 2U);
 }
 
-TEST_F(Verbs, ARecordingGivesTheVeryResultOfTheApplication) {
+TEST_F(Verbs, ARecordingGivesTheSameResultsAsTheApplication) {
     command_line::Invocation invocation;
     invocation.asJson = true;
     invocation.queries = {"save", "", "ausge", "s", "zzz", "wrap"};

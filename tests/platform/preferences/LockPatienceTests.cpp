@@ -41,7 +41,7 @@ TEST_F(LockPatienceTest, OperationsOfAPeriodShareIt) {
     EXPECT_EQ(operation(patience), 99ms);
 }
 
-TEST_F(LockPatienceTest, EachOperationHasItsOwnWhereAPeriodIsNothing) {
+TEST_F(LockPatienceTest, WithoutAPeriodEachOperationHasItsOwnPatience) {
     LockPatience patience = make({5s, 0s});
     EXPECT_EQ(operation(patience), 5s);
     EXPECT_EQ(operation(patience), 5s);
