@@ -53,7 +53,7 @@ std::shared_ptr<const CommandHistorySnapshot> CommandHistoryStore::snapshot() {
             std::move(records).value_or(CommandHistorySnapshot::Records()));
         snapshotBytes_ = std::move(bytes);
     }
-    // A document that is not the present one must be read again.
+    // After a read that failed, the next call must read again.
     checkedRevision_ = userDefaults_.lastReadSucceeded() ? std::optional(revision) : std::nullopt;
     return snapshot_;
 }

@@ -55,7 +55,7 @@ class RulesStore {
     void setMenuCommandAliases(const std::optional<Text>& bundleID, const std::vector<Text>& path,
                                const std::vector<Text>& aliases);
 
-    /// The aliases trimmed, without empty ones, and of those alike but for case only the first.
+    /// The aliases trimmed, without empty ones, and only the first of those that differ in case alone.
     [[nodiscard]] std::vector<Text> normalizedAliases(const std::vector<Text>& aliases) const;
 
   private:

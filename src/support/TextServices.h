@@ -15,7 +15,7 @@ namespace tovrel {
 /// costly to open (tens of milliseconds); used from one thread.
 class TextServices {
   public:
-    /// For a locale such as "de_DE", "tr" or "sr-Latn"; an empty identifier takes the process environment's.
+    /// Takes a locale such as "de_DE", "tr" or "sr-Latn"; an empty identifier means the environment's.
     /// An unknown locale behaves as the root locale does, and so do "C" and "POSIX", which say nothing about
     /// the language: ICU would order their titles by ASCII.
     explicit TextServices(std::string_view localeIdentifier = {});

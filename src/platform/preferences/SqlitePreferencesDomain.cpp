@@ -17,7 +17,7 @@ namespace {
 
 using preferences_schema::State;
 
-/// The open file is damaged and is to be set aside.
+/// The open file is damaged and must be set aside.
 class Damaged : public std::exception {};
 
 /// The file is sound, but must not be touched.
