@@ -16,7 +16,7 @@ std::vector<ScannedMenuItem> menuTree(std::size_t leafCount);
 /// The command list of such a tree, cut to exactly `count`, one command in seventeen with some history.
 std::vector<Command> commands(std::size_t count);
 
-/// What users type, each meant as typed letter by letter.
+/// Queries as users type them, each to be typed letter by letter.
 const std::vector<const char*>& queries();
 
 } // namespace tovrel::bench

@@ -1,5 +1,5 @@
-// Prints what the search benchmarks search, a command a line as "File › Save", for another program to filter;
-// with --queries, the queries instead, one a line.
+// Prints the commands that the search benchmarks search, one a line as "File › Save", for another program to
+// filter; with --queries, the queries instead, one a line.
 //
 // usage: tovrel_bench_list COUNT | --queries
 

@@ -1,6 +1,6 @@
-// Reads the menu bar of a running application as this program does, from each of its sources alone, and with
-// the platform's client library, in turn, each time in a fresh process with connections of its own, and
-// prints the medians.
+// Reads the menu bar of a running application in three ways in turn and prints the medians: as this program
+// does, from each of its sources alone, and with the platform's client library. Each read has a fresh process
+// with connections of its own.
 
 #include <algorithm>
 #include <array>
@@ -21,6 +21,7 @@
 #include "platform/linux/menus/LinuxAccessibility.h"
 #include "platform/linux/menus/dbusmenu/DBusMenuReader.h"
 #include "platform/linux/menus/gtk/GtkMenuReader.h"
+#include "platform/x11/windows/X11WindowList.h"
 
 namespace {
 
@@ -49,13 +50,13 @@ std::size_t readEverything(AccessibilityElement& element) {
     return elements;
 }
 
-using Windows = std::vector<X11Window>;
+using Windows = std::vector<ApplicationWindow>;
 
 Measurement measured(const MenuReadReport& report) {
     return {0, report.nodes, report.calls};
 }
 
-/// As the program does it; without windows from the accessibility bus alone.
+/// Reads as the program does; without windows, from the accessibility bus alone.
 Measurement readWith(LinuxAccessibility& accessibility, std::int32_t processIdentifier) {
     const auto bar = accessibility.applicationElement(processIdentifier)->element("AXMenuBar");
     if (!bar) {
@@ -72,7 +73,7 @@ LinuxAccessibility access(const Windows& windows) {
 
 Measurement readPublished(const Windows& windows) {
     SessionBus bus;
-    for (const X11Window& window : windows) {
+    for (const ApplicationWindow& window : windows) {
         if (window.gtkMenus && bus.connection() != nullptr) {
             return measured(
                 readGtkMenuBar(*bus.connection(), *window.gtkMenus, {}, std::chrono::steady_clock::now())
@@ -85,9 +86,10 @@ Measurement readPublished(const Windows& windows) {
 Measurement readRegistered(const Windows& windows) {
     SessionBus bus;
     const auto now = std::chrono::steady_clock::now();
-    const auto menu = windows.empty() || bus.connection() == nullptr
-                          ? std::nullopt
-                          : registeredMenu(*bus.connection(), windows.front().identifier, {}, now);
+    const auto window = windows.empty() ? std::nullopt : windows.front().registrarIdentifier;
+    const auto menu = window && bus.connection() != nullptr
+                          ? registeredMenu(*bus.connection(), *window, {}, now)
+                          : std::nullopt;
     return menu ? measured(readDBusMenuBar(*bus.connection(), *menu, {}, now).report) : Measurement();
 }
 
@@ -140,7 +142,7 @@ int main(int argc, char** argv) {
         return 2;
     }
 
-    const Windows windows = X11Windows().windowsOf(processIdentifier);
+    const Windows windows = X11WindowList().windowsOf(processIdentifier);
     struct Reader {
         const char* name;
         std::function<Measurement()> read;

@@ -14,15 +14,16 @@
 #include <vector>
 
 #include "platform/linux/menus/LinuxAccessibility.h"
+#include "platform/x11/windows/X11WindowList.h"
 
 namespace {
 
 using namespace tovrel;
 
-/// By then what is made once has been made.
+/// The number of reads after which everything that is made only once has been made.
 constexpr int warmUp = 100;
 
-/// kB that this process has written to and nobody else has (proc(5), smaps_rollup).
+/// The memory in kB that only this process has written to (proc(5), smaps_rollup).
 long privateMemory() {
     std::ifstream rollup("/proc/self/smaps_rollup");
     std::string word;
@@ -50,7 +51,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: tovrel_menu_soak PROCESS-IDENTIFIER READS (more than " << warmUp << ")\n";
         return 2;
     }
-    X11Windows windows;
+    X11WindowList windows;
     LinuxAccessibility accessibility({std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()},
                                      [&](std::int32_t process) { return windows.windowsOf(process); });
     std::map<MenuReadOutcome, int> outcomes;

@@ -46,7 +46,7 @@ void BM_IndexBuild(benchmark::State& state) {
 }
 BENCHMARK(BM_IndexBuild)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
-/// Types every query letter by letter. An iteration is all of them; the counters are per key press: the
+/// Types every query letter by letter. One iteration types all of them. The counters are per key press: the
 /// median over all key presses, and the slowest key press, each of them taken as its median over the
 /// iterations.
 void BM_Keystrokes(benchmark::State& state) {
@@ -83,8 +83,8 @@ void BM_Keystrokes(benchmark::State& state) {
 }
 BENCHMARK(BM_Keystrokes)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
-/// Each query whole and on its own, without a search before it: the number that a filter program's time for
-/// the same query is put beside.
+/// Searches each query whole, without a search before it, for comparison with the time of a filter program
+/// for the same query.
 void BM_WholeQueries(benchmark::State& state) {
     const CommandSearchIndex index(commands(static_cast<std::size_t>(state.range(0))), warmServices());
     std::vector<double> taken;

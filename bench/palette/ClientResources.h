@@ -8,8 +8,8 @@
 
 namespace tovrel {
 
-/// How many resources of each type (windows, pixmaps, passive grabs, …) the server holds for the connections
-/// of a process (X-Resource extension). Empty when it does not say.
+/// The number of resources of each type (windows, pixmaps, passive grabs, …) that the server holds for the
+/// connections of a process (X-Resource extension). Empty when the server does not say.
 std::map<std::string, std::uint32_t> clientResources(X11Connection& connection,
                                                      std::uint32_t processIdentifier);
 

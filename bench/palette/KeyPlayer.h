@@ -18,7 +18,7 @@ class KeyPlayer {
     /// the opposite one), "down:ctrl+shift+p" and "up:ctrl+shift+p". False for a key that is not on the
     /// keyboard.
     bool play(const std::vector<std::string>& words);
-    /// Sends what was collected, in one piece.
+    /// Sends the collected presses and releases, in one piece.
     void send();
 
   private:

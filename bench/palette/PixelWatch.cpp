@@ -1,18 +1,16 @@
-// The hands and eyes of bench/palette-latency: presses keys and tells how long the pixels of a part of the
-// screen took to change. It reads commands, one a line, and answers each with one line; "no" with a reason
-// when it cannot.
+// Presses keys for bench/palette-latency and tells how long the pixels of a part of the screen took to
+// change. It reads commands, one a line, and answers each with one line; "no" with a reason when it cannot.
 //
 //   area X Y W H              the part of the screen that is watched from now on
-//   time QUIET TIMEOUT KEYS…  presses KEYS; microseconds until the first changed pixels were seen, until the
-//   last
-//                             before QUIET ms without any, and how many times they changed; none in TIMEOUT
-//                             ms: no
+//   time QUIET TIMEOUT KEYS…  presses KEYS; microseconds until the first changed pixels were seen, until
+//                             the last before QUIET ms without any, and how many times they changed; "no"
+//                             when none changed within TIMEOUT ms
 //   press KEYS…               presses KEYS
-//   still QUIET TIMEOUT       waits until no pixel has changed for QUIET ms; caret and all
-//   remember                  keeps what the area looks like
-//   restored TIMEOUT          waits until it looks so again; the microseconds that took
+//   still QUIET TIMEOUT       waits until no pixel has changed for QUIET ms, those of a caret included
+//   remember                  keeps the present pixels of the area
+//   restored TIMEOUT          waits until the area looks so again; the microseconds that took
 //   front WINDOW TIMEOUT      waits until the window manager says that this window is the active one
-//   resources PID             what the X server holds for a process: TYPE=COUNT, separated by TABs
+//   resources PID             the resources the X server holds for a process: TYPE=COUNT, separated by TABs
 //   calibrate N               draws N times itself; the microseconds until each was seen
 
 #include <charconv>
@@ -216,7 +214,7 @@ class PixelWatch {
             if (!changes) {
                 return "no change";
             }
-            // The first shows the window as well.
+            // The first drawing shows the window as well.
             if (round > 0) {
                 answer += (answer.empty() ? "" : " ") + std::to_string(microseconds(changes->first - start));
             }

@@ -55,7 +55,7 @@ bool ScreenArea::watch(const Rectangle& area) {
     const XcbOwned<xcb_generic_error_t> error(xcb_request_check(
         connection_.handle(),
         xcb_shm_attach_checked(connection_.handle(), segment_, static_cast<std::uint32_t>(identifier), 0)));
-    // Gone as soon as both have let it go.
+    // The segment is removed as soon as both sides have detached it.
     shmctl(identifier, IPC_RMID, nullptr);
     if (memory == reinterpret_cast<void*>(-1) || error) { // NOLINT: what shmat returns for a failure
         return false;
@@ -65,7 +65,7 @@ bool ScreenArea::watch(const Rectangle& area) {
 }
 
 bool ScreenArea::look() {
-    // What was drawn before is in the pixels that are read now.
+    // Earlier events are dropped, because the pixels that are read now hold everything drawn before.
     while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(connection_.handle())}) {
     }
     if (!read()) {

@@ -14,9 +14,9 @@
 namespace tovrel {
 
 /// Watches the pixels of one rectangle of the screen. The server tells when something was drawn there
-/// (DAMAGE); whether that changed a pixel is decided by the pixels themselves, read through shared memory
-/// (MIT-SHM). So every time given is the time at which the change was seen in the pixels, a reading later
-/// than it was made.
+/// (DAMAGE); the pixels themselves, read through shared memory (MIT-SHM), decide whether that changed any.
+/// Each time given is therefore the time at which the change was seen in the pixels, one reading after it was
+/// made.
 class ScreenArea {
   public:
     using Clock = std::chrono::steady_clock;
@@ -42,11 +42,12 @@ class ScreenArea {
 
     [[nodiscard]] bool isAvailable() const { return hasDamage_; }
 
-    /// From now on this part of the screen, which must lie on it. False when the server does not hand it out.
+    /// Watches this part of the screen from now on; it must lie on the screen. False when the server refuses
+    /// it.
     bool watch(const Rectangle& area);
     [[nodiscard]] const Rectangle& area() const { return area_; }
 
-    /// The pixels now become those that later ones are compared with.
+    /// Reads the pixels, which later ones are then compared with.
     bool look();
     /// Waits for changes of what was last looked at, until none has followed another for `quiet`; absent when
     /// there is none before the deadline. With a `quiet` of zero it returns at the first.

@@ -11,7 +11,7 @@ gi.require_version("Gtk", "3.0")
 from gi.repository import Gdk, GLib, Gtk  # noqa: E402
 
 NAME = "tovrel-many-menu-items"
-# As real menu bars have them: some twenty items in a menu, every fifth with a shortcut, every tenth to be checked.
+# A menu resembles real ones: some twenty items, every fifth with a shortcut, every tenth with a check mark.
 ITEMS_OF_A_MENU = 20
 VERBS = ("Open", "Save", "Insert", "Remove", "Show", "Hide", "Copy", "Paste", "Convert", "Arrange")
 NOUNS = ("File", "Page", "Table", "Picture", "Chart", "Header", "Footer", "Column", "Comment", "Style", "Field")
@@ -27,7 +27,7 @@ def main(count):
     bar = Gtk.MenuBar()
     for first in range(0, count, ITEMS_OF_A_MENU):
         bar.append(menu(first, min(first + ITEMS_OF_A_MENU, count), keys))
-    # A bar wider than the screen would make the window so too.
+    # The bar scrolls, because a bar wider than the screen would widen the window.
     scroller = Gtk.ScrolledWindow(hscrollbar_policy=Gtk.PolicyType.EXTERNAL, vscrollbar_policy=Gtk.PolicyType.NEVER)
     scroller.add(bar)
     box = Gtk.Box(orientation=Gtk.Orientation.VERTICAL)
@@ -46,7 +46,7 @@ def menu(first, end, keys):
         title = f"{VERBS[number % len(VERBS)]} {NOUNS[number % len(NOUNS)]} {number + 1}"
         item = Gtk.CheckMenuItem(label=title) if number % 10 == 3 else Gtk.MenuItem(label=title)
         if number % 5 == 0:
-            # Each of 52 combinations is given more than once; what they do is of no matter here.
+            # Each of 52 combinations is given more than once; their effect does not matter here.
             modifiers = Gdk.ModifierType.CONTROL_MASK
             if number % 2:
                 modifiers |= Gdk.ModifierType.SHIFT_MASK

@@ -4,7 +4,7 @@ import subprocess
 from dataclasses import dataclass
 
 TIMEOUT_MS = 5000
-# Longer than anything drawn in steps takes, shorter than a caret's blink.
+# Longer than the pauses of anything drawn in steps, shorter than a caret's blink.
 QUIET_MS = 150
 
 
@@ -37,7 +37,7 @@ class PixelWatch:
         self._ask("press", *keys)
 
     def time(self, *keys, quiet=QUIET_MS):
-        """What pressing the keys, as of one instant, takes to show; see PixelWatch.cpp for how keys are written."""
+        """The times from pressing the keys in one instant to the changes; PixelWatch.cpp tells how keys are written."""
         first, last, _ = self._ask("time", quiet, TIMEOUT_MS, *keys).split()
         return Times(int(first) / 1000, int(last) / 1000)
 
@@ -48,19 +48,19 @@ class PixelWatch:
         self._ask("remember")
 
     def wait_until_restored(self):
-        """Milliseconds until the area looks again as it was remembered."""
+        """Milliseconds until the area looks as remembered again."""
         return int(self._ask("restored", TIMEOUT_MS)) / 1000
 
     def wait_until_in_front(self, window):
         self._ask("front", window, TIMEOUT_MS)
 
     def resources(self, process_id):
-        """How much of each type the X server holds for a process."""
+        """The number of resources of each type that the X server holds for a process."""
         pairs = (pair.rpartition("=") for pair in self._ask("resources", process_id).split("\t"))
         return {name: int(count) for name, _, count in pairs}
 
     def own_error(self, rounds):
-        """Milliseconds from a drawing to its being seen."""
+        """Milliseconds from a drawing until it is seen."""
         return [int(number) / 1000 for number in self._ask("calibrate", rounds).split()]
 
     def _ask(self, *words):

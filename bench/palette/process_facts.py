@@ -1,16 +1,16 @@
-"""What the kernel tells about a running process."""
+"""Facts about a running process from the kernel."""
 
 import os
 from pathlib import Path
 
 
 def proportional_memory(process_id):
-    """MB that it keeps in memory, what it shares divided by those who share it (PSS)."""
+    """MB that it keeps in memory; shared memory is divided by the number of processes that share it (PSS)."""
     return _rollup(process_id, "Pss:")
 
 
 def private_memory(process_id):
-    """MB that it has written to and nobody else has: what grows when it leaks."""
+    """MB of memory that only this process has written to; a leak makes it grow."""
     return _rollup(process_id, "Private_Dirty:")
 
 
@@ -23,7 +23,7 @@ def threads(process_id):
 
 
 def wake_ups(process_id):
-    """How often its threads have waited for something and gone on, by thread; each was woken for it."""
+    """The number of times that each of its threads has waited and was woken, by thread."""
     counts = {}
     for task in Path(f"/proc/{process_id}/task").iterdir():
         lines = (task / "status").read_text(encoding="utf-8").splitlines()

@@ -16,10 +16,10 @@ class Report:
         self._facts = []
 
     def times(self, what, milliseconds, target=""):
-        """A row of times; returns their median."""
+        """Adds a row of times and returns their median."""
         ordered = sorted(milliseconds)
         median = statistics.median(ordered)
-        # The smallest that at least 99 in 100 do not exceed; below a hundred that is the longest.
+        # The smallest time that at least 99 in 100 do not exceed; with fewer than a hundred it is the longest.
         percentile = ordered[math.ceil(0.99 * len(ordered)) - 1]
         self._add(self._times, f"| {what} | {len(ordered)} | {median:.1f} ms | {percentile:.1f} ms | "
                                f"{ordered[-1]:.1f} ms | {target} |")

@@ -1,4 +1,4 @@
-"""What is measured: the resident program over an application, and a launcher in its place."""
+"""The measured programs: the resident program over an application, and a launcher in its place."""
 
 import json
 import re
@@ -11,23 +11,23 @@ from harness.waiting import wait_until
 
 HOT_KEY = "ctrl+shift+p"
 PEER_HOT_KEY = "ctrl+shift+o"
-# Of a screen of 1280 × 800 pixels: where the palette appears, without its corners, which the window below shows in.
+# Parts of a screen of 1280 × 800 pixels. PANEL is the palette's place without its corners, where the window shows.
 PANEL = (300, 114, 680, 412)
 FIELD = (364, 100, 380, 60)
 ROWS = (310, 190, 640, 340)
-# Covers the screen; carets, which blink, are at its left edge.
+# The window covers the screen; carets, which blink, are at its left edge.
 WINDOW = (0, 0, 1270, 760)
-# Menus are read anew when half a minute has passed since.
+# Menus are read anew after half a minute.
 CACHE_SECONDS = 30
 MARGIN_SECONDS = 1.5
-# To the administrator it says for ten seconds who she is, in the middle of its window.
+# FeatherPad shows the administrator a notice for ten seconds, in the middle of its window.
 FEATHERPAD = "FeatherPad (Qt 5)"
 FEATHERPAD_SECONDS = 12
 MANY_MENU_ITEMS = Path(__file__).with_name("many_menu_items.py")
 
 
 def applications():
-    """Names for people, and how to start a process of its own of each."""
+    """The names of the applications, each with the command that starts a process of its own."""
     return {FEATHERPAD: ["featherpad", "--standalone"],
             "Mousepad (GTK 3)": ["mousepad", "--disable-server"],
             "300 items (generated, GTK 3)": generated(300),
@@ -35,19 +35,19 @@ def applications():
 
 
 def still_carets(home):
-    """Carets of applications in GTK 3 do not blink, which would never come to rest."""
+    """Stops the blinking of carets in GTK 3, which would never come to rest."""
     settings = Path(home) / ".config" / "gtk-3.0" / "settings.ini"
     settings.parent.mkdir(parents=True, exist_ok=True)
     settings.write_text("[Settings]\ngtk-cursor-blink=false\n", encoding="utf-8")
 
 
 def generated(items):
-    """How to start an application with a menu bar of so many items and nothing that moves."""
+    """The command that starts an application with so many items in its menu bar and nothing that moves."""
     return ["/usr/bin/python3", str(MANY_MENU_ITEMS), str(items)]
 
 
 def window_manager(directory):
-    """Openbox with one key more, which starts the peer."""
+    """The command of Openbox with one more key, which starts the peer."""
     system = Path("/etc/xdg/openbox/rc.xml").read_text(encoding="utf-8")
     binding = (f'<keyboard><keybind key="C-S-o"><action name="Execute"><command>sh -c ". {directory}/peer"</command>'
                "</action></keybind>")
@@ -86,7 +86,7 @@ class Palette:
             raise RuntimeError(f"the resident program ended badly: {self.resident.errors}")
 
     def over(self, application):
-        """From now on it is opened over this application, whose menus are read first; the number of commands."""
+        """Opens it over this application from now on, whose menus it reads first."""
         application.bring_to_front()
         self._watch.watch(*PANEL)
         self._settle()
@@ -95,11 +95,11 @@ class Palette:
         self.close()
 
     def open(self, *more_keys):
-        """The times of the hot key, and of keys typed with it, to changes of what is watched."""
+        """The times from the hot key, and keys typed with it, to changes in the watched area."""
         return self._watch.time(HOT_KEY, *more_keys)
 
     def open_warm(self, *more_keys):
-        """As `open`, over menus that are known."""
+        """The same as `open`, over menus that are known."""
         if time.monotonic() - self._scanned > CACHE_SECONDS - MARGIN_SECONDS:
             wait_for_time(self._scanned + CACHE_SECONDS + MARGIN_SECONDS)
             self.open()
@@ -108,14 +108,14 @@ class Palette:
         return self.open(*more_keys)
 
     def close(self):
-        """Milliseconds until what was below is to be seen again."""
+        """Closes it; returns the milliseconds until the content below it is visible again."""
         self._watch.press("Escape")
         milliseconds = self._watch.wait_until_restored()
         self._watch.wait_for_rest()
         return milliseconds
 
     def watch(self, area):
-        """Another part of the screen while it is closed."""
+        """Watches another part of the screen from now on; to be called while it is closed."""
         self._watch.watch(*area)
         self._settle()
 
@@ -133,7 +133,7 @@ def store_custom_commands(program, environment, titles):
 
 
 def many_titles(count):
-    """Of which "ex" finds all and "ext" all but the first twenty, so that every row in sight is another."""
+    """Titles of which "ex" finds all and "ext" all but the first twenty, so that every visible row changes."""
     return [f"Export archive {number:02}" if number < 20 else f"Extract page {number:04}" for number in range(count)]
 
 

@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2034,SC2154
-# What the scripts share. Sourced with `root` set to the top folder of the checkout.
+# The common part of the scripts. Sourced with `root` set to the top folder of the checkout.
 
 # Debian packages to build the program, to run it on a private desktop, and to test it.
 build_packages=(ca-certificates g++ cmake ninja-build pkg-config libicu-dev nlohmann-json3-dev libsqlite3-dev
@@ -24,7 +24,7 @@ fail() {
     exit 1
 }
 
-# As fail, for arguments that make no sense.
+# Does the same as fail, for invalid arguments.
 usage_error() {
     printf '%s: %s\n' "$(basename "$0")" "$*" >&2
     exit 2
@@ -50,7 +50,7 @@ install_packages() {
         apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-# Runs a command with its output in a log file, of which the end is shown if it fails.
+# Runs a command with its output in a log file, and shows the end of the log if the command fails.
 quietly() {
     local log=$1
     shift
@@ -61,7 +61,7 @@ quietly() {
     fi
 }
 
-# Configures a preset and builds the targets of it that are named, or all. The preset fuzz is a part of asan.
+# Configures a preset and builds the named targets of it, or all. The preset fuzz is a part of asan.
 build_preset() {
     local preset=$1 options=()
     local configured=${preset/fuzz/asan}
@@ -74,8 +74,8 @@ build_preset() {
     quietly "$root/build/$preset.log" cmake --build --preset "$preset" "$@"
 }
 
-# Runs each fuzzer of the sanitized build for so many seconds. What it finds to be worth trying again is kept in the
-# build folder and used the next time.
+# Runs each fuzzer of the sanitized build for so many seconds. The inputs that it finds worth trying again are kept in
+# the build folder and used the next time.
 fuzz_all() {
     local seconds=$1 fuzzer name kept log
     for fuzzer in "$root"/build/asan/tests/fuzz/tovrel_fuzz_*; do

@@ -80,7 +80,7 @@ void append(const TextKeys& added, TextKeys& keys) {
     keys.native += added.native;
 }
 
-/// Whether the first character of a key can not compose with one before it.
+/// Whether the first character of a key cannot compose with one before it.
 bool startsFresh(std::string_view key) {
     if (key.empty() || static_cast<unsigned char>(key.front()) < 0x80) {
         return true;

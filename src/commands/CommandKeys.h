@@ -14,15 +14,15 @@ namespace tovrel {
 
 /// Every key a command can be found by, each once within its list; none is empty.
 struct CommandKeys {
-    std::vector<std::string> aliasVariants; ///< Of its aliases.
+    std::vector<std::string> aliasVariants; ///< The keys of its aliases.
     std::vector<std::string>
         candidateVariants; ///< Of its title, subtitle, shortcut, menu path and search tokens.
 };
 
-/// Derives the keys of many commands. Titles of menus come back in thousands of commands, and transliteration
-/// costs microseconds a word, so the keys of each distinct title are derived once, those of a whole menu path
-/// are put together from its titles', and those of a title in another script from its words', wherever that
-/// gives the same.
+/// Derives the keys of many commands. Menu titles recur in thousands of commands, and transliteration costs
+/// microseconds a word. The keys of each distinct title are therefore derived once, those of a whole menu
+/// path are composed from its titles' keys, and those of a title in another script from its words' keys,
+/// wherever that gives the same.
 class CommandKeyDeriver {
   public:
     explicit CommandKeyDeriver(const TextServices& textServices) : textServices_(&textServices) {}
@@ -30,7 +30,7 @@ class CommandKeyDeriver {
     CommandKeys keysOf(const Command& command);
 
   private:
-    /// What is known about one text.
+    /// The keys of one text.
     struct Derived {
         SearchVariants variants;
         /// Whether the keys of this text after another and a space are the two texts' keys end to end.
@@ -39,11 +39,11 @@ class CommandKeyDeriver {
 
     const Derived& derived(std::string_view text);
     [[nodiscard]] Derived derive(std::string_view text);
-    /// Of the texts joined with single spaces, put together from theirs; absent where that may not be the
-    /// same.
+    /// The keys of the texts joined with single spaces, composed from each text's keys; absent where that
+    /// might not give the same.
     std::optional<Derived> composed(const std::vector<std::string_view>& texts);
     void addVariants(const Text& text, std::vector<std::string>& keys);
-    /// The variants of the texts joined with single spaces.
+    /// Adds the variants of the texts joined with single spaces.
     void addJoinedVariants(const std::vector<std::string_view>& texts, std::vector<std::string>& keys);
 
     const TextServices* textServices_;

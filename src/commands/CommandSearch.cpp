@@ -25,7 +25,7 @@ std::vector<CommandSearch::Match> CommandSearch::discoveries(const CommandSearch
     return matches;
 }
 
-/// The matches of either list, with the better score of those in both.
+/// The matches of both lists; a command in both gets the better score.
 std::vector<CommandSearch::Match> CommandSearch::bestOf(std::vector<Match> left,
                                                         const std::vector<Match>& right) {
     if (right.empty()) {
@@ -72,7 +72,7 @@ std::vector<CommandSearch::Match> CommandSearch::strongMatches(const SearchQuery
             entries.push_back(entry);
         }
     };
-    // A key that holds the longer query holds the shorter one it extends.
+    // A key that contains the longer query also contains the shorter query it extends.
     const auto shorter = std::find_if(previous_.begin(), previous_.end(), [&](const Narrowed& previous) {
         return query.key.starts_with(previous.key) && index.sharesContentsWith(previous.index);
     });

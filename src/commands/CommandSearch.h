@@ -12,8 +12,8 @@ namespace tovrel {
 
 /// Finds and ranks commands for what the user has typed.
 ///
-/// The result depends on the arguments alone. What the object remembers of its last search only saves work:
-/// when a query's key extends the one before, over the same index, only what matched then is looked at.
+/// The result depends on the arguments alone. The object remembers its last search only to save work: when a
+/// query's key extends the one before, over the same index, only what matched then is looked at.
 class CommandSearch {
   public:
     /// The commands that match `query`, as typed, best first; equal scores are ordered by title, then by
@@ -28,11 +28,11 @@ class CommandSearch {
         std::int64_t score = 0;
     };
 
-    /// What a search for one key leaves for the next one.
+    /// The matches of one key, which the next search starts from.
     struct Narrowed {
         CommandSearchIndex index;
-        std::string key;                    ///< What was searched for, not empty.
-        std::vector<std::uint32_t> entries; ///< Those that it matched more than loosely, in order.
+        std::string key;                    ///< The key searched for, not empty.
+        std::vector<std::uint32_t> entries; ///< The entries it matched more than loosely, in order.
     };
 
     /// All lists of matches are in the order of the entries until they are ranked.

@@ -13,7 +13,7 @@ namespace {
 
 std::int64_t rankBoost(const CommandRankSignals& signals) {
     const std::int64_t favorite = signals.isFavorite ? 120 : 0;
-    // The count is as it was stored: any number, if that is damaged.
+    // A stored count may be any number if the preferences are damaged.
     const std::int64_t usage = std::min<std::int64_t>(saturatingMultiply(8, signals.usageCount), 80);
     const std::int64_t used = signals.lastUsedAt ? 25 : 0;
     return saturatingAdd(usage, favorite + used);

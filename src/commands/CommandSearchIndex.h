@@ -25,7 +25,7 @@ struct IndexedCommand {
 /// of titles.
 class CommandSearchIndex {
   public:
-    /// Never fails. An overflow of a boost (only a damaged history can bring it about) ends the process.
+    /// Never fails. An overflow of a boost, which only a damaged history can cause, ends the process.
     CommandSearchIndex(std::vector<Command> commands, const TextServices& textServices);
 
     /// The commands it was built from, in their order.
@@ -37,7 +37,7 @@ class CommandSearchIndex {
     /// The keys of the entries, row by row.
     [[nodiscard]] const SearchKeyTable& keys() const { return contents_->keys; }
 
-    /// The text services it was built with, by which queries are normalised.
+    /// The text services it was built with; queries are normalised by the same ones.
     [[nodiscard]] const TextServices& textServices() const { return *contents_->textServices; }
 
     /// Whether both are the same index or copies of one.

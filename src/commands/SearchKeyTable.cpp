@@ -21,7 +21,7 @@ constexpr Scores candidateScores{900, 780, strongMatchScore, 320};
 /// Symbols below this are ASCII characters themselves.
 constexpr char32_t firstClusterSymbol = 0x80;
 
-/// The class of a byte in a set of 64: a letter and a digit have one each, the others share 28.
+/// The class of a byte in a set of 64: each letter and each digit has one, all other bytes share 28.
 constexpr std::uint64_t letterBit(unsigned char byte) {
     if (byte >= 'a' && byte <= 'z') {
         return std::uint64_t{1} << (byte - 'a');
@@ -101,7 +101,7 @@ void SearchKeyTable::addKeys(const std::vector<std::string>& keys, bool isAlias)
         NewKey added{.bytes = key,
                      .symbols = isAscii(key) ? std::u32string() : internedSymbols(key),
                      .exactSizes = {static_cast<std::uint32_t>(key.size())}};
-        // By grapheme clusters too: the last one of the shorter key must not go on in the longer one.
+        // Compared by grapheme clusters too: the shorter key's last cluster must not go on in the longer key.
         const auto longer = std::find_if(kept.begin(), kept.end(), [&](const NewKey& other) {
             return other.bytes.starts_with(key) &&
                    (other.symbols.empty() ||

@@ -12,9 +12,8 @@
 
 namespace tovrel {
 
-/// How well a row matches, as the score of the best of its keys: 1000, 850, 760, 420 for an alias that
-/// equals, starts with, contains or loosely contains the query; 900, 780, 680, 320 for any other text; 0 for
-/// no match.
+/// The score of a row's best key: 1000, 850, 760, 420 for an alias that equals, starts with, contains or
+/// loosely contains the query; 900, 780, 680, 320 for any other text; 0 for no match.
 using MatchScore = std::int32_t;
 
 /// The lowest score of a match that is not loose.
@@ -24,7 +23,7 @@ inline constexpr MatchScore strongMatchScore = 680;
 struct SearchQuery {
     std::string key;            ///< Normalised, not empty.
     std::u32string symbols;     ///< One per grapheme cluster; see SearchKeyTable.
-    std::uint64_t letters = 0;  ///< Which bytes occur, as a set of 64 classes.
+    std::uint64_t letters = 0;  ///< The bytes that occur, as a set of 64 classes.
     bool isKnown = true;        ///< False when a grapheme cluster occurs nowhere in the table.
     std::size_t looseLimit = 0; ///< The longest span, in grapheme clusters, of a loose match.
 };
@@ -33,9 +32,8 @@ struct SearchQuery {
 /// key press. Building it drops what cannot change a row's score:
 ///
 /// - A key that is the start of another key of the same kind (alias or not) can only add an exact match,
-/// since
-///   the longer one starts with, contains and loosely contains all that the shorter one does. Only its length
-///   is kept, with the longer key.
+///   since the longer one starts with, contains and loosely contains all that the shorter one does. Only its
+///   length is kept, with the longer key.
 /// - A key that occurs inside another one is examined only after the query was found in that one.
 ///
 /// A row is passed over by one test of its 64-bit set of letters when the query has a letter that it lacks.
@@ -67,12 +65,12 @@ class SearchKeyTable {
 
   private:
     struct Key {
-        std::uint32_t start = 0; ///< In bytes_.
+        std::uint32_t start = 0; ///< Index into bytes_.
         std::uint32_t size = 0;
-        std::uint32_t firstSymbol = 0; ///< In symbols_; unused for a key of ASCII.
+        std::uint32_t firstSymbol = 0; ///< Index into symbols_; unused for a key of ASCII.
         std::uint32_t symbolCount = 0; ///< 0 for a key of ASCII.
         std::uint32_t firstExactSize =
-            0; ///< In exactSizes_: the sizes of the keys this one starts with, its own too.
+            0; ///< Index into exactSizes_: the sizes of the keys this one starts with, its own too.
         std::uint32_t exactSizeCount = 0;
         bool isAlias = false;
         bool isInsideAnother = false; ///< It occurs in a key before it in the row.
@@ -99,14 +97,14 @@ class SearchKeyTable {
     [[nodiscard]] bool looselyContains(const Key& key, const SearchQuery& query) const;
 
     const TextServices* textServices_;
-    std::vector<std::uint64_t> letters_; ///< Of each row.
+    std::vector<std::uint64_t> letters_; ///< One set for each row.
     std::vector<Row> rows_;
     std::vector<Key> keys_;
     std::vector<std::uint32_t> exactSizes_;
     std::string bytes_;
     std::u32string symbols_;
     std::unordered_map<std::string, char32_t>
-        symbolOfCluster_; ///< Of clusters that are not one ASCII character.
+        symbolOfCluster_; ///< Only clusters that are not one ASCII character.
 };
 
 } // namespace tovrel

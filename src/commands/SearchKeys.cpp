@@ -38,7 +38,7 @@ std::string normalizedKey(std::string_view text, const TextServices& textService
             isAllAscii = false;
         }
     }
-    // What stood between two characters is gone, so that they may compose now.
+    // The characters between two others were removed, so that these may compose now.
     return isAllAscii ? key : textServices.composed(key);
 }
 

@@ -9,8 +9,8 @@
 
 namespace tovrel {
 
-/// By whose rules a text is folded. In a Turkish or Azerbaijani locale the two differ for texts with an I;
-/// such a text is searched by both, because applications there are often English.
+/// The rules by which a text is folded. In a Turkish or Azerbaijani locale the two differ for texts with an
+/// I; such a text is searched by both, because applications there are often English.
 enum class Folding { byLocale, byDefault };
 
 /// The matching key of a text: folded, lower-cased, and reduced to letters, marks and numbers (general
@@ -20,14 +20,14 @@ enum class Folding { byLocale, byDefault };
 std::string normalizedKey(std::string_view text, const TextServices& textServices,
                           Folding folding = Folding::byLocale);
 
-/// The keys of a query: by the locale's folding and, when that differs, by the default one. All of them or
-/// none is empty.
+/// The keys of a query: by the locale's folding and, when that differs, by the default one. Either all are
+/// empty or none is.
 std::vector<std::string> queryKeys(std::string_view query, const TextServices& textServices);
 
 /// The keys under which a text can be found by one folding.
 struct TextKeys {
     std::string native;
-    std::optional<std::string> latin; ///< Of its transliteration to Latin letters, where that gives another.
+    std::optional<std::string> latin; ///< The key of its transliteration to Latin letters, if it differs.
 
     bool operator==(const TextKeys&) const = default;
 };
@@ -35,7 +35,7 @@ struct TextKeys {
 /// The keys under which a text can be found.
 struct SearchVariants {
     TextKeys byLocale;
-    std::optional<TextKeys> byDefault; ///< Where the default folding gives other keys.
+    std::optional<TextKeys> byDefault; ///< Present where the default folding gives other keys.
 };
 
 SearchVariants searchVariants(std::string_view text, const TextServices& textServices);

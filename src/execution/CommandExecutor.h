@@ -13,15 +13,15 @@
 
 namespace tovrel {
 
-/// What a command of kind `open` holds names nothing that exists and is no URL.
+/// The payload of a command of kind `open` is no URL and names nothing that exists.
 struct InvalidOpenPayload {
     Text payload;
 
     friend bool operator==(const InvalidOpenPayload&, const InvalidOpenPayload&) = default;
 };
 
-/// The process of a command of that kind ended with a status other than 0, or by a signal, whose number is
-/// the status then.
+/// The process of a command of kind `kind` ended with a status other than 0, or by a signal; `status` is then
+/// the signal's number.
 struct ProcessFailed {
     CustomCommandKind kind = CustomCommandKind::shellScript;
     std::int32_t status = 0;
@@ -30,18 +30,19 @@ struct ProcessFailed {
     friend bool operator==(const ProcessFailed&, const ProcessFailed&) = default;
 };
 
-/// How running a command went; `std::monostate` is success.
+/// The outcome of running a command; `std::monostate` is success.
 using CommandExecutionResult = std::variant<std::monostate, InvalidOpenPayload, ProcessFailed, LaunchFailure>;
 
-/// Runs custom commands: starts a process for a shell command, an AppleScript or a Shortcut, or has a URL or
-/// a file opened. The payload is used as it is stored: no trimming, no expansion of "~" or of variables.
+/// Runs custom commands: starts a process for a shell command, an AppleScript or a Shortcut, or asks the
+/// system to open a URL or a file. The payload is used as it is stored: no trimming, no expansion of "~" or
+/// of variables.
 class CommandExecutor {
   public:
     /// Asks the system to open a URL; the outcome is not known.
     using UrlOpener = std::function<void(const Url&)>;
     /// Whether a file or directory exists at a path, relative to the working directory if it is relative.
     using FileExists = std::function<bool(const Text&)>;
-    /// Learns how it went.
+    /// Receives the outcome.
     using Completion = std::function<void(const CommandExecutionResult&)>;
 
     /// The runner and the queue outlive the executor.

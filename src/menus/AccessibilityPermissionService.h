@@ -10,7 +10,7 @@ class AccessibilityPermissionService {
   public:
     explicit AccessibilityPermissionService(Accessibility& accessibility) : accessibility_(&accessibility) {}
 
-    /// Asked anew at every use, so that a permission given meanwhile counts at once.
+    /// Asks anew at every call, so that a permission given meanwhile counts at once.
     [[nodiscard]] bool isTrusted() const { return accessibility_->isTrusted(); }
 
     /// The palette entry that opens the system's accessibility settings. Its id is always the same; the

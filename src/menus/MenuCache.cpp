@@ -17,7 +17,7 @@ std::size_t MenuCacheKeyHash::operator()(const MenuCacheKey& key) const {
 
 std::optional<std::vector<ScannedMenuItem>> MenuCache::cachedItems(const MenuCacheKey& key, Uptime now) {
     constexpr std::chrono::seconds lifetime(30);
-    // The system may give the number of a process that has ended to another instance.
+    // The system may give the process identifier of an application that has ended to another instance.
     std::erase_if(entries_, [](const auto& entry) {
         return entry.second.application && entry.second.application->isTerminated();
     });
@@ -34,7 +34,8 @@ std::optional<std::vector<ScannedMenuItem>> MenuCache::cachedItems(const MenuCac
 
 void MenuCache::store(const std::shared_ptr<const RunningApplication>& application,
                       std::vector<ScannedMenuItem> items, Uptime now) {
-    // One whose process cannot be seen, in another container for one, seems to have ended from the start.
+    // An application whose process cannot be seen, say in another container, seems to have ended from the
+    // start.
     entries_.insert_or_assign(
         MenuCacheKey::of(*application),
         Entry{std::move(items), now, application->isTerminated() ? nullptr : application});

@@ -30,16 +30,16 @@ struct MenuCacheKeyHash {
     std::size_t operator()(const MenuCacheKey& key) const;
 };
 
-/// The last scanned menu tree of each application instance, kept in memory for half a minute. "Now" is of a
-/// clock that nobody sets: by one set back an hour, old menus would be fresh for the hour.
+/// The last scanned menu tree of each application instance, kept in memory for half a minute. `now` must come
+/// from a clock that nobody can set: after one is set back an hour, old menus would be fresh for the hour.
 class MenuCache {
   public:
-    /// The lifetime in seconds, for whoever shows or documents it; a lookup goes by its own constant.
+    /// The lifetime in seconds, for display and documentation; lookups use a constant of their own.
     double timeToLive = 30.0;
 
     /// The items stored under the key at most 30 seconds before `now` (a time before they were stored counts
-    /// as fresh); absent otherwise, and the entry is then removed. So are those of all applications that have
-    /// ended.
+    /// as fresh); absent otherwise, and the entry is then removed. Entries of all applications that have
+    /// ended are removed as well.
     [[nodiscard]] std::optional<std::vector<ScannedMenuItem>> cachedItems(const MenuCacheKey& key,
                                                                           Uptime now);
 
@@ -51,7 +51,7 @@ class MenuCache {
     struct Entry {
         std::vector<ScannedMenuItem> items;
         Uptime storedAt;
-        std::shared_ptr<const RunningApplication> application; ///< Null when its end cannot be told.
+        std::shared_ptr<const RunningApplication> application; ///< Null when its end cannot be detected.
     };
 
     std::unordered_map<MenuCacheKey, Entry, MenuCacheKeyHash> entries_;

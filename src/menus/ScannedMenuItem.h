@@ -19,7 +19,7 @@ struct ScannedMenuItem {
     bool isEnabled = true;
     bool isChecked = false;
     std::vector<ScannedMenuItem> children;         ///< In on-screen order; empty for a leaf.
-    std::shared_ptr<AccessibilityElement> element; ///< What is pressed; may be null.
+    std::shared_ptr<AccessibilityElement> element; ///< The element to press; may be null.
 };
 
 } // namespace tovrel

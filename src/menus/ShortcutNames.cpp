@@ -35,7 +35,7 @@ constexpr std::array keyNames{
     GlyphName{"⇥", "Tab"},
 };
 
-/// The name of what is a glyph of the list; anything else is its own name.
+/// The name of a glyph in the list; any other text is its own name.
 template <std::size_t Size>
 std::string_view nameOf(std::string_view text, const std::array<GlyphName, Size>& names) {
     const auto* named = std::find_if(names.begin(), names.end(),
@@ -49,7 +49,7 @@ Text shortcutWithKeyNames(const Text& shortcut) {
     std::string_view key = shortcut.view();
     std::string spelled;
     for (const GlyphName& modifier : modifierNames) {
-        // A glyph that is all there is left is the key itself.
+        // A glyph with nothing after it is the key itself.
         if (key.starts_with(modifier.glyph) && key.size() > modifier.glyph.size()) {
             spelled.append(modifier.name).append("+");
             key.remove_prefix(modifier.glyph.size());

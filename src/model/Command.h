@@ -12,7 +12,7 @@
 
 namespace tovrel {
 
-/// Where a command comes from.
+/// The origin of a command.
 enum class CommandSource { menu, custom };
 
 /// The usage history of one command.
@@ -31,7 +31,7 @@ struct MenuAction {
     friend bool operator==(const MenuAction&, const MenuAction&) = default;
 };
 
-/// What to do when a command is chosen: press a menu item, or run a custom command.
+/// The action of a chosen command: press a menu item, or run a custom command.
 using CommandAction = std::variant<MenuAction, CustomCommand>;
 
 /// One palette entry: an item of the front application's menu bar, or a custom command. A value that is
@@ -60,7 +60,7 @@ struct Command {
 json::Value toJson(CommandSource source);
 json::Value toJson(const CommandRankSignals& signals);
 json::Value toJson(const CommandAction& action);
-/// Throws json::EncodeError when a time of last use is not finite, as the two above do.
+/// Throws json::EncodeError when a time of last use is not finite; so do the two functions above.
 json::Value toJson(const Command& command);
 
 /// The decoders throw json::DecodeError.

@@ -9,7 +9,7 @@
 
 namespace tovrel {
 
-/// What the payload of a custom command is.
+/// The kind of payload that a custom command has.
 enum class CustomCommandKind { shellScript, appleScript, open, shortcut };
 
 /// Every kind, in the order in which they are offered to the user.

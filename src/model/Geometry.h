@@ -2,7 +2,7 @@
 
 namespace tovrel {
 
-/// In logical pixels; y grows upwards.
+/// A point in logical pixels; y grows upwards.
 struct Point {
     double x = 0;
     double y = 0;

@@ -7,19 +7,20 @@
 
 namespace tovrel {
 
-/// The longest title in bytes. What people read in a menu is far shorter; every item below a menu carries the
+/// The longest title in bytes. Titles that people read are far shorter; every item below a menu carries the
 /// menu's title, so that a longer one would cost its length many times over.
 inline constexpr std::size_t longestMenuTitle = 1024;
 
-/// Of what an application gives as a name so many bytes are looked at for the title in it: the rest is white
-/// space around it, marks within it, or too long.
+/// The number of bytes of a name that are examined for a title. The rest is white space around the title,
+/// marks within it, or too long.
 inline constexpr std::size_t longestMenuName = 4 * longestMenuTitle;
 
-/// The title in an application's own name for a menu or an item: without white space at its ends (some
-/// programs pad their names), and cut behind the last whole grapheme cluster within `longestMenuTitle`.
+/// Makes the title from an application's own name for a menu or an item: removes white space at its ends
+/// (some programs pad their names), and cuts it after the last whole grapheme cluster within
+/// `longestMenuTitle`.
 Text menuTitle(std::string_view name);
 
-/// A title as it is, only cut likewise.
+/// Cuts a title in the same way and changes nothing else.
 Text cutMenuTitle(const Text& title);
 
 } // namespace tovrel

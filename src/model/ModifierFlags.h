@@ -7,8 +7,8 @@ namespace tovrel {
 /// The modifier keys of a key event, as a bit set.
 using ModifierFlags = std::uint64_t;
 
-/// The bits are those the platform-neutral virtual key codes come with. Which physical key is which is the
-/// platform's affair: on Linux Command is the Control key, Control is Super, Option is Alt.
+/// The bits of the modifiers that belong to the platform-neutral virtual key codes. The platform decides
+/// which physical key is which: on Linux Command is the Control key, Control is Super, Option is Alt.
 namespace modifier_flags {
 inline constexpr ModifierFlags capsLock = 0x10000;
 inline constexpr ModifierFlags shift = 0x20000;

@@ -7,7 +7,7 @@
 namespace tovrel {
 namespace {
 
-/// The case of `cases` whose raw value the string is.
+/// Decodes the case of `cases` that has this raw value.
 template <typename Cases>
 typename Cases::value_type caseFrom(const json::Value& value, const Cases& cases, const char* what) {
     const Text raw = json::textFrom(value);

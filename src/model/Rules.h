@@ -26,7 +26,7 @@ struct AppBehaviorSetting {
     friend bool operator==(const AppBehaviorSetting&, const AppBehaviorSetting&) = default;
 };
 
-/// What a blacklist rule hides: the item at its path, everything below it, or both.
+/// The items that a blacklist rule hides: the one at its path, everything below it, or both.
 enum class MenuBlacklistMode { excludeSelf, excludeChildren, excludeSelfAndChildren };
 
 inline constexpr std::array allMenuBlacklistModes{MenuBlacklistMode::excludeSelf,

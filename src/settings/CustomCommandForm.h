@@ -15,7 +15,7 @@ struct CustomCommandForm {
     Text aliases; ///< Separated by commas.
     bool usesCurrentApp = false;
     bool isEnabled = true;
-    std::optional<Text> editingID; ///< Of the command that is being edited; absent for a new one.
+    std::optional<Text> editingID; ///< The command that is being edited; absent for a new one.
 
     friend bool operator==(const CustomCommandForm&, const CustomCommandForm&) = default;
 };

@@ -8,17 +8,18 @@
 #include "settings/SettingsRecords.h"
 #include "stores/CommandHistoryStore.h"
 
-/// What the settings list of an application's menu tree, in menu order and without the system's own menu.
+/// The lists that the settings make of an application's menu tree: in menu order, without the system's own
+/// menu.
 namespace tovrel::settings_menu_lists {
 
-/// Every item of the tree, menus and submenus too, that no rule with exactly its path is there for. Only
-/// rules whose scope equals `bundleID` count (both absent, or both present and equal). Items with the same
-/// path are listed as often as they are there.
+/// Every item of the tree, including menus and submenus, that has no rule with exactly its path. Only rules
+/// whose scope equals `bundleID` count (both absent, or both present and equal). Items with the same path are
+/// listed as often as they occur.
 [[nodiscard]] std::vector<SettingsMenuRuleCandidate>
 ruleCandidates(const std::vector<ScannedMenuItem>& menuItems, const std::optional<Text>& bundleID,
                const std::vector<MenuBlacklistRule>& rules);
 
-/// The leaves of the tree below its menus, enabled or not, with what is stored for their search.
+/// The leaves of the tree below its menus, enabled or not, with their stored search settings.
 [[nodiscard]] std::vector<SettingsMenuCommandSetting>
 commandSettings(const std::vector<ScannedMenuItem>& menuItems, const std::optional<Text>& bundleID,
                 const std::vector<MenuCommandAliasRule>& aliasRules, const CommandHistorySnapshot& history);

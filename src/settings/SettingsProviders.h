@@ -11,19 +11,19 @@
 
 namespace tovrel {
 
-/// Where the settings learn of what is not stored. Each is asked anew on every reload.
+/// Functions that provide what the settings show but do not store. Each is called on every reload.
 struct SettingsProviders {
     std::function<std::optional<CurrentApplicationContext>()> currentApplication;
     std::function<std::vector<ScannedMenuItem>()> menuItems;
     std::function<bool()> accessibilityPermission;
 
-    /// For settings that nobody opened for a certain application: whichever application is in front, this one
-    /// included, and no menus.
+    /// The providers of settings that were not opened for a certain application: whichever application is in
+    /// front, this one included, and no menus.
     [[nodiscard]] static SettingsProviders standard(Workspace& workspace, Accessibility& accessibility);
 };
 
-/// Absent without an application or without an identifier of it. An application without a name is called by
-/// its identifier.
+/// The application as the settings show it; absent without an application or without its identifier. An
+/// application without a name is called by its identifier.
 [[nodiscard]] std::optional<CurrentApplicationContext>
 currentApplicationContext(const RunningApplication* application);
 

@@ -19,7 +19,7 @@
 
 namespace tovrel {
 
-/// What the settings read and write. Everything outlives the model.
+/// The stores that the settings read and write. All of them outlive the model.
 struct SettingsStores {
     RulesStore& rules;
     CommandHistoryStore& history;
@@ -29,12 +29,11 @@ struct SettingsStores {
     const UnstoredChange& unstoredChange;
 };
 
-/// The state behind the settings window: what the stores and the providers say, and the edits. Each edit
-/// writes to a store and then reloads everything, so the model never holds what the stores do not.
+/// The state behind the settings window: the contents of the stores and the providers, and the edits. Each
+/// edit writes to a store and then reloads everything, so the model never holds what the stores do not.
 ///
-/// An edit that cannot be stored shows in `unstoredChange`, and in nothing having changed. An edit that needs
-/// a current application or an entry that is not there does nothing, not even a reload. Duplicates are not
-/// looked for.
+/// An edit that cannot be stored changes nothing and shows in `unstoredChange`. An edit that needs a current
+/// application or an entry that is not there does nothing, not even a reload. Duplicates are not looked for.
 class SettingsViewModel {
   public:
     /// Loads at once.
@@ -44,12 +43,12 @@ class SettingsViewModel {
         return currentApplication_;
     }
     [[nodiscard]] const Observable<AppBehaviorRule>& defaultBehavior() const { return defaultBehavior_; }
-    /// What holds for the current application; without one, the default.
+    /// The rule of the current application; without one, the default.
     [[nodiscard]] const Observable<AppBehaviorRule>& currentBehavior() const { return currentBehavior_; }
     [[nodiscard]] const Observable<std::vector<AppBehaviorSetting>>& appBehaviorSettings() const {
         return appBehaviorSettings_;
     }
-    /// Those of every application.
+    /// The rules of every application.
     [[nodiscard]] const Observable<std::vector<MenuBlacklistRule>>& menuBlacklistRules() const {
         return menuBlacklistRules_;
     }
@@ -61,7 +60,7 @@ class SettingsViewModel {
     [[nodiscard]] const Observable<std::vector<SettingsMenuCommandSetting>>& menuCommandSettings() const {
         return menuCommandSettings_;
     }
-    /// All of them, enabled or not.
+    /// All custom commands, enabled or not.
     [[nodiscard]] const Observable<std::vector<CustomCommand>>& customCommands() const {
         return customCommands_;
     }
@@ -73,16 +72,16 @@ class SettingsViewModel {
     [[nodiscard]] const Observable<bool>& commandShortcutOpensSettings() const {
         return commandShortcutOpensSettings_;
     }
-    /// Whether custom commands that fail are told by a notification.
+    /// Whether a notification reports custom commands that fail.
     [[nodiscard]] const Observable<bool>& notifiesOfCommandFailures() const {
         return notifiesOfCommandFailures_;
     }
     [[nodiscard]] const Observable<bool>& isAccessibilityTrusted() const { return isAccessibilityTrusted_; }
 
-    /// Why the last change could not be stored, one made elsewhere included; absent when it could.
+    /// The reason why the last change, here or elsewhere, could not be stored; absent when it could.
     [[nodiscard]] const UnstoredChange& unstoredChange() const { return unstoredChange_; }
 
-    /// Takes everything anew, in a fixed order.
+    /// Loads everything anew, in a fixed order.
     void reload();
 
     void setDefaultBehavior(AppBehaviorRule rule);
@@ -90,17 +89,17 @@ class SettingsViewModel {
     void setAppBehavior(AppBehaviorRule rule, const Text& bundleID);
     void removeAppBehavior(const Text& bundleID);
 
-    /// Hides the candidate's item in the current application. The path goes by its title, so one with a ">"
-    /// in an item's title is cut there too.
+    /// Hides the candidate's item in the current application. The path is made from its title, so a ">" in an
+    /// item's title splits it there too.
     void addMenuBlacklistRule(const Text& candidateID, MenuBlacklistMode mode);
     void removeMenuBlacklistRule(const Text& id);
 
     void saveMenuCommandAliases(const Text& settingID, const std::vector<Text>& aliases);
     void setMenuCommandFavorite(const Text& settingID, bool isFavorite);
 
-    /// Saves what the form holds, trimmed and otherwise unchecked, as a new command or over the one that is
-    /// being edited. Whether the form applies to the current application is decided anew each time. False,
-    /// and nothing is saved, when the edited command is gone or there is no application to apply it to.
+    /// Saves the form, trimmed and otherwise unchecked, as a new command or over the one that is being
+    /// edited. Whether the form applies to the current application is decided anew each time. Returns false
+    /// and saves nothing when the edited command is gone or there is no application to apply it to.
     bool saveCustomCommand(const CustomCommandForm& form);
     void deleteCustomCommand(const Text& id);
 

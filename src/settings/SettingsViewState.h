@@ -10,8 +10,8 @@
 
 namespace tovrel {
 
-/// What the settings' view keeps besides the model: which page is open, what is selected, what is typed into
-/// the forms; and what its buttons do. A new view starts with a new state.
+/// The state of the settings' view besides the model (the open page, the selection, the contents of the
+/// forms), and the actions of its buttons. A new view starts with a new state.
 class SettingsViewState {
   public:
     explicit SettingsViewState(std::shared_ptr<SettingsViewModel> viewModel);
@@ -19,7 +19,7 @@ class SettingsViewState {
     [[nodiscard]] SettingsViewModel& viewModel() { return *viewModel_; }
     [[nodiscard]] const SettingsViewModel& viewModel() const { return *viewModel_; }
 
-    // The view binds to these, and writes what the user does back with `set`.
+    // The view binds to these, and writes the user's input back with `set`.
     Observable<MenuBlacklistMode> blacklistMode{MenuBlacklistMode::excludeSelfAndChildren};
     Observable<Text> selectedMenuCandidateID; ///< Empty: none.
     Observable<SettingsTab> selectedTab{SettingsTab::general};
@@ -46,9 +46,9 @@ class SettingsViewState {
 
     /// Fills the form with the command, if it is still there.
     void editCustomCommand(const Text& id);
-    /// Back to a new command; the kind stays.
+    /// Starts a new command; the kind stays.
     void clearCustomCommandForm();
-    /// Clears the form unless nothing could be saved.
+    /// Saves the command of the form and clears the form, unless nothing could be saved.
     void saveCustomCommand();
     void deleteCustomCommand(const Text& id);
 

@@ -11,13 +11,13 @@ namespace tovrel {
 /// Owns the settings window: made when it is first shown, kept when the user closes it.
 class SettingsWindowController {
   public:
-    /// Makes the window, hidden and with nothing in it: 920 x 620 points, not resizable, titled "Tovrel",
-    /// centred on the screen.
+    /// Makes the window, hidden and empty: 920 x 620 points, not resizable, titled "Tovrel", centred on the
+    /// screen.
     using WindowFactory = std::function<std::unique_ptr<SettingsWindow>()>;
 
     explicit SettingsWindowController(WindowFactory makeWindow) : makeWindow_(std::move(makeWindow)) {}
 
-    /// Shows a new view of the model, in the window's place if there is a window already.
+    /// Shows a new view of the model, in the existing window if there is one.
     void show(std::shared_ptr<SettingsViewModel> viewModel);
 
   private:

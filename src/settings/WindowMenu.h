@@ -8,7 +8,7 @@
 #include "support/LocalizedString.h"
 #include "support/Text.h"
 
-/// What the settings window does at a keystroke of its own.
+/// The settings window's own key combinations.
 namespace tovrel::window_menu {
 
 enum class Action { openSettings, closeWindow, quit };
@@ -21,7 +21,7 @@ struct Item {
 inline constexpr std::array items{Item{Action::openSettings, ","}, Item{Action::closeWindow, "w"},
                                   Item{Action::quit, "q"}};
 
-/// What the combination does; absent when no item has it.
+/// The action of the combination; absent when no item has it.
 [[nodiscard]] std::optional<Action> actionOf(const Shortcut& shortcut,
                                              const CharacterForKeyCode& characterForKeyCode);
 

@@ -41,7 +41,7 @@ CommandRankSignals CommandHistoryStore::rankSignals(const Text& commandID) {
 }
 
 std::shared_ptr<const CommandHistorySnapshot> CommandHistoryStore::snapshot() {
-    // The revision is read before the bytes: a change between the two is looked at again the next time.
+    // The revision is read before the bytes, so that the next call notices a change between the two.
     const std::uint64_t revision = userDefaults_.revision();
     if (snapshot_ && revision == checkedRevision_) {
         return snapshot_;
@@ -53,7 +53,7 @@ std::shared_ptr<const CommandHistorySnapshot> CommandHistoryStore::snapshot() {
             std::move(records).value_or(CommandHistorySnapshot::Records()));
         snapshotBytes_ = std::move(bytes);
     }
-    // What is not the document as it is now must be looked at again.
+    // After a read that failed, the next call must read again.
     checkedRevision_ = userDefaults_.lastReadSucceeded() ? std::optional(revision) : std::nullopt;
     return snapshot_;
 }
@@ -98,8 +98,8 @@ void CommandHistoryStore::save(CommandHistorySnapshot::Records records) {
     std::optional<std::string> written =
         stored_document::write(userDefaults_, storageKey_, [&] { return toJson(records); });
     if (written) {
-        // Kept only once it is stored. The revision has moved on, so the next reader compares the bytes, and
-        // decodes them if another process has replaced them meanwhile.
+        // The records are kept only once they are stored. The revision has moved on, so the next reader
+        // compares the bytes, and decodes them if another process has replaced them meanwhile.
         snapshot_ = std::make_shared<CommandHistorySnapshot>(std::move(records));
         snapshotBytes_ = std::move(written);
     }

@@ -33,7 +33,7 @@ class CommandHistorySnapshot {
     CommandHistorySnapshot() = default;
     explicit CommandHistorySnapshot(Records records) : records_(std::move(records)) {}
 
-    /// Not a favourite, count 0 and no time for a command without a record.
+    /// A command without a record is no favourite and has count 0 and no time.
     [[nodiscard]] CommandRankSignals rankSignals(const Text& commandID) const;
     [[nodiscard]] const Records& records() const { return records_; }
 
@@ -45,14 +45,14 @@ class CommandHistorySnapshot {
 /// document: an object with a member for each command id. An unreadable document reads as an empty history,
 /// and the next change replaces it; nothing is reported.
 ///
-/// Every answer is that of the document as it is now, whoever wrote it, yet the document is decoded only when
-/// its bytes have changed.
+/// Every answer reflects the present document, whoever wrote it, yet the document is decoded only when its
+/// bytes have changed.
 class CommandHistoryStore {
   public:
     /// The domain and the text services must outlive the store.
     CommandHistoryStore(PreferencesDomain& userDefaults, std::string storageKey, const TextServices& text);
 
-    /// What the ranking needs of one command. For many commands take a `snapshot` and ask that.
+    /// The signals of one command for the ranking. For many commands take a `snapshot` and ask that.
     [[nodiscard]] CommandRankSignals rankSignals(const Text& commandID);
 
     /// The present history. It does not change when the history does.
@@ -80,8 +80,8 @@ class CommandHistoryStore {
     const std::string storageKey_;
     const TextServices& text_;
 
-    // What was last read or written: the decoded document, its bytes (absent when there was no data), and the
-    // domain's revision before they were read (absent when they could not be).
+    // The last document read or written: decoded, as bytes (absent when there was no data), and the domain's
+    // revision before they were read (absent when they could not be).
     std::shared_ptr<const CommandHistorySnapshot> snapshot_;
     std::optional<std::string> snapshotBytes_;
     std::optional<std::uint64_t> checkedRevision_;

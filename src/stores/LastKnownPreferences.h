@@ -11,18 +11,18 @@
 
 namespace tovrel {
 
-/// Why the last change could not be stored; absent when it could, and before the first.
+/// The reason why the last change could not be stored; absent when it could, and before the first.
 using UnstoredChange = Observable<std::optional<PreferencesFailure>>;
 
-/// A domain for a program that must go on while its preferences cannot be read: a value is then what it was
-/// known to be last. It remembers as well whether the last change was stored, so that the user can be told.
+/// A domain for a program that must go on while its preferences cannot be read: it then answers with the last
+/// known value. It remembers as well whether the last change was stored, so that the user can be told.
 ///
-/// Nothing else differs from the domain it stands before: what could not be read cannot be set, so a value
-/// from memory never replaces what another process has stored meanwhile, and what was not stored is not
+/// In all else it behaves as the domain behind it: what could not be read cannot be set, so a value from
+/// memory never replaces what another process has stored meanwhile, and a change that was not stored is not
 /// remembered as if it were.
 class LastKnownPreferences : public PreferencesDomain {
   public:
-    /// The store must outlive the object. What it holds is known from now on.
+    /// The store must outlive the object. The object reads its values at once, as the first known ones.
     explicit LastKnownPreferences(PreferencesDomain& store);
 
     /// The stored value, or the last known one if it cannot be read: `lastReadSucceeded` tells.
@@ -30,7 +30,7 @@ class LastKnownPreferences : public PreferencesDomain {
     bool set(const std::string& key, const PreferenceValue& value) override;
     bool setAll(const std::vector<std::pair<std::string, PreferenceValue>>& values) override;
     bool remove(const std::string& key) override;
-    /// As they are stored, and nothing from memory.
+    /// The stored values, and nothing from memory.
     [[nodiscard]] std::vector<std::pair<std::string, PreferenceValue>> all() override { return store_.all(); }
     [[nodiscard]] std::uint64_t revision() override { return store_.revision(); }
     [[nodiscard]] bool lastReadSucceeded() const override { return store_.lastReadSucceeded(); }

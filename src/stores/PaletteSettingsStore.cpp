@@ -10,7 +10,7 @@ PaletteSettingsStore::PaletteSettingsStore(PreferencesDomain& defaults, const st
 
 void PaletteSettingsStore::setShowCheckedStatus(bool isShown) {
     showCheckedStatus_.set(isShown);
-    // What could not be read cannot be set: it may be readable by now.
+    // A value that could not be read cannot be set. It is read again, because it may be readable by now.
     static_cast<void>(defaults_->value(showCheckedStatusKey_));
     defaults_->set(showCheckedStatusKey_, isShown);
 }

@@ -51,7 +51,7 @@ AppBehaviorRule RulesStore::defaultBehavior() const {
 }
 
 void RulesStore::setDefaultBehavior(AppBehaviorRule rule) {
-    // What could not be read cannot be set: it may be readable by now.
+    // A value that could not be read cannot be set. It is read again, because it may be readable by now.
     static_cast<void>(defaults_.value(defaultAppBehaviorKey));
     stored_document::write(defaults_, defaultAppBehaviorKey, [rule] { return toJson(rule); });
 }

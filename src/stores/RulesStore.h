@@ -22,7 +22,7 @@ class RulesStore {
     /// The domain and the text services must outlive the store and its copies.
     RulesStore(PreferencesDomain& defaults, const TextServices& text);
 
-    /// How applications without an entry of their own behave.
+    /// The behaviour of applications without an entry of their own.
     [[nodiscard]] AppBehaviorRule defaultBehavior() const;
 
     /// Leaves the entries of single applications as they are, also those that now equal the default.
@@ -38,16 +38,16 @@ class RulesStore {
     /// Every entry, by bundle identifier as the user's locale orders it, ignoring case.
     [[nodiscard]] std::vector<AppBehaviorSetting> appBehaviorSettings() const;
 
-    /// In the order in which they were added.
+    /// The rules in the order in which they were added.
     [[nodiscard]] std::vector<MenuBlacklistRule> menuBlacklistRules() const;
 
-    /// Appends a rule with a fresh id, also when an equal one is there. Without a bundle identifier it is for
-    /// every application.
+    /// Appends a rule with a fresh id, also when an equal one is there. Without a bundle identifier it
+    /// applies to every application.
     void addMenuBlacklistRule(const std::optional<Text>& bundleID, const std::vector<Text>& path,
                               MenuBlacklistMode mode);
     void removeMenuBlacklistRule(const Text& id);
 
-    /// In the order in which they were last set.
+    /// The rules in the order in which they were last set.
     [[nodiscard]] std::vector<MenuCommandAliasRule> menuCommandAliasRules() const;
 
     /// Replaces the aliases of one menu command, normalised; its rule moves to the end of the list. Without
@@ -55,7 +55,7 @@ class RulesStore {
     void setMenuCommandAliases(const std::optional<Text>& bundleID, const std::vector<Text>& path,
                                const std::vector<Text>& aliases);
 
-    /// The aliases trimmed, without empty ones, and of those alike but for case only the first.
+    /// The aliases trimmed, without empty ones, and only the first of those that differ in case alone.
     [[nodiscard]] std::vector<Text> normalizedAliases(const std::vector<Text>& aliases) const;
 
   private:

@@ -7,19 +7,19 @@
 #include "platform/PreferencesDomain.h"
 #include "support/JsonDocument.h"
 
-/// How every store keeps a JSON document: as a data value under one key, read and written whole, silently.
+/// Every store keeps its JSON document as a data value under one key, read and written whole, silently.
 namespace tovrel::stored_document {
 
-/// The decoded document; absent when the key is, when it holds no data, or when decoding fails in any way.
-/// `decode` takes a json::Value and may throw json::DecodeError.
+/// The decoded document; absent when the key does not exist, when it holds no data, or when decoding fails in
+/// any way. `decode` takes a json::Value and may throw json::DecodeError.
 template <typename Decode>
 auto read(PreferencesDomain& domain, const std::string& key, const Decode& decode) {
     const std::optional<std::string> bytes = dataValue(domain, key);
     return bytes ? json::decodeDocument(*bytes, decode) : std::nullopt;
 }
 
-/// Replaces the document by what `encode` returns. Absent when that has no JSON form (`encode` throws
-/// json::EncodeError) or could not be stored: the document before stays. Otherwise the bytes written.
+/// Replaces the document by what `encode` returns, and returns the bytes written. Absent when that has no
+/// JSON form (`encode` throws json::EncodeError) or could not be stored: the document before stays.
 template <typename Encode>
 std::optional<std::string> write(PreferencesDomain& domain, const std::string& key, const Encode& encode) {
     try {

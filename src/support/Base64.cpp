@@ -47,7 +47,7 @@ std::optional<std::string> bytesFromBase64(std::string_view text) {
             bytes += static_cast<char>(pending >> bits & 0xFFU);
         }
     }
-    // One text for each sequence of bytes: wrong padding, stray bits and missing digits all end here.
+    // Each sequence of bytes has one text only, so this refuses wrong padding, stray bits and missing digits.
     return base64From(bytes) == text ? std::optional(std::move(bytes)) : std::nullopt;
 }
 

@@ -5,9 +5,9 @@
 
 #include "support/Fatal.h"
 
-/// Arithmetic on scores and counts that never wraps. What the program itself has counted cannot overflow
-/// unless it is broken, and that is fatal. A number from the preferences may be any: one that is damaged must
-/// not end the program at each start, so sums over such numbers stop at the largest or least there is.
+/// Arithmetic on scores and counts that never wraps. The program's own counts cannot overflow unless it is
+/// broken, and that is fatal. A number from the preferences may have any value, and a damaged one must not
+/// end the program at each start, so sums over such numbers stop at the largest or least value there is.
 namespace tovrel {
 
 /// Sum of two of the program's own numbers; an overflow ends the process.

@@ -11,7 +11,8 @@
 namespace tovrel {
 namespace {
 
-/// Costly to make, while a text may be cut thousands of times in a row. Null when ICU lacks its data.
+/// Kept, because it is costly to make and a text may be cut thousands of times in a row. Null without ICU's
+/// data.
 icu::BreakIterator* clusterIterator() {
     static thread_local UErrorCode status = U_ZERO_ERROR;
     static thread_local const std::unique_ptr<icu::BreakIterator> iterator(
@@ -47,7 +48,7 @@ std::string_view wholeClusters(std::string_view text, std::size_t maximumBytes) 
     if (text.size() <= maximumBytes) {
         return text;
     }
-    // What decides whether a cluster ends at a place lies closely behind it.
+    // The text shortly after a place decides whether a cluster ends there.
     constexpr std::size_t context = 64;
     const std::string_view start = text.substr(0, maximumBytes + context);
     const std::size_t end = clusterBoundary(start, maximumBytes);

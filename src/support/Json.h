@@ -13,24 +13,24 @@
 #include "support/Text.h"
 
 /// JSON documents as this program reads and writes them: compact UTF-8, absent optionals left out, unknown
-/// members ignored, a value of the wrong type spoils the whole document.
+/// members ignored. A value of the wrong type makes the whole document invalid.
 namespace tovrel::json {
 
 using Value = nlohmann::json;
 
-/// Why a document could not be decoded. Thrown inside decoders only; `decodeDocument` (JsonDocument.h) is
-/// where it ends.
+/// A document could not be decoded. Thrown inside decoders only; `decodeDocument` (JsonDocument.h) catches
+/// it.
 class DecodeError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
 
-/// Arrays and objects may be nested this deep; deeper documents are refused before anything recurses on them.
+/// The deepest nesting of arrays and objects; deeper documents are refused before anything recurses on them.
 inline constexpr int maximumDepth = 512;
 
-/// The parsed document, a fragment such as a bare string included.
-/// Throws DecodeError: not JSON to its last byte (which comments are not, nor what follows a NUL), not UTF-8,
-/// or nested deeper than `maximumDepth`.
+/// Parses a document, which may be a fragment such as a bare string. Throws DecodeError when it is not JSON
+/// to its last byte (comments are not, nor what follows a NUL), not UTF-8, or nested deeper than
+/// `maximumDepth`.
 Value parse(std::string_view bytes);
 
 /// Typed reads. Each throws DecodeError when the value has another type. An integer may be written with a
@@ -57,10 +57,10 @@ const Value& requireObject(const Value& value);
 
 Value toJson(const Text& text);
 Value toJson(const std::vector<Text>& texts);
-/// A whole number of seconds is written without a fraction. Not a finite time: throws EncodeError.
+/// Writes a whole number of seconds without a fraction. Throws EncodeError for a time that is not finite.
 Value toJson(PointInTime time);
 
-/// Why a value has no JSON form.
+/// A value has no JSON form.
 class EncodeError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;

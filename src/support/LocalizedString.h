@@ -6,13 +6,13 @@
 
 namespace tovrel {
 
-/// The text in the user's language that stands for a key. The context, where a text is used, tells apart keys
-/// that are spelled alike. A key that has no text stands for itself: most keys are the English text.
+/// Gives the text for a key in the user's language. The context, which is the place a text is used in, tells
+/// apart keys that are spelled alike. A key without a text stands for itself: most keys are the English text.
 ///
-/// Calls are written `localized("Context", "Key")`, with literals: so translators' tools find them.
+/// Write calls as `localized("Context", "Key")`, with literals, so that translators' tools find them.
 using LocalizedString = std::function<Text(const char* context, const char* key)>;
 
-/// The format with its one place for a text, "%@", filled.
+/// The format with its one placeholder, "%@", replaced by the argument.
 [[nodiscard]] Text filled(const Text& format, const Text& argument);
 
 } // namespace tovrel

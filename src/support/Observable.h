@@ -77,7 +77,7 @@ class ObserverList {
     std::shared_ptr<Observers> observers_ = std::make_shared<Observers>();
 };
 
-/// A value that tells its observers of every assignment, also of one that changes nothing.
+/// A value that tells its observers of every assignment, also of one that does not change it.
 template <typename T>
 class Observable {
   public:
@@ -92,7 +92,7 @@ class Observable {
         observers_.notify();
     }
 
-    /// Observing leaves the value as it is, so that a reader may.
+    /// A reader may observe, because that does not change the value.
     [[nodiscard]] Subscription subscribe(std::function<void()> observer) const {
         return observers_.subscribe(std::move(observer));
     }

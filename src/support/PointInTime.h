@@ -8,7 +8,7 @@ namespace tovrel {
 struct PointInTime {
     double secondsSinceReferenceDate = 0;
 
-    // A rewritten comparison with 0 is mistaken for one with a null pointer by clang-tidy 14.
+    // clang-tidy 14 mistakes a rewritten comparison with 0 for one with a null pointer.
     // NOLINTNEXTLINE(modernize-use-nullptr)
     friend auto operator<=>(const PointInTime&, const PointInTime&) = default;
 };

@@ -89,7 +89,7 @@ std::string printableLines(std::string_view text) {
 }
 
 std::string printableJson(std::string_view json) {
-    // Below U+007F the writer has escaped what stands in a string; between values there is white space.
+    // The writer has escaped controls below U+007F within strings; between values they are white space.
     return replaced(
         json, [](char32_t codePoint) { return codePoint >= deleteCharacter && isHarmful(codePoint); },
         escaped);

@@ -46,7 +46,7 @@ class Text {
 /// The texts in order with `separator` between each two.
 Text joined(const std::vector<Text>& texts, std::string_view separator);
 
-/// Without the white space and line breaks (the Unicode property White_Space) at both ends.
+/// The text without the white space and line breaks (the Unicode property White_Space) at both ends.
 Text trimmed(const Text& text);
 
 } // namespace tovrel

@@ -78,7 +78,8 @@ icu::UnicodeString withoutDiacritics(const icu::UnicodeString& decomposed) {
     return result;
 }
 
-/// The clusters of a text in which every code point is one, as in nearly all; absent when it may not be so.
+/// The clusters of a text in which every code point is a cluster, as in nearly all; absent when that is
+/// unsure.
 std::optional<std::vector<std::string_view>> simpleClusters(std::string_view text) {
     std::vector<std::string_view> clusters;
     clusters.reserve(text.size());
@@ -99,7 +100,7 @@ std::optional<std::vector<std::string_view>> simpleClusters(std::string_view tex
     return clusters;
 }
 
-/// Whether this is what ICU makes of "C", "POSIX", "C.UTF-8" and of no locale at all.
+/// Whether this is the locale that ICU makes of "C", "POSIX", "C.UTF-8" and of no locale at all.
 bool isPosix(const icu::Locale& locale) {
     return std::string_view(locale.getVariant()) == "POSIX" || std::string_view(locale.getLanguage()) == "c";
 }

@@ -10,12 +10,12 @@
 
 namespace tovrel {
 
-/// What the program needs of Unicode and of the user's locale: folding, case mapping, transliteration and the
-/// order in which titles are shown. Built once by the composition root, because the transliterator and the
-/// collator are costly to open (tens of milliseconds); used from one thread.
+/// Services for Unicode and the user's locale: folding, case mapping, transliteration and the order in which
+/// titles are shown. Built once by the composition root, because the transliterator and the collator are
+/// costly to open (tens of milliseconds); used from one thread.
 class TextServices {
   public:
-    /// For a locale such as "de_DE", "tr" or "sr-Latn"; an empty identifier takes the process environment's.
+    /// Takes a locale such as "de_DE", "tr" or "sr-Latn"; an empty identifier means the environment's.
     /// An unknown locale behaves as the root locale does, and so do "C" and "POSIX", which say nothing about
     /// the language: ICU would order their titles by ASCII.
     explicit TextServices(std::string_view localeIdentifier = {});
@@ -47,7 +47,7 @@ class TextServices {
     [[nodiscard]] static bool hasNonLatinScript(std::string_view text);
 
     /// The text of any script in Latin letters (ICU's Any-Latin), e.g. "Файл" as "Fajl"; it may carry
-    /// diacritics. Absent when the transliteration is not to be had.
+    /// diacritics. Absent when the transliteration is not available.
     [[nodiscard]] std::optional<std::string> transliteratedToLatin(std::string_view text) const;
 
     /// The extended grapheme clusters (Unicode Standard Annex 29) of a text, what a user perceives as its

@@ -94,7 +94,7 @@ TEST_F(Program, ResultsGoToStandardOutputAlone) {
     EXPECT_THAT(output_, HasSubstr("search"));
 }
 
-TEST_F(Program, TheLocaleIsThatOfTheSearch) {
+TEST_F(Program, TheLocaleOptionDecidesWhatASearchFinds) {
     const std::string recording = R"({"AXMenuBar":{"AXChildren":[{"AXTitle":"F","AXChildren":
         [{"AXTitle":"ILIK"}]}]}})";
     EXPECT_EQ(run({"search", "ılık", "--recording", "-", "--locale", "tr"}, recording), 0);
@@ -163,7 +163,7 @@ TEST_F(Program, OutputThatCannotBeWrittenFails) {
     EXPECT_EQ(error_, "tovrel: the output cannot be written\n");
 }
 
-TEST_F(Program, AReaderThatHasEnoughIsNoReasonToComplain) {
+TEST_F(Program, AReaderThatClosesItsEndCausesNoErrorLine) {
     std::array<int, 2> ends{};
     ASSERT_EQ(pipe2(ends.data(), O_CLOEXEC), 0);
     close(ends[0]);

@@ -80,7 +80,7 @@ TEST_F(CommandIndexTest, LeavesBecomeCommandsAndCarryTheirHistory) {
     EXPECT_EQ(commands[1].subtitle, "File › Export");
 }
 
-TEST_F(CommandIndexTest, WhatIsNoCommand) {
+TEST_F(CommandIndexTest, SystemMenusContainersAndUntitledItemsAreNoCommands) {
     ScannedMenuItem untitled = item({"File", "x"});
     untitled.title = "";
     const std::vector<ScannedMenuItem> items{

@@ -16,7 +16,7 @@ std::set<std::string> nonEmpty(std::set<std::string> keys) {
     return keys;
 }
 
-TEST(CommandKeys, PutTogetherFromTitlesTheyAreThoseOfTheWholeTexts) {
+TEST(CommandKeys, KeysComposedFromTitlesEqualThoseOfTheWholeTexts) {
     std::mt19937 random(4242); // a fixed seed: a failure can be repeated
     const TextServices english("en_US");
     const TextServices turkish("tr_TR");

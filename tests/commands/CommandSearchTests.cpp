@@ -69,7 +69,7 @@ TEST_F(CommandSearchTest, BoostsAddUpAndRank) {
     damaged.rankSignals.usageCount = -1000;
     EXPECT_EQ(found("satu", {damaged, menuCommand({"Sa", "Txxxu"})}),
               (Rows{{"Txxxu", 320}, {"Saturn", 780 - 8000}}));
-    // However low it is, the command is found and the others are ranked.
+    // However low its score is, the command is found and the others are ranked.
     damaged.rankSignals = {.isFavorite = true, .usageCount = -2'000'000'000'000'000'000, .lastUsedAt = {}};
     EXPECT_EQ(found("satu", {damaged, menuCommand({"Sa", "Txxxu"})}),
               (Rows{{"Txxxu", 320}, {"Saturn", INT64_MIN + 120 + 780}}));
@@ -105,7 +105,8 @@ TEST_F(CommandSearchTest, EqualScoresGoByTitleThenByMenuOrder) {
 }
 
 TEST_F(CommandSearchTest, GraphemeClustersCountAsOneCharacter) {
-    // Each letter with its vowel sign is one character of the limit, and never matched by the bare letter.
+    // Each letter with its vowel sign counts as one character for the limit, and the bare letter never
+    // matches it.
     const std::vector<Command> commands{menuCommand({"अ", "किxxxxमी"})};
     EXPECT_EQ(found("किमी", commands).size(), 1U);
     EXPECT_EQ(found("किम", commands), Rows{});

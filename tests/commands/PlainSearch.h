@@ -12,7 +12,7 @@
 #include "support/TextServices.h"
 
 /// Search and ranking written down as directly as possible, text by text and with nothing precomputed or
-/// skipped: what the index must agree with.
+/// skipped. The index must agree with it.
 namespace tovrel::plain {
 
 struct Result {

@@ -60,7 +60,7 @@ TEST(SearchKeys, OtherScriptsHaveALatinVariantToo) {
               (TextKeys{"editioncoller", std::nullopt}));
     EXPECT_FALSE(searchVariants("Insert", english).byDefault);
     EXPECT_FALSE(TextServices::hasNonLatinScript("Édition › … ½"));
-    // What is passed over because it is all Latin is what transliteration leaves as it is.
+    // Transliteration leaves these texts unchanged, so they may be passed over as all Latin.
     for (const char* text : {"Édition…", "Œuvre ‘x’", "naïve – ½ ²", "ﬁn", "Ｆｉｌｅ"}) {
         EXPECT_EQ(english.transliteratedToLatin(text), text);
     }

@@ -1,5 +1,5 @@
-"""The user's own commands while they run: nothing waits for them, each failure is told, and each starts as the
-program itself was started."""
+"""The user's own commands while they run: nothing waits for them, each failure is reported, and each starts in the
+environment that the program itself was started in."""
 
 import os
 import signal
@@ -10,7 +10,7 @@ from harness.palette_testing import PaletteTestCase, main
 from harness.process_tree import descendants, is_alive
 
 SIGNALS = "grep -E '^Sig(Blk|Ign)' /proc/self/status"
-# What a shell sets by itself.
+# The variables that a shell sets by itself.
 OF_THE_SHELL = {"_", "PWD", "OLDPWD", "SHLVL", "LOGNAME"}
 
 
@@ -20,7 +20,7 @@ class CustomCommandTests(PaletteTestCase):
         self.editor, _ = self.open_text("mousepad", "")
 
     def have_commands(self, *commands):
-        """Each a word to find it by, a kind and a payload."""
+        """Stores commands, each given by a word to find it by, a kind and a payload."""
         self.store("customCommands", [{"id": word, "title": f"<b>&{word}", "kind": kind, "payload": payload, "aliases": [],
                                        "isEnabled": True} for word, kind, payload in commands])
 
@@ -45,7 +45,7 @@ class CustomCommandTests(PaletteTestCase):
         """Waits until the resident program has taken note of the end of every process it started."""
         children = Path(f"/proc/{self.resident.pid}/task/{self.resident.pid}/children")
         self.wait_until(lambda: not children.read_text(encoding="utf-8"), "all commands to have ended")
-        self.resident.status()  # Answered after what was to be done then.
+        self.resident.status()  # The answer comes after the ends were handled.
 
     @staticmethod
     def command_line(pid):
@@ -87,7 +87,7 @@ class CustomCommandTests(PaletteTestCase):
                            ("succeeds", "shellScript", "true"), ("missing", "appleScript", "beep"))
         self.start_resident()
         self.choose("crashes")
-        self.wait_until_all_have_ended()  # Nobody shows notifications yet, so it is told to nobody.
+        self.wait_until_all_have_ended()  # There is no notification server yet, so nobody is told.
         for reads_markup, title in ((False, "<b>&"), (True, "&lt;b&gt;&amp;")):
             server = NotificationServer(self.desktop.environment["DBUS_SESSION_BUS_ADDRESS"], reads_markup)
             expected = []

@@ -1,4 +1,4 @@
-"""Which application is meant when none is named, and what is said when there is none."""
+"""The application that is meant when none is named, and the answer when there is none."""
 
 import tempfile
 
@@ -30,7 +30,7 @@ class FrontApplicationTests(DesktopTestCase):
                 self.assert_fails_in_one_line(self.tovrel.run(*verb), mentioning="xterm")
         found = self.tovrel.run("search", "--json", "save")
         self.assertEqual((found.status, found.json), (1, [[]]))
-        # The editor behind it is still within reach by name.
+        # The editor behind it can still be reached by name.
         self.tovrel.expect("menus", "--pid", editor.pid)
         self.tovrel.expect("menus", "--app", "org.xfce.mousepad")
 

@@ -1,4 +1,4 @@
-"""Applications that hang or vanish cost a bounded time and a clear word, never a hang of our own."""
+"""Applications that hang or vanish cost a bounded time and a clear message, and never hang this program."""
 
 import subprocess
 

@@ -9,7 +9,7 @@ from harness.palette_testing import HOT_KEY, PaletteTestCase, main
 from harness.process_tree import descendants
 from harness.stalled_thread import stalled_main_thread
 
-# What a user may have to wait for a key, with room for a busy machine.
+# The longest a user may wait for a key, with room for a busy machine.
 SOON = 2.0
 
 
@@ -44,7 +44,7 @@ class KeyboardGuardTests(PaletteTestCase):
 
         def arrived():
             if self.desktop.front_window() == self.editor.window:
-                return self.editor.text() == "abcde"  # The palette, not yet shown, has nothing to say.
+                return self.editor.text() == "abcde"  # The palette is not shown yet and cannot answer.
             return self.resident.query() == "abcde"
 
         self.wait_until(arrived, "all letters in one place", timeout=SOON)

@@ -1,5 +1,5 @@
 """What the palette lists and runs: states of menu items, the user's own commands, applications that are left
-alone, and what is there without accessibility."""
+alone, and the list without accessibility."""
 
 import subprocess
 
@@ -77,7 +77,7 @@ class ForwardingTests(PaletteTestCase):
         self.store("rules.appBehaviors", {"debian-xterm": "disabled"})
         terminal = self.launch("xterm", accessible=False)
         terminal.bring_to_front()
-        # Keys go to the window below the pointer within the focused one: not to be outdone by a part of it.
+        # The window is placed off the pointer, because a child window below the pointer would get the keys.
         self.desktop.windows.place(terminal.window, 0, 0, 400, 300)
         keys = self.directory / "keys.txt"
         with open(keys, "wb") as log:
@@ -89,7 +89,7 @@ class ForwardingTests(PaletteTestCase):
         self.start_resident()
         for turn in (1, 2):
             self.press(*HOT_KEY)
-            # Control and Shift are held with it: 0x5.
+            # State 0x5: Control and Shift are held with it.
             self.wait_until(lambda: self._presses(keys, "state 0x5, keycode 33 (keysym 0x50, P)") == turn,
                             "the keystroke to arrive")
             self.wait_until(lambda: not self.keyboard.is_any_key_down(), "the keys to be up")

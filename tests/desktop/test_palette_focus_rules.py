@@ -6,7 +6,7 @@ TEXT = "the quick brown fox\n"
 
 
 class FocusRules:
-    """What must hold under each window manager."""
+    """The rules that must hold under each window manager."""
 
     def test_it_takes_the_keyboard_and_gives_it_back(self):
         editor, _ = self.open_text("mousepad", TEXT)
@@ -40,7 +40,7 @@ class FocusRules:
                 self.wait_until(self.keyboard.can_pointer_be_grabbed, "the pointer to be free")
                 left, top, *_ = windows.geometry(self.resident.window)
                 windows.point_at(left + 20, top + 300)
-                # Answered after what the window manager makes of it.
+                # These keys are answered after the window manager has handled the pointer.
                 self.type("x")
                 self.press("BackSpace")
                 self.wait_until(lambda: self.resident.query() == "", "an empty search field")
@@ -92,13 +92,13 @@ class OpenboxTests(FocusRules, PaletteTestCase):
 
 
 class MetacityTests(FocusRules, PaletteTestCase):
-    """Gives a window that is shown the focus only if it tells by which key press it was caused."""
+    """Metacity gives a new window the focus only if the window names the key press that caused it."""
 
     window_manager = ("metacity", "--sm-disable")
 
 
 class Xfwm4Tests(FocusRules, PaletteTestCase):
-    """Is its own compositor, as it is set up by default."""
+    """Xfwm4 is its own compositor in its default setup."""
 
     window_manager = ("xfwm4",)
 

@@ -1,5 +1,5 @@
 """Preferences that another program holds, that cannot be used or that a later version wrote: the hot key works,
-every key arrives, and what could not be stored is told."""
+every key arrives, and a change that could not be stored is reported."""
 
 import contextlib
 import fcntl
@@ -48,7 +48,7 @@ class PreferencesTroubleTests(PaletteTestCase):
         return SettingsWindow(self.desktop, self.resident, self.keyboard)
 
     def press_and_type(self, text):
-        """The hot key and what is typed after it, in one instant."""
+        """Presses the hot key and types the text, in one instant."""
         self.keyboard.chord(*HOT_KEY).type(text).send()
         self.wait_until(lambda: self.resident.query() == text, f"{text!r} in the search field")
 
@@ -138,7 +138,7 @@ class PreferencesTroubleTests(PaletteTestCase):
         self.addCleanup(other.close)
         self.assertTrue(other.take_hot_key("p"))
         self.file.mkdir()
-        # Both the hot key that is taken and the preferences that cannot be used would be told.
+        # Both the taken hot key and the unusable preferences would be reported.
         self.start_resident(prints_to="/dev/full")
         self.tovrel.expect("toggle")
         self.wait_until(self.resident.has_focus, "the palette to open")

@@ -4,7 +4,7 @@ from harness.menu_witness import menu_entry
 from harness.palette_testing import HOT_KEY, PaletteTestCase, main
 
 TEXT = "the quick brown fox\n"
-# An application's identifier, and the letters by which a command is found that changes the text.
+# An application's identifier, and the letters that find a command which changes the text.
 EDITORS = {"mousepad": ("org.xfce.mousepad", "delete line"), "featherpad": ("featherpad", "date and time")}
 
 

@@ -1,4 +1,4 @@
-"""The palette on a desktop with two screens: it appears on that of the application in front."""
+"""The palette on a desktop with two screens: it appears on the screen of the application in front."""
 
 import subprocess
 
@@ -10,7 +10,7 @@ WINDOW = (700, 500)
 
 
 class ScreenTests(PaletteTestCase):
-    """One framebuffer, of which a smaller and a larger part are monitors of their own."""
+    """One framebuffer with two monitors, a smaller and a larger part of it."""
 
     size = (2600, 900)
     screens = {"left": (0, 0, 1280, 800), "right": (1280, 0, 1320, 900)}
@@ -19,7 +19,7 @@ class ScreenTests(PaletteTestCase):
     def setUpClass(cls):
         super().setUpClass()
         require("xrandr")
-        # The first takes the output there is away from the monitor that covers everything.
+        # The first monitor takes the only output from the monitor that covers everything.
         for (name, (x, y, width, height)), output in zip(cls.screens.items(), ("screen", "none")):
             subprocess.run(["xrandr", "--setmonitor", name, f"{width}/320x{height}/200+{x}+{y}", output],
                            env=cls.desktop.environment, check=True, timeout=20, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)

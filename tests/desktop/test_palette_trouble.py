@@ -1,5 +1,5 @@
-"""Applications that hang or die, preferences that make no sense, a hot key that is taken: nothing hangs and
-nothing ends."""
+"""Applications that hang or die, invalid preferences, a hot key that is taken: the program neither hangs
+nor ends."""
 
 import signal
 import subprocess
@@ -40,7 +40,7 @@ class TroubleTests(PaletteTestCase):
                 self.press("Escape")
                 self.wait_until_closed()
 
-    def test_preferences_that_make_no_sense(self):
+    def test_invalid_preferences(self):
         self.open_text("mousepad", TEXT)
         key = "KeyboardShortcuts_togglePalette"
         for value in (("--bool", "false"), ("--bool", "true"), ("--string", "nonsense"),

@@ -1,4 +1,4 @@
-"""What the search field makes of keys that are no letters by themselves."""
+"""The text that the search field gets from keys that are no letters by themselves."""
 
 import subprocess
 
@@ -17,7 +17,7 @@ class TypingTests(PaletteTestCase):
     def test_dead_keys_of_a_layout_that_is_chosen_meanwhile(self):
         self._use_layout("fr", "oss")
         self.addCleanup(self._use_layout, "us", "")
-        # Where keys are was read when the other one was made.
+        # A new keyboard, because the other one has read the positions of the keys when it was made.
         self.keyboard = Keyboard(self.desktop.environment)
         self.addCleanup(self.keyboard.close)
         self.open_palette()

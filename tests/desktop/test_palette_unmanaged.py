@@ -6,7 +6,7 @@ TEXT = "the quick brown fox\n"
 
 
 class UnmanagedTests(PaletteTestCase):
-    """Nobody but the applications themselves moves the focus."""
+    """Only the applications themselves move the focus."""
 
     window_manager = None
 

@@ -1,4 +1,4 @@
-"""When the palette opens, stays and goes away, and what it leaves behind."""
+"""The palette opens, stays and closes when it should, and leaves nothing behind."""
 
 import os
 from pathlib import Path
@@ -61,7 +61,7 @@ class WindowTests(PaletteTestCase):
             self.keyboard.chord(*HOT_KEY)
         self.keyboard.send()
         self.wait_until(lambda: self.keyboard.can_be_grabbed(), "the keyboard to be free")
-        # Whoever presses a key twice within some milliseconds may be taken for having pressed it once.
+        # Two presses within some milliseconds may count as one.
         if self.resident.is_open():
             self.wait_until(self.resident.has_focus, "the palette to be in front")
             self.press("Escape")
@@ -71,7 +71,7 @@ class WindowTests(PaletteTestCase):
         self.assertEqual(self.editor.text().strip(), TEXT.strip())
         descriptors, memory = self._resources()
         self.assertLessEqual(descriptors, before[0])
-        # A sanitizer keeps what was freed.
+        # A sanitizer keeps freed memory.
         if "TOVREL_TEST_SANITIZED" not in os.environ:
             self.assertLess(memory, before[1] + 8 * 1024, "KiB")
         self.open_palette()

@@ -67,8 +67,8 @@ class PreferencesInSearchTests(DesktopTestCase):
         self.assert_fails_in_one_line(self.tovrel.run("preferences", "read", "greeting"), mentioning="greeting")
 
     def test_what_was_written_survives_a_kill_at_any_moment(self):
-        # Each round a shell counts up under one key until it is killed with the writer in whatever state; the
-        # last number that was confirmed, or the one being written, must be there.
+        # In each round a shell counts up under one key until it is killed, with the writer in whatever state. The
+        # last confirmed number, or the one being written, must be stored.
         choice = random.Random(20240229)
         counter = '''i=$1; while "$0" preferences write count --json "$i" && echo "$i"; do i=$((i+1)); done'''
         confirmed = 0

@@ -1,4 +1,4 @@
-"""The private desktop keeps its promises: it is private, and nothing of it remains."""
+"""The private desktop is private, and nothing of it remains."""
 
 import os
 import shutil
@@ -51,7 +51,7 @@ class PrivateDesktopTests(unittest.TestCase):
             self.assertNotIn("SECRET_OF_THE_SESSION", names)
             for name in ("HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "DBUS_SESSION_BUS_ADDRESS", "DISPLAY"):
                 self.assertIn(f"{name}={desktop.environment[name]}".encode(), seen)
-            # Nor may another program of this user look at its screen.
+            # Another program of this user cannot look at its screen either.
             stranger = {"PATH": os.environ["PATH"], "DISPLAY": desktop.environment["DISPLAY"]}
             refused = subprocess.run(["xprop", "-root"], env=stranger, capture_output=True, check=False)
             self.assertNotEqual(refused.returncode, 0)

@@ -7,7 +7,7 @@ TEXT = "the quick brown fox\n"
 
 
 def titled_entries(items):
-    """Every titled item of the program's tree, in order, menus before what they hold."""
+    """Every titled item of the program's tree, in order, each menu before its items."""
     for item in items:
         if item["title"]:
             yield MenuEntry(tuple(item["menuPath"]), item["isEnabled"])
@@ -30,7 +30,7 @@ class ReadingTests(DesktopTestCase):
         application, _ = self.open_text("featherpad", TEXT)
         commands = {tuple(command["menuPath"]): command
                     for command in self.tovrel.expect("commands", "--json", "--pid", application.pid).json}
-        # Ctrl reads as the Command glyph: what is stored and matched is the same on every platform.
+        # Ctrl reads as the Command glyph, because stored and matched shortcuts are the same on every platform.
         self.assertEqual(commands["Edit", "Select All"]["shortcut"], "⌘A")
         self.assertEqual(commands["File", "Save As"]["shortcut"], "⌘⇧S")
         self.assertEqual(commands["File", "Save"]["isEnabled"], False)
@@ -86,7 +86,7 @@ class PressingTests(DesktopTestCase):
                              if window != application.window], f"the dialog {title}")
                 self.assertIn(title, self.desktop.windows.title(dialog[0]))
 
-    def test_a_dialog_that_keeps_the_user_from_the_menus_keeps_presses_off(self):
+    def test_a_modal_dialog_keeps_presses_from_the_menus(self):
         for editor in ("mousepad", "featherpad"):
             with self.subTest(editor=editor):
                 application, _ = self.open_text(editor, TEXT)
@@ -96,7 +96,7 @@ class PressingTests(DesktopTestCase):
                 self.wait_until(lambda: self.desktop.windows.active() not in (None, application.window) and
                                 len(self.windows_of(application)) == 2, "the dialog")
                 self.assert_fails_in_one_line(self.tovrel.run("press", *source, command))
-                # What had been pressed by mistake would be carried out before this is answered.
+                # The application would carry out a mistaken press before it answers this.
                 self.tovrel.expect("menus", *source)
                 self.assertEqual(len(self.windows_of(application)), 2)
                 self.desktop.windows.press_keys("Escape")

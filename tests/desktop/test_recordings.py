@@ -23,7 +23,7 @@ class RecordingTests(DesktopTestCase):
                     self.assertEqual(
                         self.tovrel.expect(verb[0], "--json", "--recording", recording, *verb[1:]).json, live)
                     self.assertTrue(live)
-                # What is read from a file needs no desktop.
+                # A recording from a file needs no desktop.
                 bare = {"PATH": self.desktop.environment["PATH"], "HOME": str(self.directory)}
                 self.assertEqual(
                     self.tovrel.expect("search", "--json", "--recording", recording, "--", *QUERIES,

@@ -7,7 +7,7 @@ from harness.testing import DesktopTestCase, main
 
 
 class RegistrarTestCase(DesktopTestCase):
-    """Tests on a desktop whose session bus would start a registrar for whoever calls it."""
+    """Tests on a desktop whose session bus would start a registrar for any caller."""
 
     def setUp(self):
         super().setUp()

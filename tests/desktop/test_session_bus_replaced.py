@@ -1,4 +1,4 @@
-"""The resident program stays within reach when the session bus goes, comes back, or serves two displays."""
+"""The resident program can be reached when the session bus is gone, is back, or serves two displays."""
 
 import subprocess
 
@@ -40,7 +40,7 @@ class SessionBusTests(PaletteTestCase):
         self.assertEqual((self.resident.output, self.resident.errors), ("", ""))
         self.assert_fails_in_one_line(self.tovrel.run("status"), "not running")
 
-    def test_what_a_killed_one_left_is_no_obstacle(self):
+    def test_the_remains_of_a_killed_program_are_no_obstacle(self):
         for _ in range(2):
             self.start_resident()
             self.resident.process.kill()

@@ -1,4 +1,4 @@
-"""The settings window, driven by real keys: what each edit stores, and what it does to the palette that is
+"""The settings window, driven by real keys: the values that each edit stores, and its effect on the palette that is
 opened next."""
 
 import os
@@ -120,7 +120,7 @@ class SettingsTests(PaletteTestCase):
     def test_commands_of_each_kind_are_added_edited_and_deleted(self):
         self.start()
         self.open_settings("Commands")
-        # A new form opens things; what is to the left and right of that is reached from there.
+        # The kind of a new form is to open something; the other kinds are so many steps to its left and right.
         fields = {"shellScript": ("Shell command or script path", -2), "appleScript": ("AppleScript text or .scpt path", 1),
                   "open": ("App, file, folder, or URL", 1), "shortcut": ("Shortcut name or URL", 1)}
         for number, (kind, (payload, steps)) in enumerate(fields.items()):

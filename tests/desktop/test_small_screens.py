@@ -1,4 +1,4 @@
-"""Screens with less room than the windows would like: everything can be seen and reached."""
+"""Screens that are too small for the windows: everything can be seen and reached."""
 
 import os
 from pathlib import Path
@@ -6,13 +6,13 @@ from pathlib import Path
 from harness.palette_testing import PaletteTestCase, main
 from harness.settings_window import SettingsWindow
 
-# Each with a control near its end.
+# The pages, each with a control near its end.
 PAGES = {"General": ("Show checked status of menu items", "check box"), "Apps": ("Choose Application", "push button"),
          "Menu Filter": ("Hide", "combo box"), "Commands": ("Enabled", "check box"), "History": ("Favorite", "check box")}
 
 
 class SmallScreen:
-    """What must hold on each."""
+    """The checks on each small screen."""
 
     def test_the_palette_and_the_settings_are_on_the_screen(self):
         editor, _ = self.open_text("mousepad", "small\n")
@@ -44,7 +44,7 @@ class SmallScreen:
             self.assertEqual((width, height), size)
 
     def picture(self, name):
-        """For people to look at."""
+        """Takes a picture for people to look at."""
         if folder := os.environ.get("TOVREL_TEST_PICTURES"):
             width, height = self.size
             self.desktop.take_picture(Path(folder) / "small" / f"{width}x{height}-{self.scale}-{name}.png")

@@ -1,6 +1,6 @@
 """Runs the checks of the matrix of toolkits over the named applications.
 
-usage: toolkit_matrix.py NAME...     a NAME is that of a description in toolkits/"""
+usage: toolkit_matrix.py NAME...     NAME names a description in toolkits/"""
 
 import sys
 import unittest

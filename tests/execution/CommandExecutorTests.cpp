@@ -40,7 +40,7 @@ using Request = CommandProcessRequest;
 using Opened = std::vector<std::string>;
 using enum CustomCommandKind;
 
-TEST_F(CommandExecutorTest, WhatIsRunForEachKind) {
+TEST_F(CommandExecutorTest, EachKindRunsItsProgram) {
     execute(shellScript, " exit 3 ");
     EXPECT_EQ(result_, std::nullopt) << "it runs";
     execute(appleScript, "/exists/script.scpt");
@@ -56,7 +56,7 @@ TEST_F(CommandExecutorTest, WhatIsRunForEachKind) {
                                                         {"/usr/bin/shortcuts", {"run", "Backup"}}}));
 }
 
-TEST_F(CommandExecutorTest, WhatIsOpened) {
+TEST_F(CommandExecutorTest, UrlsAndPathsAreOpened) {
     execute(open, "/exists/a folder/50% Größe");
     EXPECT_EQ(opened_, Opened{"file:///exists/a%20folder/50%25%20Gr%C3%B6%C3%9Fe"});
     execute(open, "https://example.org/?q=a b&c=100%&d=%20#ü");

@@ -1,4 +1,4 @@
-// A shortcut of any spelling, as each toolkit writes it.
+// Reads a shortcut of any spelling in the notation of each toolkit.
 
 #include <string>
 

@@ -1,4 +1,4 @@
-// An application with anything on the accessibility bus.
+// Reads the menus of an application that publishes anything on the accessibility bus.
 
 #include "platform/linux/menus/accessibility/AtspiMenus.h"
 

@@ -1,4 +1,4 @@
-// An application that serves anything as com.canonical.dbusmenu.
+// Reads the menus of an application that serves anything as com.canonical.dbusmenu.
 
 #include "fuzz/FuzzedPeer.h"
 #include "fuzz/Fuzzing.h"

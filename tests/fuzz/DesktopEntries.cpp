@@ -1,4 +1,4 @@
-// A desktop entry of any content, in several languages.
+// Reads a desktop entry of any content, in several languages.
 
 #include "fuzz/Fuzzing.h"
 #include "platform/linux/applications/DesktopEntryFile.h"

@@ -17,7 +17,7 @@
 namespace tovrel::fuzzing {
 namespace {
 
-/// Bytes of the input, one after the other; zeros behind its end.
+/// Hands out the bytes of the input one after the other, and zeros after its end.
 class Input {
   public:
     explicit Input(std::vector<std::uint8_t> bytes) : bytes_(std::move(bytes)) {}
@@ -27,7 +27,7 @@ class Input {
 
     std::uint64_t number() {
         const std::uint8_t first = byte();
-        if (first < 0xF0) { // small ones are what makes trees
+        if (first < 0xF0) { // small numbers let trees come about
             return first % 16;
         }
         std::uint64_t value = 0;
@@ -37,7 +37,7 @@ class Input {
         return value;
     }
 
-    /// Words that the readers know, or bytes of the input up to a line break.
+    /// A word that the readers know, or bytes of the input up to a line break.
     std::string text() {
         static constexpr std::array words{"label",
                                           "action",
@@ -94,7 +94,7 @@ class Input {
 
 constexpr int deepest = 24;
 
-/// How long the complete type at the start of a signature is.
+/// The length of the complete type at the start of a signature.
 std::size_t typeLength(std::string_view signature) {
     if (signature.front() == 'a') {
         return 1 + typeLength(signature.substr(1));
@@ -115,7 +115,7 @@ bool appendInside(sd_bus_message* message, char type, const std::string& content
     if (sd_bus_message_open_container(message, type, contents.c_str()) < 0) {
         return false;
     }
-    // An array goes on as long as the input says so.
+    // The input decides how long an array is.
     const std::size_t count = type == SD_BUS_TYPE_ARRAY ? input.byte() % 8 : 1;
     for (std::size_t i = 0; i < count && depth < deepest; ++i) {
         if (!append(message, contents, input, depth + 1)) {
@@ -132,7 +132,7 @@ bool appendVariant(sd_bus_message* message, Input& input, int depth) {
     return appendInside(message, SD_BUS_TYPE_VARIANT, type, input, depth);
 }
 
-/// An empty one in place of what sd-bus refuses on both ends, such as U+FFFF.
+/// Appends the text, or an empty one if sd-bus refuses it on both ends, as it does U+FFFF.
 bool appendString(sd_bus_message* message, const std::string& text) {
     return sd_bus_message_append_basic(message, SD_BUS_TYPE_STRING, text.c_str()) >= 0 ||
            sd_bus_message_append_basic(message, SD_BUS_TYPE_STRING, "") >= 0;
@@ -159,7 +159,7 @@ bool appendBasic(sd_bus_message* message, char type, Input& input) {
     }
 }
 
-/// Values of every type in the signature.
+/// Appends a value of every type in the signature.
 bool append(sd_bus_message* message, std::string_view signature, Input& input, int depth) {
     while (!signature.empty()) {
         const std::size_t length = typeLength(signature);
@@ -201,7 +201,7 @@ const char* signatureFor(std::string_view member, Input& input) {
                                         CallAnswer{"GetKeyBinding", "s"},
                                         CallAnswer{"GetInterfaces", "as"}};
     const std::uint8_t choice = input.byte();
-    if (choice >= 0xF8) { // another's answer, which makes no sense here
+    if (choice >= 0xF8) { // the answer to another call, which makes no sense here
         return answers.at(choice % answers.size()).signature;
     }
     for (const CallAnswer& answer : answers) {
@@ -212,7 +212,7 @@ const char* signatureFor(std::string_view member, Input& input) {
     return "";
 }
 
-/// The children of accessible objects are the application's own, or the readers would leave them out.
+/// Appends children that are the application's own, because the readers leave out all others.
 bool appendChildren(sd_bus_message* message, Input& input) {
     if (sd_bus_message_open_container(message, SD_BUS_TYPE_ARRAY, "(so)") < 0) {
         return false;
@@ -280,7 +280,7 @@ struct FuzzedPeer::Implementation {
 };
 
 FuzzedPeer::FuzzedPeer() : implementation_(new Implementation) {
-    // An address in the kernel's own space of names is gone with the process.
+    // An address in the kernel's abstract namespace disappears with the process.
     const std::string name = "tovrel-fuzz-" + std::to_string(getpid());
     const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_un address{};

@@ -10,8 +10,8 @@
 namespace tovrel::fuzzing {
 
 /// The only peer of a connection, on a socket of this process: bus and application in one. It answers every
-/// call with a message of values that are made of the input, of the type that such a call is answered with or
-/// of another. So the readers are tried whole, over real messages, through what they offer to everybody.
+/// call with a message whose values are made of the input, and whose type is that of a proper answer or
+/// another. The readers are thus tested whole, over real messages, through their public interface.
 class FuzzedPeer {
   public:
     /// The one peer of the process.
@@ -23,10 +23,10 @@ class FuzzedPeer {
     /// The name under which the application is addressed.
     static constexpr const char* busName = ":1.7";
 
-    /// Small, so that an input costs little, and a lost answer soon shows.
+    /// Small limits, so that an input costs little and a lost answer soon shows.
     static MenuReadLimits limits();
 
-    /// Answers from now on are made of these bytes, from the first.
+    /// Makes all answers from now on of these bytes, starting with the first.
     void answerWith(const std::uint8_t* data, std::size_t size);
 
   private:

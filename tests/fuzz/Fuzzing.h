@@ -6,7 +6,7 @@
 
 #include "support/Fatal.h"
 
-/// What the fuzzers have in common: each defines LLVMFuzzerTestOneInput, which is called for every input.
+/// The common part of the fuzzers. Each defines LLVMFuzzerTestOneInput, which is called for every input.
 namespace tovrel::fuzzing {
 
 inline std::string_view textOf(const std::uint8_t* data, std::size_t size) {

@@ -1,4 +1,4 @@
-// A window that publishes anything as org.gtk.Menus and org.gtk.Actions.
+// Reads the menus of a window that publishes anything as org.gtk.Menus and org.gtk.Actions.
 
 #include "fuzz/FuzzedPeer.h"
 #include "fuzz/Fuzzing.h"

@@ -1,5 +1,5 @@
-// A document of any content under the keys of all stores: reading decides without a fault what it is, and a
-// change leaves a document that reads as it was written.
+// Reads a document of any content under the keys of all stores: reading it does no harm, and a change leaves
+// a document that reads as it was written.
 
 #include <sstream>
 #include <string>
@@ -20,7 +20,7 @@ namespace {
 using namespace tovrel;
 using fuzzing::require;
 
-/// Whatever was counted, what is searched for is found.
+/// A search finds the command, whatever counts the history holds.
 void trySearch(CommandHistoryStore& history, const TextServices& text) {
     ScannedMenuItem save;
     save.title = "Save";

@@ -1,4 +1,4 @@
-// A recording of any content: refused, or an application whose menus are listed, searched and recorded again.
+// Reads a recording of any content: it is refused, or its menus are listed, searched and recorded again.
 
 #include "commands/CommandIndex.h"
 #include "commands/CommandSearch.h"

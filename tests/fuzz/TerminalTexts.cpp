@@ -1,4 +1,4 @@
-// A text of any bytes on a terminal, in a table and in JSON.
+// Prints a text of any bytes to a terminal, in a table and in JSON.
 
 #include <sstream>
 

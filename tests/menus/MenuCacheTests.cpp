@@ -36,7 +36,7 @@ TEST(MenuCache, EachInstanceHasItsOwn) {
     EXPECT_FALSE(cache.cachedItems({"X", 101}, 0s));
 }
 
-TEST(MenuCache, WhatBelongedToAnApplicationThatHasEndedIsDropped) {
+TEST(MenuCache, EntriesOfEndedApplicationsAreDropped) {
     MenuCache cache;
     const auto editor = application(100, "X");
     cache.store(editor, oneItem, 0s);
@@ -46,7 +46,7 @@ TEST(MenuCache, WhatBelongedToAnApplicationThatHasEndedIsDropped) {
     EXPECT_EQ(editor.use_count(), 1);
     EXPECT_FALSE(cache.cachedItems({"X", 100}, 0s));
 
-    // Of one that seems to have ended while its menus were read, nothing can be told.
+    // The end of an application cannot be told when it seemed to have ended while its menus were read.
     cache.store(editor, oneItem, 0s);
     EXPECT_TRUE(cache.cachedItems({"X", 100}, 0s));
 }

@@ -59,7 +59,7 @@ TEST_F(MenuScannerTest, BuildsTheTreeWithoutSeparators) {
     EXPECT_EQ(item.element, save);
 }
 
-TEST_F(MenuScannerTest, WhatCannotBeReadTakesItsDefault) {
+TEST_F(MenuScannerTest, UnreadableAttributesTakeTheirDefaults) {
     const auto odd = element("Odd");
     odd->set("AXEnabled", Text("no"));
     odd->set("AXMenuItemMarkChar", true);
@@ -117,7 +117,7 @@ TEST_F(MenuScannerTest, TheFirstItemOfAPathIsFoundAndPressed) {
     EXPECT_EQ(found->element, save);
     EXPECT_EQ(MenuCommandPerformer::findItem({"File", "save"}, items), nullptr);
     EXPECT_EQ(MenuCommandPerformer::findItem({"File"}, {}), nullptr);
-    // Deeper but earlier comes before nearer but later.
+    // An earlier item comes before a later one, even if it is nested deeper.
     const auto nested = scan({element("File", {element("", {element("", {save})}), element("Save")})});
     EXPECT_EQ(nested[0].children[0].children[0].menuPath, (std::vector<Text>{"File"}));
     EXPECT_EQ(MenuCommandPerformer::findItem({"File", "Save"}, nested)->element, save);

@@ -40,7 +40,7 @@ TEST(Command, JsonRoundTripLeavesAbsentOptionalsOut) {
     EXPECT_EQ(json::dump(toJson(CommandRankSignals{})), R"({"isFavorite":false,"usageCount":0})");
 }
 
-TEST(Command, WhatTheDecoderRefuses) {
+TEST(Command, TheDecoderRefusesIncompleteOrMistypedDocuments) {
     json::Value whole = toJson(menuCommand({"File", "Save"}));
     const auto reads = [](const json::Value& value) { return decoded(json::dump(value)).has_value(); };
     EXPECT_TRUE(reads(whole));

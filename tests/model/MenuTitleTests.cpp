@@ -15,14 +15,14 @@ std::string repeated(const std::string& text, std::size_t times) {
     return all;
 }
 
-TEST(MenuTitle, EndsBehindTheLastWholeCharacterThatFitsIn) {
+TEST(MenuTitle, EndsAfterTheLastWholeCharacterThatFits) {
     EXPECT_EQ(menuTitle(" Open…  \n"), Text("Open…"));
     EXPECT_EQ(menuTitle(std::string(1024, 'x')).view().size(), 1024U);
     EXPECT_EQ(menuTitle(std::string(70'000, 'x')).view(), std::string(1024, 'x'));
     EXPECT_EQ(menuTitle(std::string(1023, 'x') + " y").view(), std::string(1023, 'x'));
     EXPECT_TRUE(menuTitle(std::string(70'000, ' ') + "x").empty());
 
-    // What a user takes for one character: a family of 25 bytes, a flag, a letter with its accent.
+    // A user takes each for one character: a family of 25 bytes, a flag, a letter with its accent.
     const std::string family = "👨‍👩‍👧‍👦";
     ASSERT_EQ(family.size(), 25U);
     EXPECT_EQ(menuTitle(repeated(family, 50)).view(), repeated(family, 40));

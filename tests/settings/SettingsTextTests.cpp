@@ -18,7 +18,7 @@ TEST(SettingsTextTest, PiecesAreTrimmedAndEmptyOnesDropped) {
     EXPECT_THAT(separated("File > A>B > ", '>'), ElementsAre(Text("File"), Text("A"), Text("B")));
 }
 
-TEST(SettingsTextTest, HistoryRowsAreNamedByWhatTheyRan) {
+TEST(SettingsTextTest, HistoryRowsAreNamedByTheirCommands) {
     CustomCommand backup;
     backup.id = "ID-1";
     backup.title = "Backup";
@@ -31,7 +31,7 @@ TEST(SettingsTextTest, HistoryRowsAreNamedByWhatTheyRan) {
     }
 }
 
-TEST(WindowMenuTest, AnItemIsFoundByWhatItsKeyTypes) {
+TEST(WindowMenuTest, AnItemIsFoundByTheCharacterOfItsKey) {
     const CharacterForKeyCode layout = [](std::uint32_t keyCode) {
         return keyCode == 13  ? std::optional<Text>("z")
                : keyCode == 6 ? std::optional<Text>("w")

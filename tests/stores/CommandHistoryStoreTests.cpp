@@ -111,7 +111,7 @@ TEST_F(CommandHistory, IDsCompareByCanonicalEquivalence) {
               (std::vector<CommandHistoryEntry>{{"menu:\u00c9dition", 2, PointInTime{1}, true}}));
 }
 
-TEST_F(CommandHistory, WhatCannotBeEncodedOrStoredChangesNothing) {
+TEST_F(CommandHistory, AChangeThatCannotBeEncodedOrStoredChangesNothing) {
     store.recordUse("A", {1});
     const auto before = document();
     store.recordUse("A", {std::numeric_limits<double>::quiet_NaN()});
@@ -172,7 +172,7 @@ TEST_F(CommandHistory, ADocumentThatCouldNotBeReadIsReadAgain) {
     EXPECT_EQ(here.rankSignals("A").usageCount, 2);
 }
 
-TEST_F(CommandHistory, ACountThatIsDamagedIsCountedOnFromUpToTheLargest) {
+TEST_F(CommandHistory, ADamagedCountGoesOnAndStopsAtTheLargestNumber) {
     putDocument(R"({"A": {"usageCount": 9223372036854775806, "isFavorite": false},
                     "B": {"usageCount": -2000000000000000000, "isFavorite": false}})");
     for (int use = 0; use < 2; ++use) {

@@ -31,7 +31,7 @@ class FailingPreferencesDomain : public MemoryPreferencesDomain {
         }
         return MemoryPreferencesDomain::all();
     }
-    /// What cannot be looked at may have changed.
+    /// A store that cannot be looked at may have changed.
     [[nodiscard]] std::uint64_t revision() override {
         return refusesReads ? unknownRevision_-- : MemoryPreferencesDomain::revision();
     }

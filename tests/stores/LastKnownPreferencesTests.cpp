@@ -17,7 +17,7 @@ class LastKnownPreferencesTest : public testing::Test {
     LastKnownPreferences preferences_{stored_};
 };
 
-TEST_F(LastKnownPreferencesTest, WhatCannotBeReadIsAsItWasKnownLast) {
+TEST_F(LastKnownPreferencesTest, AnUnreadableValueIsTheLastKnownOne) {
     RulesStore rules(preferences_, text_);
     CommandHistoryStore history(preferences_, "history", text_);
     rules.setBehavior(AppBehaviorRule::disabled, "editor");
@@ -45,7 +45,7 @@ TEST_F(LastKnownPreferencesTest, WhatIsServedFromMemoryReplacesNothingThatAnothe
     CommandHistoryStore elsewhere(stored_, "history", text_);
     history.recordUse("A", {1});
     elsewhere.recordUse("A", {2});
-    stored_.refusesReads = true; // and while it does, writing alone would be possible
+    stored_.refusesReads = true; // a write alone would still be possible
     history.recordUse("B", {3});
     history.setFavorite(true, "A");
     stored_.refusesReads = false;

@@ -33,7 +33,7 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
     : console_(&console), storedPreferences_(preferencesFile(invocation.preferencesFile), {},
                                              SqlitePreferencesDomain::interactive),
       preferences_(storedPreferences_), textServices_(invocation.localeIdentifier),
-      windows_(std::make_shared<X11Windows>()),
+      windows_(std::make_shared<X11WindowList>()),
       accessibilityBus_(
           std::make_shared<AtspiBus>([windows = windows_] { return windows->accessibilityBusAddress(); })),
       workspace_(std::make_shared<LinuxWorkspace>(
@@ -54,9 +54,9 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
                {.shortcut = [this] { return toggleShortcutForPeople(); },
                 .problem = [this] { return shortcutProblem(); }},
                [] { QApplication::quit(); }),
-      busPresence_(service_), activationEvents_(workspace_->activationEvents()),
+      busPresence_(service_), activationEvents_(windows_->activationEvents()),
       // That the user has come back to an application is older than the hot key pressed there.
-      hotKeyEvents_(hotKeys_, &workspace_->activationEvents()), processEnds_(processRunner_) {
+      hotKeyEvents_(hotKeys_, &windows_->activationEvents()), processEnds_(processRunner_) {
     if (seat) {
         seatServer_.emplace(*seat, service_);
     }

@@ -22,7 +22,7 @@
 #include "platform/preferences/SqlitePreferencesDomain.h"
 #include "platform/x11/hotkeys/X11HotKeyCenter.h"
 #include "platform/x11/keyboard/X11KeyEventPoster.h"
-#include "platform/x11/windows/X11Windows.h"
+#include "platform/x11/windows/X11WindowList.h"
 #include "qt/QtMainQueue.h"
 #include "settings/SettingsWindowController.h"
 #include "settings/WindowMenu.h"
@@ -70,7 +70,7 @@ class ResidentProgram {
     SqlitePreferencesDomain storedPreferences_;
     LastKnownPreferences preferences_;
     TextServices textServices_;
-    std::shared_ptr<X11Windows> windows_;
+    std::shared_ptr<X11WindowList> windows_;
     std::shared_ptr<AtspiBus> accessibilityBus_;
     std::shared_ptr<LinuxWorkspace> workspace_;
     LinuxAccessibility accessibility_;

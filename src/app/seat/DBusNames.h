@@ -1,6 +1,7 @@
 #pragma once
 
-/// Where the resident program is on the session bus. See packaging/org.tovrel.Tovrel.xml for what it offers.
+/// The address of the resident program on the session bus. packaging/org.tovrel.Tovrel.xml describes what it
+/// offers there.
 namespace tovrel::dbus_names {
 /// Also the program's application identifier and the name of its desktop entry.
 inline constexpr const char* service = "org.tovrel.Tovrel";

@@ -20,14 +20,14 @@ class NotRunning : public Failure {
     NotRunning() : Failure("tovrel is not running") {}
 };
 
-/// Where one bus serves several displays, the resident program of another one is no use here.
+/// Whether the program serves another display: one bus can serve several, each with a program of its own.
 bool isOfAnotherDisplay(const ResidentStatus& status) {
     const std::string own = displayName();
     return !status.display.empty() && !own.empty() && status.display != own;
 }
 
-/// The unique name of the program that has the name on the bus. `mayStart`: it is started when it does not
-/// run, as the user wants who asks it to show something.
+/// The unique bus name of the program that owns the service name. With `mayStart` the bus starts it when it
+/// does not run, which is what a user wants who asks it to show something.
 std::string ownerOnBus(DBusConnection& bus, bool mayStart) {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     auto owner = bus.owner(dbus_names::service, deadline);

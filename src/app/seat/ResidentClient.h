@@ -10,7 +10,7 @@
 
 namespace tovrel {
 
-/// What the resident program says of itself.
+/// The state that the resident program reports.
 struct ResidentStatus {
     std::string version;
     std::uint32_t processIdentifier = 0;
@@ -18,30 +18,30 @@ struct ResidentStatus {
     bool isAccessibilityTrusted = false;
     std::string shortcut;        ///< For people, such as "Ctrl+Shift+P"; empty when there is none.
     std::string shortcutProblem; ///< Why it does not work, in the user's language; empty while it does.
-    std::string display;         ///< Where it shows its windows, as `displayName` says it.
+    std::string display;         ///< The display it shows its windows on, as from `displayName`.
     std::string target; ///< Identifier of the application the palette was last prepared for; may be empty.
-    /// Why the last change of the preferences could not be stored; empty when it could.
+    /// The reason why the last change of the preferences could not be stored; empty when it could.
     std::string unstoredChange;
 };
 
-/// Speaks to the resident program: to that of this display directly, and where none has its seat there, to
-/// whichever has the name on the session bus. Throws Failure when neither can be found, or the program does
-/// not answer within 5 s.
+/// Speaks to the resident program: directly to the one of this display, or, when none has its seat there, to
+/// whichever owns the name on the session bus. Throws Failure when neither can be found, or when the program
+/// does not answer within 5 s.
 class ResidentClient {
   public:
     ResidentClient();
 
-    /// Directly to who has this seat; absent when nobody listens there, as while one is just starting or
-    /// ending.
+    /// Connects directly to the process that has this seat; absent when nobody listens there, for instance
+    /// while one is just starting or ending.
     static std::optional<ResidentClient> ofSeat(const ResidentSeat& seat);
-    /// To who has the name on the session bus.
+    /// Connects to the process that owns the name on the session bus.
     static ResidentClient ofSessionBus();
 
-    /// Opens the palette, or closes it. Has the bus start the program if that knows how.
+    /// Opens the palette, or closes it. The bus starts the program if it knows how.
     void toggle();
     /// Opens the palette unless it is open.
     void show();
-    /// Opens the settings window or brings it forward. Has the bus start the program if that knows how.
+    /// Opens the settings window or brings it forward. The bus starts the program if it knows how.
     void settings();
     void quit();
     [[nodiscard]] ResidentStatus status();
@@ -53,14 +53,15 @@ class ResidentClient {
 
     static ResidentClient ofThisDisplay();
     void call(const char* member, bool mayStart);
-    /// `mayStart`: the bus may start the program for it.
+    /// With `mayStart` the bus may start the program for the call.
     [[nodiscard]] DBusMessage methodCall(const char* interface, const char* member, bool mayStart);
 
     DBusConnection connection_;
     Road road_;
 };
 
-/// Whether the session bus knows a resident program of this display; it then shows its palette.
+/// Has a resident program of this display show its palette if the session bus knows one, and returns whether
+/// it does.
 bool isShownOverSessionBus();
 
 } // namespace tovrel

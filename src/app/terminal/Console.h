@@ -7,9 +7,9 @@
 
 namespace tovrel {
 
-/// How results for people are laid out.
+/// The layout of results for people.
 struct OutputStyle {
-    bool isTerminal = false; ///< Not a file or another program.
+    bool isTerminal = false; ///< False for a file or another program.
     bool hasColour = false;
     std::optional<std::size_t> width; ///< Columns of the terminal, where they are known.
 };

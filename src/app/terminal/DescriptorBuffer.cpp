@@ -20,7 +20,7 @@ DescriptorBuffer::int_type DescriptorBuffer::overflow(int_type character) {
 int DescriptorBuffer::sync() {
     const char* next = pbase();
     const char* const end = pptr();
-    // What cannot be written now is dropped, so that a later flush does not fail once more.
+    // Bytes that cannot be written now are dropped, so that a later flush does not fail once more.
     setp(bytes_.data(), bytes_.data() + bytes_.size());
     while (next < end) {
         const ssize_t written = write(fileDescriptor_, next, static_cast<std::size_t>(end - next));

@@ -7,7 +7,7 @@
 
 namespace tovrel {
 
-/// Why standard output could not be written.
+/// Standard output could not be written.
 class OutputError : public std::system_error {
   public:
     using std::system_error::system_error;
@@ -15,7 +15,7 @@ class OutputError : public std::system_error {
 
 /// Writes a stream to an open file descriptor, which stays open. A failed write throws OutputError with the
 /// reason, which an ordinary file stream would lose; a stream passes it on if its exceptions() ask for
-/// std::ios::badbit. What has been written arrives when the stream is flushed, not on destruction.
+/// std::ios::badbit. Output arrives when the stream is flushed, not on destruction.
 class DescriptorBuffer : public std::streambuf {
   public:
     explicit DescriptorBuffer(int fileDescriptor);

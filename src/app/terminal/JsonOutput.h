@@ -12,7 +12,7 @@ inline void printJson(std::ostream& out, const json::Value& value) {
     out << printableJson(json::dump(value));
 }
 
-/// As printJson, an array: one element after the other, so that a long list is never in memory
+/// Prints an array as printJson would, one element after the other, so that a long list is never in memory
 /// whole.
 template <typename Range, typename Encode>
 void printJsonArray(std::ostream& out, const Range& range, const Encode& encode) {

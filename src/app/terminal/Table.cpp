@@ -12,7 +12,7 @@ using terminal_text::ElideAt;
 using terminal_text::elided;
 
 constexpr std::size_t gap = 2;
-constexpr std::size_t narrowestColumn = 12; ///< What is left of the flexible column at least.
+constexpr std::size_t narrowestColumn = 12; ///< The least width of the flexible column.
 
 std::vector<TableRow> printableRows(const std::vector<TableRow>& rows) {
     std::vector<TableRow> shown = rows;

@@ -12,10 +12,11 @@ namespace tovrel {
 
 struct TableRow {
     std::vector<std::string> cells; ///< Shown as printable(); rows may have different numbers.
-    bool isDimmed = false;          ///< Only where there is colour.
+    bool isDimmed = false;          ///< Shown only where there is colour.
 };
 
-/// The column that gives way when the rows are wider than the terminal, and where its cells are cut.
+/// The column that becomes narrower when the rows are wider than the terminal, and the side its cells are cut
+/// on.
 struct FlexibleColumn {
     std::size_t index = 0;
     terminal_text::ElideAt elideAt = terminal_text::ElideAt::end;

@@ -29,7 +29,7 @@ std::size_t widthOf(char32_t codePoint) {
     return eastAsianWidth == U_EA_WIDE || eastAsianWidth == U_EA_FULLWIDTH ? 2 : 1;
 }
 
-/// Where each character starts, and how wide it is.
+/// The start and the width of one character.
 struct Character {
     std::size_t start;
     std::size_t width;
@@ -56,7 +56,7 @@ std::size_t beginningOfWidth(std::string_view text, std::size_t width) {
     return text.size();
 }
 
-/// Where the longest ending starts that takes at most `width` columns; never at a combining mark.
+/// The start of the longest ending that takes at most `width` columns; never at a combining mark.
 std::size_t endingOfWidth(std::string_view text, std::size_t width) {
     const std::vector<Character> characters = charactersOf(text);
     std::size_t start = text.size();

@@ -4,11 +4,12 @@
 #include <string>
 #include <string_view>
 
-/// How texts fill the columns of a terminal. They are printable (support/PrintableText.h).
+/// Measuring and cutting of texts for the columns of a terminal. All texts are printable
+/// (support/PrintableText.h).
 namespace tovrel::terminal_text {
 
-/// How many columns the text takes: two for wide and full-width characters (Unicode Standard Annex 11), none
-/// for combining marks, format characters and the later letters of a Hangul syllable, else one.
+/// The number of columns the text takes: two for wide and full-width characters (Unicode Standard Annex 11),
+/// none for combining marks, format characters and the later letters of a Hangul syllable, else one.
 std::size_t displayWidth(std::string_view text);
 
 enum class ElideAt { start, end };

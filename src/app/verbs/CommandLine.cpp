@@ -10,9 +10,9 @@
 namespace tovrel::command_line {
 namespace {
 
-/// The parser's library takes "[a,b]" apart, ends a verb at "++", takes the next argument for the value of
-/// "--string=", and loses arguments after "--". So each argument that it must take as it stands, and that is
-/// no option, is handed over behind this character, which is taken off again when the value arrives.
+/// The parsing library takes "[a,b]" apart, ends a verb at "++", takes the next argument for the value of
+/// "--string=", and loses arguments after "--". Arguments that it must take literally and that are no options
+/// are therefore passed with this character in front, which is removed when the value arrives.
 constexpr char literalMark = '\x01';
 
 std::vector<std::string> protectedArguments(int argc, const char* const* argv) {
@@ -51,7 +51,7 @@ CLI::Option* addValue(CLI::App& app, const std::string& name, const std::string&
         ->type_name(typeName);
 }
 
-/// The value of an option as a whole number from `lowest` up to what fits.
+/// The value of an option as a whole number from `lowest` to the largest of the type.
 template <typename Number>
 Number numberFrom(const std::string& option, const std::string& text, Number lowest) {
     Number number = 0;
@@ -225,7 +225,7 @@ class Parser {
             ->required();
     }
 
-    /// What all verbs about menus take; it may stand before the verb as well.
+    /// Adds the options that all verbs about menus share; they may stand before the verb as well.
     void addSharedOptions(CLI::App& app) {
         addSourceOptions(app);
         addPreferencesOption(app);
@@ -278,7 +278,7 @@ class Parser {
         app.add_flag("--ids", invocation_.showsIDs, "Show each command's id, by which it can be pressed");
     }
 
-    /// What no single option can tell.
+    /// Checks the options against each other.
     Parsed checked() {
         const MenuSourceOptions& source = invocation_.source;
         const int sources = static_cast<int>(source.recordingFile.has_value()) +

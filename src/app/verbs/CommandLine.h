@@ -9,7 +9,7 @@
 
 #include "app/verbs/PreferencesCommands.h"
 
-/// What the program was asked to do. Parsing only: nothing here looks at a file or runs anything.
+/// Parses the command line. Nothing here looks at a file or runs anything.
 namespace tovrel::command_line {
 
 enum class Verb {
@@ -26,7 +26,7 @@ enum class Verb {
     preferences
 };
 
-/// Whose menus are meant; at most one is set, and without any the front application's are.
+/// Names the application whose menus are meant: at most one is set; none stands for the front application.
 struct MenuSourceOptions {
     std::optional<std::string> recordingFile; ///< "-" for standard input.
     std::optional<std::int32_t> processIdentifier;
@@ -48,7 +48,7 @@ struct Invocation {
     std::string localeIdentifier; ///< Empty for the environment's.
     bool asJson = false;
     bool showsIDs = false;            ///< In tables for people; JSON always has them.
-    std::optional<std::size_t> limit; ///< Of the results of each query.
+    std::optional<std::size_t> limit; ///< For the results of each query.
     std::vector<std::string> queries; ///< At least one for `search`; each may be empty.
     std::string commandID;
     PreferencesArguments preferences;

@@ -10,7 +10,7 @@
 
 namespace tovrel {
 
-/// What the palette would list over the application.
+/// The commands that the palette would list for the application.
 struct CommandList {
     std::vector<Command> commands;
     ScannedMenus menus;

@@ -9,10 +9,10 @@ namespace tovrel {
 /// then its id, if that is wanted.
 TableRow commandRow(const Command& command, bool showsID, const OutputStyle& style);
 
-/// Of such rows the path gives way on a narrow terminal, from its beginning: the title is at its end.
+/// A narrow terminal cuts the path of such a row at its beginning, because the title is at its end.
 inline constexpr FlexibleColumn commandPathColumn{.index = 1, .elideAt = terminal_text::ElideAt::start};
 
-/// The cells that say how an item stands.
+/// The cells for an item's state.
 std::string checkMarkCell(bool isChecked);
 std::string shortcutCell(const std::optional<Text>& shortcut);
 std::string disabledCell(bool isEnabled, const OutputStyle& style);

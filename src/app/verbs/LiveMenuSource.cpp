@@ -6,12 +6,14 @@
 #include "platform/linux/applications/LinuxWorkspace.h"
 #include "platform/linux/menus/LinuxAccessibility.h"
 #include "platform/linux/menus/MenuObstacle.h"
+#include "platform/x11/windows/X11WindowList.h"
 
 namespace tovrel {
 namespace {
 
 std::shared_ptr<RunningApplication> runningApplication(const command_line::MenuSourceOptions& options,
-                                                       LinuxWorkspace& workspace, const X11Windows& windows) {
+                                                       LinuxWorkspace& workspace,
+                                                       const X11WindowList& windows) {
     if (options.processIdentifier) {
         if (auto application = workspace.applicationWithProcessIdentifier(*options.processIdentifier)) {
             return application;
@@ -113,7 +115,7 @@ std::optional<MenuReadShortfall> shortfallOf(const MenuReadReport& report,
 } // namespace
 
 MenuSource liveMenuSource(const command_line::MenuSourceOptions& options) {
-    const auto windows = std::make_shared<X11Windows>();
+    const auto windows = std::make_shared<X11WindowList>();
     const auto bus = std::make_shared<AtspiBus>([windows] { return windows->accessibilityBusAddress(); });
     const auto workspace = std::make_shared<LinuxWorkspace>(
         windows, bus, std::make_shared<DesktopEntries>(DesktopEntries::ofEnvironment()));

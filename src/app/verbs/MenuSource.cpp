@@ -12,7 +12,7 @@
 namespace tovrel {
 namespace {
 
-/// Everything the stream has, or one byte more than a recording may have: it may be endless.
+/// Reads the whole stream, or one byte more than a recording may have, because it may be endless.
 std::string readBounded(std::istream& stream) {
     constexpr std::size_t chunk = std::size_t{1} << 20U;
     std::string bytes;

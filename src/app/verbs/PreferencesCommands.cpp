@@ -25,7 +25,7 @@ int report(std::ostream& error, int status, const std::string& what) {
     return status;
 }
 
-/// Whether everything written so far has arrived; a full disk shows only when the stream is flushed.
+/// Flushes the output, because a full disk shows only then, and returns the exit status.
 int finished(std::ostream& out, std::ostream& error) {
     return out.flush() ? success : report(error, failure, "the output cannot be written");
 }
@@ -36,7 +36,7 @@ int print(const json::Value& value, std::ostream& out, std::ostream& error) {
     return finished(out, error);
 }
 
-/// As a string of a JSON document: on one line and well formed, whatever the bytes are.
+/// The bytes as a string of a JSON document: on one line and well formed, whatever they are.
 std::string quoted(const std::string& bytes) {
     return printableJson(json::dump(json::toJson(Text(bytes))));
 }
@@ -49,7 +49,7 @@ std::size_t sizeOf(const PreferenceValue& value) {
     return text != nullptr ? text->utf8().size() : sizeof(bool);
 }
 
-/// The key as it is shown in a column: quoted if it holds more than there would be to see.
+/// The key as it is shown in a column: quoted if it is empty or a part of it would be invisible.
 std::string shownKey(const std::string& key) {
     return !key.empty() && printable(key) == key ? key : quoted(key);
 }

@@ -7,15 +7,15 @@
 
 #include "platform/PreferencesDomain.h"
 
-/// What `tovrel preferences …` does. Each function writes results to `out`, at most one line about a failure
-/// to `error`, and returns the exit status: 0 on success, 1 on failure, 2 on wrong usage. When the domain
-/// itself fails nothing more is written here, for the domain has already reported the reason.
+/// The verbs of `tovrel preferences …`. Each function writes results to `out`, at most one line about a
+/// failure to `error`, and returns the exit status: 0 on success, 1 on failure, 2 on wrong usage. When the
+/// domain itself fails nothing more is written here, because the domain has already reported the reason.
 namespace tovrel::preferences_commands {
 
-/// How `read` shows a value.
+/// The form in which `read` prints a value.
 enum class ValueForm {
-    plain,    ///< Data as the bytes they are, a string, true or false as a line of text.
-    terminal, ///< The same with what could control a terminal made visible.
+    plain,    ///< Data byte by byte; a string, true or false as a line of text.
+    terminal, ///< The same with characters that could control a terminal made visible.
     json
 };
 
@@ -32,7 +32,7 @@ struct NewValue {
     std::optional<std::string> string = std::nullopt;
     /// "true" or "false".
     std::optional<std::string> boolean = std::nullopt;
-    /// Any bytes, unchecked: to try out documents that are not valid.
+    /// Any bytes, unchecked, for trying out documents that are not valid.
     std::optional<std::string> data = std::nullopt;
 };
 

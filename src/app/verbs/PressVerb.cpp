@@ -13,8 +13,8 @@ std::string quoted(const Text& text) {
     return "\"" + text.utf8() + "\"";
 }
 
-/// The list with the menus as they are while the application is in front: some disable items such as Paste
-/// while their window has no focus, and enable them again only some milliseconds after it is back.
+/// Builds the list while the application is in front: some applications disable items such as Paste while
+/// their window has no focus, and enable them again only some milliseconds after it is back.
 CommandList listWithApplicationInFront(const Context& context) {
     constexpr std::chrono::milliseconds patience{200};
     const bool wasBroughtToFront = context.source.bringToFront && context.source.bringToFront();

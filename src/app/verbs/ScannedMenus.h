@@ -18,8 +18,8 @@ struct ScannedMenus {
 
 ScannedMenus scanMenus(const MenuSource& source, const TextServices& textServices);
 
-/// Says in one line on standard error what was not read, if anything, and returns the exit status: 1 when
-/// that leaves nothing at all. To be called after what was read has been printed.
+/// Reports in one line on standard error what could not be read, if anything, and returns the exit status: 1
+/// when nothing at all was read. Call it after printing what was read.
 int reportShortfall(const ScannedMenus& menus, std::ostream& error);
 
 } // namespace tovrel

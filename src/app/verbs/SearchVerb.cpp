@@ -19,7 +19,7 @@ json::Value toJson(const CommandSearchResult& result) {
     return {{"command", tovrel::toJson(result.command)}, {"score", result.score}};
 }
 
-/// Those that are shown, best first.
+/// The results that are shown, best first.
 std::vector<CommandSearchResult> shownResults(const CommandSearchResults& results,
                                               const command_line::Invocation& invocation) {
     const std::size_t limit = invocation.limit.value_or(std::numeric_limits<std::size_t>::max());

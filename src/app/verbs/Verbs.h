@@ -8,8 +8,8 @@
 #include "platform/PreferencesDomain.h"
 #include "support/TextServices.h"
 
-/// What each verb of the command line does, one file each. Every function prints its result on standard
-/// output and returns the exit status; where it cannot do its work it throws Failure.
+/// The verbs of the command line, one file each. Every function prints its result on standard output and
+/// returns the exit status; it throws Failure when it cannot do its work.
 namespace tovrel::verbs {
 
 /// Everything a verb about menus works on.

@@ -24,7 +24,7 @@ class FileDescriptor {
 
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
     [[nodiscard]] int get() const { return descriptor_; }
-    /// Leaves the descriptor to someone else.
+    /// Gives up the ownership of the descriptor.
     int release() { return std::exchange(descriptor_, -1); }
 
   private:

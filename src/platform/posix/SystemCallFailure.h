@@ -4,7 +4,7 @@
 
 namespace tovrel {
 
-/// What it means for the preferences that a system call on their file failed with this errno.
+/// The failure of the preferences that this errno of a system call on their file stands for.
 [[nodiscard]] PreferencesFailure systemCallFailure(int number);
 
 } // namespace tovrel

@@ -53,7 +53,7 @@ std::optional<std::string> socketName(std::string_view address) {
         const std::size_t equals = entry.find('=');
         const std::string_view key = entry.substr(0, equals);
         if (equals == std::string_view::npos || (key != "path" && key != "abstract")) {
-            continue; // Such as "guid", which tells two buses apart.
+            continue; // Another key, such as "guid", which tells two buses apart.
         }
         const auto value = unescaped(entry.substr(equals + 1));
         if (!value || value->empty() || value->find('\0') != std::string::npos) {

@@ -21,8 +21,8 @@ class DirectoryLock {
     };
 
     /// Waits for other processes as long as the patience lasts, then throws Held. A directory that is missing
-    /// or that cannot be locked (some network file systems) is not locked: going without is better than going
-    /// without preferences.
+    /// or that cannot be locked (some network file systems) is not locked: preferences without a lock are
+    /// better than none.
     DirectoryLock(const std::filesystem::path& directory, Kind kind, LockPatience& patience);
 
   private:

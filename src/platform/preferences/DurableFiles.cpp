@@ -74,7 +74,7 @@ void renameWithoutReplacing(const std::filesystem::path& from, const std::filesy
 
 void syncDirectory(const std::filesystem::path& directory) {
     const FileDescriptor descriptor(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    // Some file systems cannot synchronise a directory and say EINVAL; there is nothing more to be had there.
+    // Some file systems cannot synchronise a directory and say EINVAL; nothing more can be done there.
     if (!descriptor.isOpen() || (fsync(descriptor.get()) != 0 && errno != EINVAL)) {
         throwSystemError();
     }

@@ -6,18 +6,18 @@
 
 namespace tovrel {
 
-/// How long a program waits for locks that other processes hold: a stated time in all, at however many locks,
-/// statements and operations they are met.
+/// Limits how long a program waits for locks that other processes hold: one total for all the locks,
+/// statements and operations at which it meets them.
 class LockPatience {
   public:
-    /// So long may be waited in each period. A period starts with its first wait; one of no length, with each
-    /// operation.
+    /// The longest wait in each period. A period starts with its first wait; a period of length zero starts
+    /// with each operation.
     struct Terms {
         std::chrono::nanoseconds amount;
         std::chrono::nanoseconds period;
     };
 
-    /// The clock it goes by, and how it waits.
+    /// The clock, and the function that waits.
     struct Time {
         std::function<std::chrono::steady_clock::time_point()> now;
         std::function<void(std::chrono::nanoseconds)> sleep;
@@ -27,7 +27,7 @@ class LockPatience {
 
     explicit LockPatience(const Terms& terms, Time time = Time::real());
 
-    /// To be called where an operation begins, which then waits out of what the period has left.
+    /// Call it at the start of each operation; the operation then has what is left of the period.
     void beginOperation();
 
     /// Waits about a millisecond and returns true; false, without waiting, when nothing is left.

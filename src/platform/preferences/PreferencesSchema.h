@@ -2,8 +2,8 @@
 
 #include "platform/preferences/SqliteConnection.h"
 
-/// How preferences lie in an SQLite database: one table `preferences` of keys and values, where a value's
-/// storage class is its type (BLOB data, TEXT string, INTEGER 0 or 1 boolean).
+/// The layout of preferences in an SQLite database: one table `preferences` of keys and values, where a
+/// value's storage class is its type (BLOB data, TEXT string, INTEGER 0 or 1 boolean).
 namespace tovrel::preferences_schema {
 
 enum class State {
@@ -14,14 +14,14 @@ enum class State {
     damaged, ///< Ours, but not as it should be.
 };
 
-/// What the database is, by its header and schema; to be called inside a transaction, for it takes several
-/// looks. Throws sqlite::Error.
+/// The state of the database, by its header and schema. Call it inside a transaction, because it reads
+/// several times. Throws sqlite::Error.
 State stateOf(sqlite::Connection& connection);
 
 /// Whether every page of the file is in order and every value of a known type. Throws sqlite::Error.
 bool isSound(sqlite::Connection& connection);
 
-/// Creates the table and marks the file as ours; to be called inside a write transaction.
+/// Creates the table and marks the file as ours. Call it inside a write transaction.
 void create(sqlite::Connection& connection);
 
 } // namespace tovrel::preferences_schema

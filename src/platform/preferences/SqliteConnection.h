@@ -13,8 +13,7 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// The little of SQLite's C interface that is needed, with owners for its handles and exceptions for its
-/// codes.
+/// The part of SQLite's C interface that is needed, with owners for its handles and exceptions for its codes.
 namespace tovrel::sqlite {
 
 /// A failed call.
@@ -29,7 +28,7 @@ class Error : public std::runtime_error {
     /// The file was renamed, removed or replaced since it was opened.
     [[nodiscard]] bool isMoved() const;
 
-    /// What went wrong, in a user's terms: "the disk is full".
+    /// The failure in a user's terms: "the disk is full".
     [[nodiscard]] PreferencesFailure failure() const;
 
   private:

@@ -17,10 +17,10 @@ namespace {
 
 using preferences_schema::State;
 
-/// The open file is damaged and is to be set aside.
+/// The open file is damaged and must be set aside.
 class Damaged : public std::exception {};
 
-/// What is there is sound, and is not to be touched.
+/// The file is sound, but must not be touched.
 class Refused : public std::runtime_error {
   public:
     Refused(PreferencesObstacle obstacle, const std::string& reason)
@@ -49,7 +49,7 @@ PreferencesFailure failureOfException() {
     }
 }
 
-/// Symbolic links resolved, so that all processes lock one directory and a set-aside file stays in it.
+/// Resolves symbolic links, so that all processes lock one directory and a set-aside file stays in it.
 std::filesystem::path resolved(const std::filesystem::path& file) {
     std::error_code error;
     const std::filesystem::path absolute = std::filesystem::absolute(file, error);
@@ -150,7 +150,7 @@ bool SqlitePreferencesDomain::setAll(const std::vector<std::pair<std::string, Pr
 }
 
 bool SqlitePreferencesDomain::remove(const std::string& key) {
-    // Looked up first: what is not there can be removed even where nothing can be written.
+    // The key is looked up first: a missing value can be removed even where nothing can be written.
     if (!value(key) && lastReadSucceeded_) {
         return true;
     }
@@ -166,12 +166,13 @@ std::uint64_t SqlitePreferencesDomain::revision() {
             const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::shared, lockPatience_);
             bringUpToDate();
         })) {
-        ++revision_; // what cannot be looked at may have changed
+        ++revision_; // a file that cannot be examined may have changed
     }
     return revision_;
 }
 
-/// Runs the operation on a database with a table; on none, or an empty one, there is nothing to read.
+/// Runs the operation on a database with a table; without one, or with an empty one, there is nothing to
+/// read.
 bool SqlitePreferencesDomain::read(const Operation& operation) {
     lastReadSucceeded_ = attempt(Access::read, [&] {
         const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::shared, lockPatience_);
@@ -182,7 +183,7 @@ bool SqlitePreferencesDomain::read(const Operation& operation) {
     return lastReadSucceeded_;
 }
 
-/// Makes the change in one transaction, creating the file before if there is none.
+/// Makes the change in one transaction. Creates the file first if there is none.
 bool SqlitePreferencesDomain::write(const std::function<void(sqlite::Connection&)>& change) {
     return attempt(Access::write, [&] {
         files::createPrivateDirectory(file_.parent_path());
@@ -200,8 +201,8 @@ void SqlitePreferencesDomain::writeLocked(const std::function<void(sqlite::Conne
     }
     connection_->execute("PRAGMA synchronous = EXTRA");
     sqlite::Transaction transaction(*connection_, sqlite::Transaction::Kind::write);
-    // Looked at again now that nobody else can write: another process may just have created the table, or a
-    // later version of the program changed it.
+    // The state is read again now that nobody else can write: another process may just have created the
+    // table, or a later version of the program changed it.
     state_ = preferences_schema::stateOf(*connection_);
     requireUsable();
     if (state_ == State::empty) {
@@ -213,8 +214,8 @@ void SqlitePreferencesDomain::writeLocked(const std::function<void(sqlite::Conne
     ++revision_;
 }
 
-/// Runs the operation. Damage that it meets is set aside and the operation run again on what is there then;
-/// any other failure is reported, and the file opened afresh by the next operation.
+/// Runs the operation. If it meets damage, sets the file aside and runs the operation again on what is there
+/// then; any other failure is reported, and the next operation opens the file afresh.
 bool SqlitePreferencesDomain::attempt(Access access, const Operation& operation) {
     lockPatience_.beginOperation();
     constexpr int attempts = 5; // others may damage or replace the file meanwhile, but not for ever
@@ -252,7 +253,7 @@ bool SqlitePreferencesDomain::attempt(Access access, const Operation& operation)
     return false;
 }
 
-/// False when there is no file. Otherwise it is open afterwards, in whatever state it is.
+/// Returns false when there is no file. Otherwise the file is open afterwards, in whatever state it is.
 bool SqlitePreferencesDomain::open() {
     struct stat status {};
     if (stat(file_.c_str(), &status) != 0) {
@@ -268,7 +269,7 @@ bool SqlitePreferencesDomain::open() {
     state_ = State::damaged;
     try {
         const sqlite::Transaction transaction(connection, sqlite::Transaction::Kind::read);
-        // The version comes first: a change made after it is noticed by the next operation.
+        // The version is read first, so that the next operation notices a change made after it.
         dataVersion_ = connection.integerOf("PRAGMA data_version");
         const State state = preferences_schema::stateOf(connection);
         if (state != State::current || preferences_schema::isSound(connection)) {
@@ -332,7 +333,7 @@ void SqlitePreferencesDomain::setDamagedFileAside() {
         return;
     }
     const std::filesystem::path name = files::setAside(file_);
-    // Closed before others may go on, for closing can remove journals by their path.
+    // The file is closed before others may go on, because closing can remove journals by their path.
     close();
     report_("the preferences in " + file_.string() + " are damaged; they were kept as " +
             name.filename().string() + " and all preferences start afresh");

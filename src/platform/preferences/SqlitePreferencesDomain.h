@@ -29,17 +29,17 @@ namespace tovrel {
 /// later version of this one, is left alone: it reads as empty and every write is refused.
 ///
 /// Every operation holds the file's directory locked in shared mode, and setting aside holds it exclusively.
-/// So a file is never taken away under a write, and of several processes that find the same damage one sets
-/// the file aside while the others notice that their open file is gone from its path and open what is there
-/// now.
+/// A file is therefore never taken away under a write, and of several processes that find the same damage one
+/// sets the file aside while the others notice that their open file is gone from its path and open what is
+/// there now.
 class SqlitePreferencesDomain : public PreferencesDomain {
   public:
     /// Receives one line, without a line break, for each event worth telling the user.
     using Reporter = std::function<void(const std::string&)>;
 
-    /// Of a command that is run by itself: in each operation it may wait for another process's lock.
+    /// For a command that runs by itself: each operation may wait this long for locks of other processes.
     static constexpr LockPatience::Terms unhurried{std::chrono::seconds(5), {}};
-    /// Of a program whose user waits for the next picture: the palette opens after a dozen reads in well
+    /// For a program whose user waits for the next picture: the palette opens after a dozen reads in well
     /// under a second, and the sum of its waits must stay unnoticed.
     static constexpr LockPatience::Terms interactive{std::chrono::milliseconds(100), std::chrono::seconds(1)};
 
@@ -81,11 +81,11 @@ class SqlitePreferencesDomain : public PreferencesDomain {
     LockPatience lockPatience_;
     std::optional<sqlite::Connection> connection_;
     preferences_schema::State state_ = preferences_schema::State::empty; ///< Of `connection_`.
-    std::int64_t dataVersion_ = 0; ///< Of `connection_`; SQLite changes it with other connections' commits.
+    std::int64_t dataVersion_ = 0; ///< As `connection_` last read it; commits of other connections change it.
     std::uint64_t revision_ = 0;
     bool lastReadSucceeded_ = true;
     PreferencesFailure lastFailure_;
-    /// Keys whose last read failed, with what stood in the way.
+    /// Keys whose last read failed, and the reason why.
     std::map<std::string, PreferencesObstacle> unreadKeys_;
     std::set<std::string> reportedReasons_;
 };

@@ -12,7 +12,7 @@
 namespace tovrel {
 namespace {
 
-/// Restores a variable of the environment at its end.
+/// Restores a variable of the environment on destruction.
 class Variable {
   public:
     Variable(const char* name, const std::string& value) : name_(name) {

@@ -21,7 +21,7 @@ const std::string notUtf8("\xFF\0\n\xC3", 4);
 
 class PreferencesCommands : public testing::Test {
   protected:
-    /// What a command printed; it must have succeeded in silence.
+    /// The output of a command, which must succeed and print no error.
     template <typename Command>
     std::string outputOf(const Command& command) {
         std::ostringstream out;
@@ -31,7 +31,7 @@ class PreferencesCommands : public testing::Test {
         return out.str();
     }
 
-    /// The line of an unsuccessful command.
+    /// The one error line of a command that fails with the status.
     template <typename Command>
     std::string failureOf(int status, const Command& command) {
         std::ostringstream error;

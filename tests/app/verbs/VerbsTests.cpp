@@ -47,7 +47,7 @@ class Verbs : public testing::Test {
 
     using Verb = int (*)(const verbs::Context&);
 
-    /// The exit status.
+    /// Runs the verb and returns the exit status.
     int run(Verb verb, const command_line::Invocation& invocation) {
         output_.str("");
         error_.str("");
@@ -188,7 +188,7 @@ TEST_F(Verbs, AReadThatFellShortIsReportedBesideWhatArrived) {
     EXPECT_EQ(run(verbs::menus, invocation), 1);
     EXPECT_EQ(output_.str(), "[]\n");
     EXPECT_THAT(error_.str(), HasSubstr("showing the 0 items read before that\n"));
-    EXPECT_EQ(run(verbs::commands, {}), 1); // custom commands come from elsewhere
+    EXPECT_EQ(run(verbs::commands, {}), 1); // the custom command does not come from the application
     EXPECT_EQ(output_.str(), "Saver (Open)\n");
     EXPECT_THROW(run(verbs::record, {}), Failure);
 
@@ -198,7 +198,7 @@ TEST_F(Verbs, AReadThatFellShortIsReportedBesideWhatArrived) {
     EXPECT_EQ(run(verbs::menus, {}), 1);
     EXPECT_EQ(error_.str(), "tovrel: Editor shows no menu bar\n");
     source_.shortfall = [] { return std::nullopt; };
-    EXPECT_EQ(run(verbs::menus, {}), 0); // it was read, and is empty
+    EXPECT_EQ(run(verbs::menus, {}), 0); // the menus were read, and are empty
     EXPECT_EQ(error_.str(), "");
 }
 
@@ -219,7 +219,7 @@ TEST_F(Verbs, PressPressesTheItemOrSaysWhyNot) {
     EXPECT_EQ(save_->performedActions().size(), 2U);
 }
 
-TEST_F(Verbs, ARecordingGivesTheVeryResultOfTheApplication) {
+TEST_F(Verbs, ARecordingGivesTheSameResultsAsTheApplication) {
     command_line::Invocation invocation;
     invocation.asJson = true;
     invocation.queries = {"save", "", "ausge", "s", "zzz", "wrap"};

@@ -19,7 +19,7 @@ def start_accessibility_bus(session_address):
 
 
 def switch_accessibility(session_address, is_on):
-    """Whether toolkits publish their user interface."""
+    """Tells toolkits whether to publish their user interface."""
     session = BusConnection(session_address)
     try:
         session.set(*LAUNCHER, "org.a11y.Status", "IsEnabled", GLib.Variant("b", is_on))

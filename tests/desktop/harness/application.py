@@ -22,7 +22,7 @@ class Application:
         return self._desktop.witness.application(self.pid)
 
     def text(self):
-        """What its text view holds, or None while it has none."""
+        """The content of its text view, or None while it has none."""
         view = self.tree.find("text") if self.tree else None
         return view.text if view else None
 

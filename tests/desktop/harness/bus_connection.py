@@ -6,7 +6,7 @@ CALL_TIMEOUT_MS = 5000
 
 
 class BusConnection:
-    """A connection to one bus. Nothing is cached and nothing is called that was not asked for."""
+    """A connection to one bus. It caches nothing and makes no calls of its own."""
 
     def __init__(self, address):
         flags = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
@@ -18,19 +18,19 @@ class BusConnection:
                                           Gio.DBusCallFlags.NONE, CALL_TIMEOUT_MS, None).unpack()
 
     def send(self, name, path, interface, method):
-        """Makes a call without arguments whose answer is not waited for. It arrives before what is called next."""
+        """Makes a call without arguments and does not wait for the answer. It arrives before later calls."""
         self._connection.call(name, path, interface, method, None, None, Gio.DBusCallFlags.NONE, CALL_TIMEOUT_MS,
                               None, None)
 
     def listen(self, interface, member, first_argument, heard):
-        """Calls `heard` with the sender and the path of each such signal, whoever sends it, when `hear` is called."""
+        """Has `hear` call `heard` with the sender and the path of each such signal, whoever sends it."""
         self._connection.signal_subscribe(None, interface, member, None, first_argument, Gio.DBusSignalFlags.NONE,
                                           lambda _connection, sender, path, *_: heard(sender, path))
 
     def serve(self, name, path, interface, methods, properties=None):
-        """Takes the name and answers calls to an object with that interface, given as XML, when `hear` is called
-        or a loop runs. Each of `methods` takes a call's arguments and returns the answer's type and value, or None
-        for an empty one; each of `properties` is its type and value."""
+        """Takes the name, and has `hear`, or a loop that runs, answer calls to an object with that interface, given
+        as XML. Each of `methods` takes a call's arguments and returns the answer's type and value, or None for an
+        empty answer; each of `properties` is its type and value."""
         def answer(_connection, _sender, _path, _interface, method, arguments, invocation):
             values = methods[method](*arguments.unpack())
             invocation.return_value(GLib.Variant(*values) if values else None)
@@ -58,6 +58,6 @@ class BusConnection:
                   GLib.Variant("(ssv)", (interface, prop, value)))
 
     def close(self):
-        # The bus may be gone by now.
+        # The bus may have ended meanwhile.
         if not self._connection.is_closed():
             self._connection.close_sync(None)

@@ -24,16 +24,16 @@ DEFAULT_SIZE = (1280, 800)
 
 
 class Desktop:
-    """A context manager: entered, there is a desktop; left in whatever way, nothing of it remains.
+    """A context manager whose desktop exists while it is entered; nothing of it remains, however it is left.
 
-    At most one is entered at a time in a process, because leaving it ends every process that came to be
+    At most one is entered at a time in a process, because leaving it ends every process that was started
     below this one meanwhile."""
 
     _entered = False
 
     def __init__(self, size=DEFAULT_SIZE, with_buses=True, window_manager=("openbox", "--sm-disable")):
-        """`with_buses`: without them there are windows, but no session bus and no accessibility.
-        `window_manager`: how it is started, or None for a desktop that has none."""
+        """Without `with_buses` there are windows, but no session bus and no accessibility. `window_manager` is the
+        command that starts one, or None for a desktop without any."""
         self._size = size
         self._with_buses = with_buses
         self._window_manager = window_manager
@@ -49,7 +49,7 @@ class Desktop:
         require("Xvfb", *(self._window_manager or ())[:1], "dbus-daemon", "xdotool", "xprop", "import", "display", "setpriv")
         raise_on_ending_signals()
         Desktop._entered = True
-        # Also when an exception passes the test runner by.
+        # The desktop is closed even when an exception bypasses the test runner.
         atexit.register(self.close)
         try:
             self._set_up()
@@ -92,7 +92,7 @@ class Desktop:
         wait_until(lambda: self.front_window() == window, "the window to come to the front")
 
     def front_window(self):
-        """The active window as the window manager says, or else that with the input focus; None without one."""
+        """The active window according to the window manager, else the one with the input focus; None without any."""
         return self.windows.active() if self._window_manager else self.windows.focused()
 
     def end(self, application):
@@ -111,12 +111,12 @@ class Desktop:
         wait_until(self.windows.has_window_manager, "the window manager")
 
     def kill_window_manager(self):
-        """It cannot tidy up: what it has said on the display stays there."""
+        """Kills it, so that it cannot tidy up: its announcements on the display stay there."""
         self._window_manager_process.kill()
         self._window_manager_process.wait()
 
     def replace_session_bus(self):
-        """Ends the session bus and starts another one at the same address. Who was on the first is on none."""
+        """Ends the session bus and starts another one at the same address. Clients of the first are then on none."""
         self.processes.end(self._session_bus)
         self._session_bus = start_session_bus(self.processes, self.environment)
 
@@ -139,8 +139,8 @@ class Desktop:
             self._session_bus = start_session_bus(self.processes, self.environment)
             self.witness = Witness(start_accessibility_bus(self.environment["DBUS_SESSION_BUS_ADDRESS"]))
             self._teardown.callback(self.witness.close)
-        # The first key pressed on a display makes every client read the keyboard's layout anew, and a window
-        # manager that does so misses keys; so it is pressed before there is one.
+        # A key is pressed before there is a window manager, because the first key on a display makes every client
+        # read the keyboard's layout anew, and a window manager that does so misses keys.
         self.windows.press_keys("Shift_L")
         if self._window_manager:
             self.start_window_manager()

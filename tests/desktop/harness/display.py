@@ -39,6 +39,6 @@ def start_display(processes, root, environment, size):
 
 
 def _authority_record(cookie):
-    """An authority file of one entry that is good for any display number."""
+    """An authority file with one entry that is valid for any display number."""
     fields = (b"", b"", b"MIT-MAGIC-COOKIE-1", cookie)
     return struct.pack(">H", FAMILY_WILD) + b"".join(struct.pack(">H", len(field)) + field for field in fields)

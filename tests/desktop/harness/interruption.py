@@ -1,4 +1,4 @@
-"""Turning the signals that end a program into exceptions, so that everything started is taken down."""
+"""Turns the signals that end a program into exceptions, so that everything started is taken down."""
 
 import signal
 
@@ -10,7 +10,7 @@ class Interrupted(KeyboardInterrupt):
 
 
 def raise_on_ending_signals():
-    """From now on a request to end raises Interrupted in the main thread, as Ctrl-C raises KeyboardInterrupt."""
+    """Makes a request to end raise Interrupted in the main thread, as Ctrl-C raises KeyboardInterrupt."""
     def interrupt(number, _frame):
         raise Interrupted(signal.Signals(number).name)
     for number in ENDING_SIGNALS:
@@ -18,7 +18,7 @@ def raise_on_ending_signals():
 
 
 class undisturbed:
-    """While entered, requests to end and Ctrl-C are ignored: for taking things down."""
+    """Ignores requests to end and Ctrl-C while entered, for taking things down."""
 
     def __enter__(self):
         self._before = {number: signal.signal(number, signal.SIG_IGN)

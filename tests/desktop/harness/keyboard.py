@@ -14,7 +14,7 @@ _errors = []
 
 @ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p, ctypes.c_void_p)
 def _note_error(_display, _event):
-    """In place of the library's own, which ends the process."""
+    """Replaces the library's own handler, which ends the process."""
     _errors.append(True)
     return 0
 
@@ -67,7 +67,7 @@ class Keyboard:
         return self
 
     def chord(self, *keys):
-        """All keys down in this order, and up in the opposite one."""
+        """Presses all keys in this order, and releases them in the opposite one."""
         return self.hold(*keys).release(*reversed(keys))
 
     def type(self, text):
@@ -79,7 +79,7 @@ class Keyboard:
         self._x11.XFlush(self._display)
 
     def seconds_held(self):
-        """Since keys went down last."""
+        """The seconds since keys were last pressed."""
         return time.monotonic() - self._held_since
 
     def is_any_key_down(self):
@@ -106,7 +106,7 @@ class Keyboard:
         return answer == 0
 
     def take_hot_key(self, key):
-        """Grabs Control, Shift and the key, as another program's hot key, until this is closed. False when
+        """Grabs Control, Shift and the key until this is closed, as another program's hot key would. False when
         another program has them."""
         modifiers, asynchronous = 0x5, 1
         _errors.clear()
@@ -124,7 +124,7 @@ class Keyboard:
 
 @contextlib.contextmanager
 def _authority_of(environment):
-    """The library finds the display's cookie by this process's environment."""
+    """Sets this process's environment, in which the library looks for the display's cookie."""
     with _environment_lock:
         before = os.environ.get("XAUTHORITY")
         os.environ["XAUTHORITY"] = environment.get("XAUTHORITY", "")

@@ -1,4 +1,4 @@
-"""A real locale for the private desktop. A fresh Debian has none but C.UTF-8, in which some things differ from what
+"""A real locale for the private desktop. A fresh Debian has only C.UTF-8, where some results differ from those that
 people see: ICU would order titles by ASCII there."""
 
 import contextlib
@@ -13,7 +13,7 @@ FOLDER = Path(__file__).resolve().parents[3] / "build" / "locales"
 
 
 def locale_folder():
-    """The folder for LOCPATH that holds the locale, compiled when it is needed first."""
+    """The folder for LOCPATH that holds the locale, which is compiled when it is first needed."""
     compiled = FOLDER / LOCALE
     if not compiled.is_dir():
         require("localedef", "/usr/share/i18n/locales/en_US")

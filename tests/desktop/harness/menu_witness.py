@@ -1,4 +1,4 @@
-"""What an application's menu bar holds, read by the witness."""
+"""The contents of an application's menu bar, read by the witness."""
 
 from dataclasses import dataclass
 
@@ -14,7 +14,7 @@ class MenuEntry:
 
 
 def menu_entries(application_root):
-    """Every titled menu and item that the user can see, in order, menus before what they hold."""
+    """Every titled menu and item that the user can see, in order, each menu before its items."""
     is_qt = application_root.toolkit == "Qt"
     return list(_entries(application_root.find("menu bar"), (), True, is_qt))
 

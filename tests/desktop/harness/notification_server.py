@@ -17,7 +17,7 @@ INTERFACE = f"""
 
 
 class NotificationServer:
-    """One on a session bus, until it is closed."""
+    """A server on a session bus, until it is closed."""
 
     def __init__(self, session_address, reads_markup):
         self._capabilities = ["body", *["body-markup"] * reads_markup]
@@ -29,7 +29,7 @@ class NotificationServer:
         self._bus.close()
 
     def shown(self):
-        """The bodies, the oldest first."""
+        """The bodies of all notifications, the oldest first."""
         self._bus.hear()
         return self._shown
 

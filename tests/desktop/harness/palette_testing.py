@@ -1,4 +1,4 @@
-"""What the tests of the palette have in common."""
+"""The common part of the tests of the palette."""
 
 import json
 
@@ -27,7 +27,7 @@ class PaletteTestCase(DesktopTestCase):
         self.tovrel.expect("preferences", "write", key, "--json", json.dumps(document))
 
     def history(self):
-        """Command ids with how often each was used."""
+        """The command ids in the history, each with its number of uses."""
         answer = self.tovrel.run("preferences", "read", "Tovrel.commandHistory")
         if answer.status != 0:
             return {}
@@ -45,7 +45,7 @@ class PaletteTestCase(DesktopTestCase):
         self.wait_until(lambda: self.resident.query() == text, f"{text!r} in the search field")
 
     def wait_until_asked(self, palette):
-        """Waits for a question over the palette, whose window is given."""
+        """Waits for a question over the palette, whose window is `palette`."""
         self.wait_until(lambda: self.desktop.front_window() not in (None, palette) and self.resident.has_focus(),
                         "the question")
 

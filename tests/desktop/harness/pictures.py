@@ -8,12 +8,12 @@ PICTURE_TIMEOUT = 30
 
 def paint_background(environment, size):
     """Gives the root window a quiet background, so that windows stand out in pictures."""
-    # Its exit status is 1 even when it has painted; nothing but the looks depends on it.
+    # The exit status is ignored: it is 1 even after painting, and only the looks depend on it.
     _run(environment, "display", "-size", f"{size[0]}x{size[1]}", "-window", "root", "gradient:#5b7c99-#2c3e50")
 
 
 def take_picture(environment, path):
-    """Saves what the display shows as a PNG."""
+    """Saves the content of the display as a PNG."""
     Path(path).parent.mkdir(parents=True, exist_ok=True)
     answer = _run(environment, "import", "-window", "root", str(path))
     if answer.returncode != 0:

@@ -1,4 +1,4 @@
-"""The processes below this one, as the kernel tells them, orphans included."""
+"""The processes below this one, orphans included, from the kernel."""
 
 import ctypes
 import os
@@ -7,8 +7,8 @@ PR_SET_CHILD_SUBREAPER = 36
 
 
 def adopt_orphans(adopt):
-    """Makes this process the parent of every process below it whose own parent ends, so that a daemon which a
-    bus started on demand is still found and ended; or no longer."""
+    """Makes this process the parent of every process below it whose own parent ends, or stops doing so. A daemon
+    that a bus started on demand is thus still found and ended."""
     libc = ctypes.CDLL(None, use_errno=True)
     if libc.prctl(PR_SET_CHILD_SUBREAPER, int(adopt), 0, 0, 0) != 0:
         raise OSError(ctypes.get_errno(), "prctl(PR_SET_CHILD_SUBREAPER)")
@@ -28,13 +28,13 @@ def descendants(ancestor):
 
 
 def is_alive(process_id):
-    """False also for a process that has ended and whose status nobody has taken yet."""
+    """Whether the process runs; false also for one that has ended and whose status nobody has taken yet."""
     return _living_parent(str(process_id)) is not None
 
 
 def reap_orphans(children_of_others):
     """Takes the exit status of adopted processes that have ended; those in `children_of_others` are left to
-    whoever started them."""
+    the code that started them."""
     own = str(os.getpid())
     for entry in os.listdir("/proc"):
         if not entry.isdigit() or int(entry) in children_of_others:

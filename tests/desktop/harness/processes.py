@@ -13,13 +13,13 @@ GRACE = 3.0
 
 
 class Processes:
-    """Starts processes, each with its output in a log file, and ends every one of them, and whatever they
-    started in turn, when it is closed. Should this process be killed itself, the kernel ends them."""
+    """Starts processes, each with its output in a log file. Closing it ends all of them and everything they
+    started in turn. If this process is killed itself, the kernel ends them."""
 
     def __init__(self, log_directory):
         self._log_directory = Path(log_directory)
         self._started = []
-        # Only what came to be later is ended; there may be processes of the caller.
+        # Only processes that start later are ended; the caller may have some of its own.
         self._before = set(descendants(os.getpid()))
         adopt_orphans(True)
 
@@ -46,7 +46,7 @@ class Processes:
         self._end(lambda: [process.pid] if process.poll() is None else [])
 
     def close(self):
-        """Ends everything that came to be below this process since construction."""
+        """Ends every process that was started below this one since construction."""
         self._end(self._remaining)
         adopt_orphans(False)
         for process in self._started:

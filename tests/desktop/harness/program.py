@@ -12,7 +12,7 @@ ANSWER_DEADLINE = 60
 
 @dataclass(frozen=True)
 class Answer:
-    """What one run of the program gave."""
+    """The outcome of one run of the program."""
 
     status: int
     output: str
@@ -24,7 +24,7 @@ class Answer:
 
 
 class Program:
-    """The `tovrel` program on a desktop, or in whatever environment is given."""
+    """The `tovrel` program on a desktop, or in another environment."""
 
     def __init__(self, environment, path=None):
         self.path = Path(path or os.environ.get("TOVREL_PROGRAM", ""))
@@ -33,14 +33,14 @@ class Program:
         self._environment = environment
 
     def run(self, *arguments, environment=None, deadline=ANSWER_DEADLINE):
-        """Runs it to its end and returns the answer, whatever the exit status; raises after so many seconds."""
+        """Runs it to its end and returns the answer, whatever the exit status; raises after `deadline` seconds."""
         answer = subprocess.run([self.path, *map(str, arguments)], env=environment or self._environment,
                                 stdin=subprocess.DEVNULL, capture_output=True, text=True, encoding="utf-8",
                                 errors="surrogateescape", timeout=deadline, check=False)
         return Answer(answer.returncode, answer.stdout, answer.stderr)
 
     def expect(self, *arguments, environment=None, deadline=ANSWER_DEADLINE):
-        """As `run`, but a failure of the program is a failure of the test."""
+        """Does the same as `run`, but a failure of the program is a failure of the test."""
         answer = self.run(*arguments, environment=environment, deadline=deadline)
         if answer.status != 0:
             raise AssertionError(f"tovrel {' '.join(map(str, arguments))} ended with status {answer.status}: "

@@ -9,11 +9,11 @@ NAME = "com.canonical.AppMenu.Registrar"
 
 
 def start_registrar(session_address):
-    """Starts it as a panel does, which holds it: it ends some seconds after its start otherwise."""
+    """Starts it and holds it as a panel does; otherwise it ends some seconds after its start."""
     bus = BusConnection(session_address)
 
     def answers():
-        # It owns its name a moment before.
+        # It owns its name a moment before it answers.
         try:
             bus.call(NAME, "/com/canonical/AppMenu/Registrar", NAME, "GetMenus")
         except GLib.Error:
@@ -22,7 +22,7 @@ def start_registrar(session_address):
 
     try:
         wait_until(answers, "the registrar of application menus")
-        # This one it obeys without an answer.
+        # It obeys this call without an answer.
         bus.send(NAME, "/Registrar", "org.valapanel.AppMenu.Registrar", "Reference")
         wait_until(answers, "the registrar to be held")
     finally:

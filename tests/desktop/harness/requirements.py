@@ -1,4 +1,4 @@
-"""Which programs the private desktop needs, and the Debian packages they come in."""
+"""The programs that the private desktop needs, and the Debian packages they come in."""
 
 import os
 import shutil

@@ -10,8 +10,8 @@ HOT_KEY = ("ctrl", "shift", "p")
 
 
 class Resident:
-    """The program as it was started without a verb. What it prints goes to `output` and `errors`, unless a
-    device is named that all of it goes to."""
+    """The program started without a verb. Its output goes to `output` and `errors`, or all of it to a device if
+    one is named."""
 
     def __init__(self, desktop, directory, environment=None, program=None, prints_to=None):
         self._desktop = desktop
@@ -48,7 +48,7 @@ class Resident:
         return self.status()["paletteVisible"]
 
     def end(self):
-        """Ends it if it still runs; its exit status."""
+        """Ends it if it still runs, and returns its exit status."""
         if self.process.poll() is None:
             self.process.terminate()
         return self.process.wait(timeout=20)
@@ -60,13 +60,13 @@ class Resident:
         return shown[0] if shown else None
 
     def has_focus(self):
-        """Whether one of its windows is in front, and knows it: before that it still asks for it."""
+        """Whether one of its windows is in front and has noticed; until then it still asks to be."""
         if self._desktop.front_window() not in self._desktop.windows.of_process(self.pid):
             return False
         return any("active" in frame.states for frame in self._frames())
 
     def query(self):
-        """What the search field holds."""
+        """The content of the search field."""
         field = self._find("text")
         return field.text if field else None
 
@@ -75,11 +75,11 @@ class Resident:
         return [row.name for row in self._rows()]
 
     def checked_rows(self):
-        """Of the rows on the screen, those with a check mark."""
+        """The rows on the screen that have a check mark."""
         return [row.name for row in self._rows() if "checked" in row.states]
 
     def _rows(self):
-        """In the order in which they are shown; each says of itself which one it is, as in "2 of 7"."""
+        """The rows in the order shown; each tells its own position, as in "2 of 7"."""
         results = self._find("list")
         shown = [row for row in results.children if "showing" in row.states] if results else []
         return sorted(shown, key=lambda row: int(row.description.split()[0]))

@@ -7,8 +7,8 @@ from .waiting import wait_until
 
 
 def start_session_bus(processes, environment):
-    """Starts a session bus, sets DBUS_SESSION_BUS_ADDRESS and returns the bus's process. What the bus starts on demand gets the
-    environment as it is now, so the display must be there already."""
+    """Starts a session bus, sets DBUS_SESSION_BUS_ADDRESS and returns the bus's process. Programs that the bus
+    starts on demand get the present environment, so the display must be there already."""
     socket = Path(environment["XDG_RUNTIME_DIR"]) / "bus"
     daemon = processes.start(
         ["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address=unix:path={socket}"], environment)
@@ -23,7 +23,7 @@ def start_session_bus(processes, environment):
 
 
 def accepts_connections(socket):
-    """The socket's file is there a moment before the bus listens on it."""
+    """Whether the bus listens; the socket's file is there a moment before."""
     with sockets.socket(sockets.AF_UNIX) as attempt:
         try:
             attempt.connect(str(socket))

@@ -6,9 +6,9 @@ from gi.repository import GLib
 
 from .waiting import TimedOut, wait_until
 
-# More steps than a page has controls: after so many, the focus has been everywhere.
+# More steps than a page has controls, so that the focus has been everywhere after them.
 MOST_STEPS = 60
-# As many turns of the mouse wheel go from one end of a page to the other.
+# The turns of the mouse wheel from one end of a page to the other.
 MOST_TURNS = 10
 UP, DOWN = 4, 5
 
@@ -22,7 +22,7 @@ class SettingsWindow:
         self._keyboard = keyboard
 
     def open(self, tovrel):
-        """By the command line; waits until it has the keyboard."""
+        """Opens it by the command line, and waits until it has the keyboard."""
         tovrel.expect("settings")
         wait_until(self.has_focus, "the settings window to be in front")
 
@@ -42,7 +42,7 @@ class SettingsWindow:
 
     def focused(self):
         """The node that has the keyboard focus, or None."""
-        # What holds the one with the focus may say that it has it, too.
+        # A container of the focused node may call itself focused, too.
         return self._last(lambda node: "focused" in node.states)
 
     def node(self, name, role):
@@ -54,7 +54,7 @@ class SettingsWindow:
         return self._all(lambda node: node.role == role and "showing" in node.states)
 
     def wait_for(self, name, role):
-        """Waits until it is on the screen, and looks for it all over the page."""
+        """Waits until the control is on the screen, and scrolls through the page for it."""
         directions = itertools.cycle([DOWN] * MOST_TURNS + [UP] * MOST_TURNS)
 
         def found():
@@ -91,7 +91,7 @@ class SettingsWindow:
         self.press(" ")
 
     def write(self, name, text):
-        """Replaces what the field with that name holds."""
+        """Replaces the content of the field with that name."""
         self.focus(name, "text")
         self.press("ctrl", "a")
         self.type(text)
@@ -112,7 +112,7 @@ class SettingsWindow:
                    "the focus to be back on the picker")
 
     def segment(self, group, steps):
-        """Moves the choice of a group of segments by so many to the right, or to the left below 0."""
+        """Moves the choice of a group of segments by `steps` to the right, or to the left if negative."""
         self.focus(group, "panel")
         for _ in range(abs(steps)):
             self.press("Right" if steps > 0 else "Left")
@@ -128,7 +128,7 @@ class SettingsWindow:
         tree = self._desktop.witness.application(self._resident.pid)
         try:
             for frame in tree.children if tree else []:
-                # The palette is the other window of this name.
+                # The palette has a window of the same name.
                 if "showing" in frame.states and any(node.role == "page tab list" for node in frame.walk()):
                     return frame
         except GLib.Error:
@@ -142,7 +142,7 @@ class SettingsWindow:
         return next(iter(self._all(is_wanted)[::-1]), None)
 
     def _all(self, is_wanted):
-        """In reading order; none while nodes vanish."""
+        """All such nodes in reading order; none while nodes vanish."""
         frame = self._frame()
         try:
             return [node for node in frame.walk() if is_wanted(node)] if frame else []

@@ -1,4 +1,4 @@
-"""A program whose main thread does not go on, for whatever reason, while its other threads do."""
+"""A program whose main thread stands still, for whatever reason, while its other threads go on."""
 
 import contextlib
 import ctypes

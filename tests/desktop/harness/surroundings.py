@@ -5,7 +5,7 @@ from pathlib import Path
 
 from .locales import LOCALE, locale_folder
 
-# What is passed on: where programs are found, and how sanitizers report.
+# The variables that are passed on: the path of programs, and the options of sanitizers.
 PASSED_ON = ("PATH", "TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "ASAN_SYMBOLIZER_PATH")
 
 
@@ -29,6 +29,6 @@ def private_environment(root):
     environment["LANG"] = LOCALE
     environment["LOCPATH"] = str(locale_folder())
     environment["TOVREL_PREFERENCES"] = str(Path(root) / "home" / "preferences.db")
-    # Applications keep their settings to themselves and need no daemon for them.
+    # Applications keep their settings in files of their own and need no daemon for them.
     environment["GSETTINGS_BACKEND"] = "memory"
     return environment

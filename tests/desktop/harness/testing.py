@@ -1,4 +1,4 @@
-"""What the desktop tests have in common."""
+"""The common part of the desktop tests."""
 
 import os
 import re
@@ -51,7 +51,7 @@ class DesktopTestCase(unittest.TestCase):
         return ranked[0]["command"]["id"]
 
     def assert_fails_in_one_line(self, answer, mentioning="", status=1):
-        """The program refused: the exit status, nothing on standard output, one line on standard error."""
+        """Checks that the program refused: the exit status, no standard output, one line on standard error."""
         self.assertEqual(answer.status, status, answer)
         self.assertEqual(answer.output, "")
         self.assertRegex(answer.errors, r"\Atovrel: [^\n]+\n\Z")

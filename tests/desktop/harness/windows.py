@@ -6,7 +6,7 @@ TOOL_TIMEOUT = 20
 
 
 class Windows:
-    """What is on the display, and real key presses."""
+    """The windows on the display, and real key presses."""
 
     def __init__(self, environment):
         self._environment = environment
@@ -18,7 +18,7 @@ class Windows:
 
     def active(self):
         """The active window, or None when there is none."""
-        # Read as it is: tools that look for the active window wait while there is none.
+        # The property is read directly, because tools that look for the active window wait while there is none.
         return self._window_property(None, "_NET_ACTIVE_WINDOW") or None
 
     def activate(self, window):
@@ -37,7 +37,7 @@ class Windows:
                                                     "Height"))
 
     def frame(self, window):
-        """As `geometry`, with what the window manager draws around the window."""
+        """The geometry including the frame that the window manager draws around the window."""
         left, top, width, height = self.geometry(window)
         answer = self._run("xprop", "-id", str(window), "_NET_FRAME_EXTENTS").stdout.rpartition("=")[2]
         extents = [int(number) for number in answer.split(",") if number.strip().isdigit()]
@@ -66,7 +66,7 @@ class Windows:
         self._xdotool("type", "--clearmodifiers", text)
 
     def turn_wheel(self, window, button):
-        """One turn of the mouse wheel (4 up, 5 down) over the middle of the window."""
+        """Turns the mouse wheel once (4 up, 5 down) over the middle of the window."""
         x, y, width, height = self.geometry(window)
         self._xdotool("mousemove", str(x + width // 2), str(y + height // 2), "click", str(button))
 
@@ -86,11 +86,11 @@ class Windows:
         self._xdotool("mouseup", "1")
 
     def flick(self, right, down):
-        """A drag that is over before anyone can have done anything about it."""
+        """Drags and releases before any program can react to the press."""
         self._xdotool("mousedown", "1", "mousemove_relative", "--", str(right), str(down), "mouseup", "1")
 
     def has_window_manager(self):
-        # It announces itself before it listens; then it tells, in an order of its own, of windows and focus.
+        # It announces itself before it listens, and publishes windows and focus after that, in an order of its own.
         announced = self._window_property(None, "_NET_SUPPORTING_WM_CHECK")
         return (announced is not None and self._window_property(announced, "_NET_SUPPORTING_WM_CHECK") == announced
                 and any(self._window_property(None, name) is not None
@@ -106,8 +106,8 @@ class Windows:
         self._xdotool("windowfocus", str(window))
 
     def _window_property(self, window, name):
-        """The first window that a property of a window, or of the root window, holds, 0 for an empty one; None
-        without the property."""
+        """The first window in a property of a window, or of the root window; 0 when it is empty, None without the
+        property."""
         place = ["-root"] if window is None else ["-id", str(window)]
         answer = self._run("xprop", *place, name).stdout
         if "window id #" not in answer:

@@ -1,5 +1,5 @@
-"""Reads what applications publish on the accessibility bus: the witness of what a command did. It shares no
-code with the program under test."""
+"""Reads the accessibility bus, as the witness of the effect of a command. It shares no code with the program under
+test."""
 
 from gi.repository import GLib
 
@@ -8,7 +8,7 @@ from .bus_connection import BusConnection
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 APPLICATIONS = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
 REGISTRY = ("org.a11y.atspi.Registry", "/org/a11y/atspi/registry")
-NULL_OBJECT = "/org/a11y/atspi/null"  # What Qt answers for a child that it cannot tell.
+NULL_OBJECT = "/org/a11y/atspi/null"  # Qt answers this for a child that it cannot name.
 ON_SCREEN = 0  # The coordinates that extents are asked in.
 STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "sensitive": 24, "showing": 25, "visible": 30}
 
@@ -31,14 +31,14 @@ class Witness:
         return None
 
     def hear_focus(self):
-        """From now on, what a screen reader hears of the focus."""
+        """The news of the focus that a screen reader hears from now on."""
         return FocusNews(self._bus)
 
     def close(self):
         self._bus.close()
 
     def _process_of(self, name):
-        # Answered by the bus itself, so an application that hangs cannot delay it.
+        # The bus itself answers, so an application that hangs cannot delay it.
         try:
             return self._bus.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
                                   "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)))[0]
@@ -47,7 +47,7 @@ class Witness:
 
 
 class FocusNews:
-    """The nodes that applications say have got the focus."""
+    """The nodes that have the focus according to their applications' signals."""
 
     def __init__(self, bus):
         self._bus = bus
@@ -57,7 +57,7 @@ class FocusNews:
         bus.listen("org.a11y.atspi.Event.Object", "StateChanged", "focused", self._note)
 
     def last(self):
-        """The name of the last one; None when it is gone by now, or when there was none."""
+        """The name of the last node to get the focus; None when it is gone, or when there was none."""
         self._bus.hear()
         try:
             return self._last and self._last.name
@@ -78,7 +78,7 @@ class Node:
 
     @property
     def identity(self):
-        """The same for the same node, as long as it is there."""
+        """A value that stays the same for a node as long as it exists."""
         return self._name, self._path
 
     @property
@@ -105,7 +105,7 @@ class Node:
 
     @property
     def toolkit(self):
-        """Of an application's root node, e.g. "gtk" or "Qt"."""
+        """The toolkit of an application's root node, e.g. "gtk" or "Qt"."""
         return self._bus.get(self._name, self._path, "org.a11y.atspi.Application", "ToolkitName")
 
     @property
@@ -126,12 +126,12 @@ class Node:
                               GLib.Variant("(u)", (ON_SCREEN,)))[0]
 
     def character_extents(self, offset):
-        """Left, top, width and height of a character of its text, as `extents`."""
+        """Left, top, width and height of a character of its text, in the units of `extents`."""
         return self._bus.call(self._name, self._path, "org.a11y.atspi.Text", "GetCharacterExtents",
                               GLib.Variant("(iu)", (offset, ON_SCREEN)))
 
     def act(self):
-        """Does the first thing that it offers: presses a button, opens a menu or closes it."""
+        """Performs the node's first action: presses a button, opens a menu or closes it."""
         self._bus.call(self._name, self._path, "org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
 
     def walk(self, below=lambda node: True):

@@ -10,17 +10,17 @@ from harness.waiting import TimedOut
 from .description import Running
 from .results import Results
 
-# Runs of the program of which the median is reported; never asserted.
+# The number of runs whose median time is reported, and never asserted.
 TIMED_RUNS = 9
 START_TIMEOUT = 60.0
-# Far above what the program takes to see that an application is gone.
+# Far above the time the program takes to see that an application is gone.
 NO_HANG = 5.0
-# Within which applications tell a change that they tell by themselves.
+# The time within which applications announce a change, if they do so by themselves.
 NOT_TOLD = 2.0
 
 
 class ToolkitChecks:
-    """Mixed into a DesktopTestCase that says of what application, as `description`."""
+    """Mixed into a DesktopTestCase whose `description` is that of the application."""
 
     description = None
 
@@ -48,7 +48,7 @@ class ToolkitChecks:
         self.source = ("--pid", application.pid)
 
     def run(self, result=None):
-        """Notes for the report whether the check holds."""
+        """Records for the report whether the check holds."""
         troubles = len(result.failures) + len(result.errors)
         skips = len(result.skipped)
         super().run(result)
@@ -57,7 +57,7 @@ class ToolkitChecks:
         return result
 
     def test_menus(self):
-        """Every menu of the bar is found, and items in each."""
+        """Every menu of the bar is found, with items in it."""
         description = self.description
         items = self._menus()
         self.assertEqual([item["title"] for item in items], list(description.menus))
@@ -86,7 +86,7 @@ class ToolkitChecks:
             self._press(toggle.path)
             self.wait_until(lambda: toggle.is_on(self.running) == is_on, f"{toggle.path} to be {is_on}")
             self.wait_until(lambda: self._is_marked(toggle.path) == is_on, f"the mark to be {is_on}")
-        # There are applications that stop taking keys when their menus are pressed in the wrong way.
+        # Some applications take no more keys when their menus are pressed in the wrong way.
         self.description.conditional.allow(self.running)
         self._wait_for_state(self.description.conditional, True)
 
@@ -120,8 +120,8 @@ class ToolkitChecks:
         self.wait_until(lambda: effect.is_there(self.running), effect.what)
 
     def test_dialog(self):
-        """The dialog that a command opens can be closed, and the application goes on: there are some that hang when
-        they are asked in the wrong way while one is open."""
+        """The dialog that a command opens can be closed, and the application goes on: some applications hang when
+        they are asked in the wrong way while a dialog is open."""
         if not self.description.dialog:
             self.skipTest("no dialog is described")
         self._prepare()
@@ -129,7 +129,7 @@ class ToolkitChecks:
         self._press(self.description.dialog)
         opened = self.wait_until(lambda: set(self.running.windows()) - set(before), "the dialog")
         self.desktop.bring_to_front(max(opened))
-        # Some take no keys at first.
+        # Some dialogs take no keys at first.
         def closed():
             self.running.press_keys("Escape")
             return self.running.windows() == before
@@ -140,7 +140,7 @@ class ToolkitChecks:
         self._wait_for_state(self.description.conditional, True)
 
     def test_stale(self):
-        """What could be pressed when it was read is refused when it cannot be any more, and nothing happens."""
+        """A command that was read as enabled is refused once it is disabled or renamed, and nothing happens."""
         self._prepare()
         conditional = self.description.stale or self.description.conditional
         conditional.allow(self.running)
@@ -150,7 +150,7 @@ class ToolkitChecks:
         self._wait_for_state(conditional, False)
         before = self._what_it_shows()
         self.assert_fails_in_one_line(self.tovrel.run("press", *self.source, command))
-        # What had been pressed by mistake would be carried out before this is answered.
+        # The application would carry out a mistaken press before it answers this.
         self._menus()
         self.assertEqual(self._what_it_shows(), before)
 
@@ -201,7 +201,7 @@ class ToolkitChecks:
         return self.running.titles(), self.running.text(), self.running.files()
 
     def _median_time(self, *arguments):
-        """Of one run of the program from its start to its end, in milliseconds."""
+        """The median time of a run of the program from its start to its end, in milliseconds."""
         def one_run():
             begun = time.monotonic()
             self.tovrel.expect(*arguments)

@@ -1,4 +1,4 @@
-"""What the checks of the matrix know of one application.
+"""The description of one application for the checks of the matrix.
 
 Wherever something is missing, the description says why in a field whose name begins with `no_`. The checks then
 prove that it is missing indeed, so that the description cannot outlive its reason."""
@@ -18,7 +18,7 @@ class Known:
 
     query: str
     path: Path_
-    # In the glyphs that are stored: Ctrl reads ⌘, Alt ⌥, Super ⌃.
+    # The shortcut in the stored glyphs: Ctrl reads ⌘, Alt ⌥, Super ⌃.
     shortcut: str | None
     no_shortcut: str = ""
 
@@ -41,14 +41,14 @@ class Choice:
 
 @dataclass(frozen=True)
 class Conditional:
-    """A command that can be chosen only at times. It cannot at first; `allow` and `forbid` change that as a
-    person would, by keys."""
+    """A command that can be chosen only at times, and not at first. `allow` and `forbid` change that by keys, as a
+    person would."""
 
     path: Path_
     what: str
     allow: Callable[["Running"], None]
     forbid: Callable[["Running"], None]
-    # What makes the application tell the change, where it does not at once; why is in `no_state`.
+    # Makes an application tell the change that does not do so at once; the reason is in `no_state`.
     refresh: Callable[["Running"], None] | None = None
     no_state: str = ""
 
@@ -66,7 +66,7 @@ class Effect:
 class Description:
     name: str
     toolkit: str
-    # The Debian package whose version is reported, and the others that it takes.
+    # The Debian package whose version is reported, and the further packages that are needed.
     package: str
     # Writes the document into the directory and returns the command line.
     command: Callable[[Path], list]
@@ -79,23 +79,23 @@ class Description:
     dialog: Path_ | None = None
     # A command that is gone, rather than disabled, when it was read and then forbidden.
     stale: Conditional | None = None
-    # Where the application has one that can be seen to change outside its menu.
+    # Present where the application has one whose change can be seen outside its menu.
     choice: Choice | None = None
     more_packages: Path_ = ()
-    # Run to its end before, with the same directory.
+    # A command that is run to its end first, with the same directory.
     first_command: Callable[[Path], list] | None = None
     environment: dict = field(default_factory=dict)
     # Whether it has read the document.
     is_ready: Callable[["Running"], bool] = lambda running: True
-    # What is to be done before the menus can be read, and why.
+    # The step that is needed before the menus can be read, and the reason.
     prepare: Callable[["Running"], None] | None = None
     no_menus_before: str = ""
-    # How the application was found to be, for the report.
+    # The findings about the application, for the report.
     notes: str = ""
 
 
 class Running:
-    """The application while the checks run: what descriptions may ask and do."""
+    """The application while the checks run, with the questions and actions that descriptions may use."""
 
     def __init__(self, application, desktop, directory):
         self.application = application
@@ -107,7 +107,7 @@ class Running:
         return self.application.tree
 
     def find(self, role, name=None, showing=True):
-        """The first such node of the application's windows outside the menus, or None."""
+        """The first such node in the application's windows, outside the menus, or None."""
         return self.tree.find(role, name, showing)
 
     def text(self):
@@ -117,7 +117,7 @@ class Running:
         return wait_until(condition, what)
 
     def look_into(self, *titles):
-        """Opens the menu of the bar, then the menus below it, and closes them, as a person does who looks."""
+        """Opens the menu of the bar, then the menus below it, and closes them, as a person does to look."""
         menu = self.find("menu bar")
         before = self.windows()
         for number, title in enumerate(titles, 1):
@@ -136,13 +136,13 @@ class Running:
         self.desktop.windows.type_text(text)
 
     def titles(self):
-        """Of all its visible windows."""
+        """The titles of all its visible windows."""
         return sorted(self.desktop.windows.title(window) for window in self.windows())
 
     def files(self):
-        """What the files of the directory hold, by name."""
+        """The contents of the files of the directory, by name."""
         return {file.name: file.read_bytes() for file in sorted(self.directory.iterdir()) if file.is_file()}
 
     def windows(self):
-        """Those that are visible."""
+        """The visible windows."""
         return self.desktop.windows.of_process(self.application.pid)

@@ -32,5 +32,5 @@ DESCRIPTION = Description(
     dialog=("Options", "Preferences"),
     notes="""\
 Items, shortcuts, states and check marks come over the accessibility bus. An item that can be checked looks like any
-other until it is. Accessibility must have been switched on when the application was started.""",
+other while it is unchecked. Accessibility must have been switched on when the application was started.""",
 )

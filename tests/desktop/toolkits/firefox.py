@@ -4,7 +4,7 @@ import json
 
 from .description import Conditional, Description, Effect, Known, Toggle
 
-# Without pages of welcome and questions to servers.
+# No welcome pages, and no requests to servers.
 PREFERENCES = {
     "app.normandy.enabled": False,
     "browser.aboutwelcome.enabled": False,
@@ -16,10 +16,10 @@ PREFERENCES = {
     "network.connectivity-service.enabled": False,
     "toolkit.telemetry.reportingpolicy.firstRun": False,
 }
-# It is hidden at first, and kept hidden by an attribute that must be there.
+# The attribute autohide keeps the bar hidden at first; this marks the attribute as missing.
 MENU_BAR_SHOWN = {"chrome://browser/content/browser.xhtml": {"toolbar-menubar": {"autohide": "-moz-missing\n"}}}
 
-# The button beside the address after one step.
+# The name of the button beside the address after one step.
 ZOOMED = "110%, Reset zoom level"
 
 
@@ -68,18 +68,17 @@ DESCRIPTION = Description(
                             allow=lambda running: zoom(running, "ctrl+plus", True),
                             forbid=lambda running: zoom(running, "ctrl+0", False),
                             refresh=lambda running: running.look_into("View", "Zoom"),
-                            no_state="Whether items are enabled is brought up to date only when their menu is opened."),
+                            no_state="The enabled states of items are updated only when their menu is opened."),
     effect=Effect(("Tools", "Page Info"), "the window about the page",
                   lambda running: any("Page Info" in title for title in running.titles())),
     dialog=("Tools", "Page Info"),
     notes="""\
-Items have to be made before they can be read. A menu that has been opened once stays readable, and its items can be
-pressed, while it is closed; the program does not open menus itself, since they would flash up before the user. A
-submenu that was never opened is left out, since a press of it would do nothing. The bar is there too while Firefox
-hides it.
+Firefox makes the items of a menu when it is first opened. From then on they can be read and pressed while the menu is
+closed. The program does not open menus itself, because they would flash up before the user. A submenu that was never
+opened is left out, because a press of it would do nothing. The bar can be read while Firefox hides it.
 
 Where the desktop's panel shows menu bars (a registrar of application menus runs, and libdbusmenu-gtk3 is installed)
 and `widget.gtk.global-menu.enabled` is set in about:config, Firefox gives all its menus to the panel, with every
-shortcut, whether they were opened or not. What is enabled or checked is then told as of when the menu was made. The
-program never starts a registrar, since applications would hide their own menu bars.""",
+shortcut, whether they were opened or not. The enabled and checked states are then those of the time the menu was
+made. The program never starts a registrar, because applications would hide their own menu bars.""",
 )

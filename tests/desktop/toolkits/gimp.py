@@ -8,12 +8,12 @@ MODE = ("Image", "Mode")
 def command(directory):
     file = directory / "gimp.ppm"
     file.write_bytes(b"P6 4 4 255\n" + bytes(range(48)))
-    # Settings of its own for each start: after an end that it did not ask for it would offer to recover images.
+    # Each start has settings of its own: after an unexpected end GIMP would offer to recover images.
     return ["env", f"GIMP2_DIRECTORY={directory.parent}/gimp", "gimp-2.10", "--no-splash", "--new-instance", file]
 
 
 def mode(running):
-    """As the title of the image window tells."""
+    """The mode that the title of the image window names."""
     return (*MODE, "Grayscale" if any("Grayscale" in title for title in running.titles()) else "RGB")
 
 
@@ -34,14 +34,14 @@ DESCRIPTION = Description(
     toggle=Toggle(("View", "Show Statusbar"), lambda running: running.find("statusbar") is not None),
     choice=Choice(((*MODE, "RGB"), (*MODE, "Grayscale")), mode),
     conditional=select,
-    # The item is renamed with what there is to undo.
+    # The name of the item contains the action to undo.
     stale=Conditional(("Edit", "Undo Select All"), "that was done last", select.allow, select.forbid),
     effect=Effect(("Image", "Duplicate"), "a window with the copy",
                   lambda running: any("Untitled" in title for title in running.titles())),
     dialog=("Edit", "Preferences"),
     notes="""\
 Items, shortcuts, states and check marks come over the accessibility bus, if the variable GTK_MODULES has
-`gail:atk-bridge`, which the package libatk-adaptor sets at login. Items of the same name in one menu, in sections
-of their own, have the same path: View › Color Management › Black Point Compensation is there twice, and only the
+`gail:atk-bridge`, which the package libatk-adaptor sets at login. Items of the same name in different
+sections of one menu have the same path: View › Color Management › Black Point Compensation is there twice, and only the
 first can be pressed.""",
 )

@@ -1,4 +1,4 @@
-"""GTK 3 with a menu bar of the application's own, by a sample of ours."""
+"""GTK 3 with a menu bar of the application's own, in a sample of our own."""
 
 import sys
 from pathlib import Path
@@ -30,6 +30,6 @@ DESCRIPTION = Description(
     dialog=("File", "Open..."),
     notes="""\
 A sample of our own that publishes its menus on the accessibility bus only. Its dialogs run in a main loop of their
-own, in which it answers nothing. It was tried to ask applications over a connection of their own, which is twice as
-fast: one that has taken such a connection can hang for good when a dialog closes that a press has opened.""",
+own, in which it answers nothing. A connection to the application itself was tried and is twice as fast, but an
+application that has taken one can hang for good when a dialog closes that a press has opened.""",
 )

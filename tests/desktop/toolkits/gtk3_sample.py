@@ -1,5 +1,5 @@
-"""An application in GTK 3 whose menu bar is its own, as most have it: nothing is published beside the accessibility
-bus, and dialogs run in a main loop of their own.
+"""An application in GTK 3 with a menu bar of its own, like most: it publishes its menus on the accessibility bus only,
+and its dialogs run in a main loop of their own.
 
 usage: gtk3_sample.py FILE"""
 

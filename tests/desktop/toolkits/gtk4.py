@@ -1,4 +1,4 @@
-"""GTK 4, by a sample of our own."""
+"""GTK 4, in a sample of our own."""
 
 import sys
 from pathlib import Path
@@ -41,7 +41,7 @@ DESCRIPTION = Description(
     effect=Effect(("File", "Export", "As Text..."), "the export in the record",
                   lambda running: "export" in running.files()[RECORD].decode().splitlines()),
     notes="""\
-A sample of our own, since the applications in GTK 4 that were looked at have no menu bar, but buttons in their
-title bars. On the accessibility bus the menus of a bar are empty and cannot be pressed; its menu model and its
+A sample of our own, because the applications in GTK 4 that were looked at have buttons in their title bars and no
+menu bar. On the accessibility bus the menus of a bar are empty and cannot be pressed; its menu model and its
 actions are on the session bus.""",
 )

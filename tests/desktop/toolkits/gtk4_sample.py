@@ -1,5 +1,5 @@
-"""An application in GTK 4 with a menu bar, since none that is packaged has one. Whatever is done in it is
-written to a file, a line each.
+"""An application in GTK 4 with a menu bar, because none that is packaged has one. It writes a line to a file for
+everything that is done in it.
 
 usage: gtk4_sample.py FILE"""
 
@@ -74,7 +74,7 @@ class Sample(Gtk.Application):
         return action
 
     def _add_stateful(self, group, name, state):
-        # Without a handler of its own, activation turns a boolean over and sets a string to the target.
+        # Without a handler, activation inverts a boolean state and sets a string state to the target.
         target = state.get_type() if state.is_of_type(GLib.VariantType("s")) else None
         action = Gio.SimpleAction.new_stateful(name, target, state)
         action.connect("notify::state", lambda *_: self._note(f"{name} {action.get_state().unpack()}"))

@@ -19,7 +19,7 @@ def command(directory):
 
 
 def translate(running):
-    # To the first message, whose field for the translation then has the focus.
+    # Goes to the first message; its field for the translation then has the focus.
     running.press_keys("ctrl+j")
     running.type_text("x")
 
@@ -38,6 +38,6 @@ DESCRIPTION = Description(
                   lambda running: "linguist.qm" in running.files()),
     dialog=("Help", "About Qt Linguist"),
     notes="""\
-As Qt 5: items, shortcuts, states and check marks come over the accessibility bus, when accessibility was on when
-the application was started. Names of objects that do not exist occur among its windows and are passed over.""",
+As with Qt 5, items, shortcuts, states and check marks come over the accessibility bus if accessibility was on when
+the application was started. Its list of windows has names of objects that do not exist; they are skipped.""",
 )

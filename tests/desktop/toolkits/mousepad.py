@@ -12,7 +12,7 @@ def command(directory):
 
 
 def tab_size(running):
-    """As the distance of the first two characters shows; the second, like all, is as wide as a column."""
+    """The tab size, from the distance of the first two characters; every character is as wide as a column."""
     text = running.find("text")
     (tab, *_), (letter, _, column, _) = text.character_extents(0), text.character_extents(1)
     return ("Document", "Tab Size", str(round((letter - tab) / column)))
@@ -35,7 +35,7 @@ DESCRIPTION = Description(
     dialog=("File", "Open..."),
     notes="""\
 Titles, states, check marks and presses go by the menu model and the actions that its window publishes on the
-session bus; shortcuts, which are not in the model, come over the accessibility bus, where the items in turn carry
-no check marks. Cut, Copy, Paste and Select All are disabled while the window has no keyboard focus, so menus are
+session bus; shortcuts, which are not in the model, come over the accessibility bus, where the items have no check
+marks. Cut, Copy, Paste and Select All are disabled while the window has no keyboard focus, so menus are
 read before the palette takes it.""",
 )

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes docs/toolkits.md from what a run of the matrix of toolkits found.
+"""Writes docs/toolkits.md from the findings of a run of the matrix of toolkits.
 
 usage: report.py DIRECTORY > docs/toolkits.md     DIRECTORY is what TOVREL_TOOLKIT_REPORT named"""
 
@@ -9,25 +9,26 @@ from pathlib import Path
 
 INTRODUCTION = """# Toolkits
 
-How the menus of applications come through, toolkit by toolkit. This page is written by a program from a run of
-the tests on Debian 12 with X11:
+Which parts of the menus of applications can be read and pressed, toolkit by toolkit. A program writes this page
+from a run of the tests on Debian 12 with X11:
 
     scripts/test --all
     TOVREL_TOOLKIT_REPORT="$PWD/build/toolkits" ctest --preset release -C heavy -L toolkit
     tests/desktop/toolkits/report.py build/toolkits > docs/toolkits.md
 
-The same checks run over every application; `tests/desktop/toolkits` has them and a description of each application.
+The same checks run over every application; `tests/desktop/toolkits` holds them and a description of each application.
 """
 CHECKS = {
     "menus": ("Menus", "every menu of the bar is found, with items in it"),
     "search": ("Search", "known commands are found first, with their shortcuts"),
-    "check_mark": ("Check mark", "it follows the application when the command is pressed, and again"),
-    "choice": ("Choice", "of several commands the chosen one is marked"),
+    "check_mark": ("Check mark", "it follows the application when the command is pressed once, and once more"),
+    "choice": ("Choice", "the chosen one of several commands is marked"),
     "disabled": ("Disabled", "a command is disabled and enabled with the state of the document"),
-    "press": ("Press", "it does in the application what the menu does"),
+    "press": ("Press", "pressing a command has the effect that the menu has in the application"),
     "dialog": ("Dialog", "it opens by a command and closes by Escape, and the application goes on"),
     "stale": ("Stale", "a command that has been disabled or renamed since it was read is refused, and nothing happens"),
-    "killed": ("Killed", "the application has been killed since: one line says so, exit status 1"),
+    "killed": ("Killed",
+               "a command of an application killed since then fails with one line that says so, exit status 1"),
 }
 
 
@@ -39,7 +40,7 @@ def main(directory):
     print(INTRODUCTION)
     print("\n".join(f"- {title}: {meaning}." for title, meaning in CHECKS.values()))
     print("\n**yes** holds; **no** failed in this run; **partly** holds, with something missing that is named below; "
-          "**–** was not tried, for want of a command whose effect can be seen.\n")
+          "**–** was not tried, because no command has an effect that can be seen.\n")
     print_table(["Application", "Toolkit", *(title for title, _ in CHECKS.values())],
                 [[one["name"], one["toolkit"], *(verdict(one, check) for check in CHECKS)] for one in found])
     start = min(one["measured"].get("start_ms", 0) for one in found)

@@ -1,4 +1,4 @@
-"""What a run of the matrix found of one application, written down for the report."""
+"""The findings of a run of the matrix about one application, written to a file for the report."""
 
 import json
 import os
@@ -7,7 +7,7 @@ from pathlib import Path
 
 
 class Results:
-    """Collects while the checks run."""
+    """Collects the findings while the checks run."""
 
     def __init__(self, description):
         self._description = description
@@ -21,7 +21,7 @@ class Results:
         self._measured.update(values)
 
     def write(self):
-        """Into the directory that TOVREL_TOOLKIT_REPORT names, if it does."""
+        """Writes them into the directory that TOVREL_TOOLKIT_REPORT names, if it is set."""
         directory = os.environ.get("TOVREL_TOOLKIT_REPORT")
         if not directory:
             return

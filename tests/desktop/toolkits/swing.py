@@ -1,4 +1,4 @@
-"""Java with Swing, by a sample of ours that has the menus of the one in GTK 3."""
+"""Java with Swing, in a sample of our own with the menus of the GTK 3 sample."""
 
 import dataclasses
 from pathlib import Path
@@ -6,7 +6,7 @@ from pathlib import Path
 from . import gtk3
 from .description import Known, Toggle
 
-# As the program advises. Debian's own switch, in accessibility.properties, does not find the wrapper.
+# The program advises these options. Debian's own switch, in accessibility.properties, does not find the wrapper.
 WRAPPER = ("-Xbootclasspath/a:/usr/share/java/java-atk-wrapper.jar "
            "-Djavax.accessibility.assistive_technologies=org.GNOME.Accessibility.AtkWrapper")
 
@@ -26,12 +26,12 @@ DESCRIPTION = dataclasses.replace(
     environment={"JAVA_TOOL_OPTIONS": WRAPPER},
     command=command,
     known=(Known("open", ("File", "Open..."), None,
-                 no_shortcut="Only mnemonics are published, not the keys of items."),),
+                 no_shortcut="Only mnemonics are published, not the shortcuts of items."),),
     toggle=Toggle(("View", "Status Bar"), lambda running: running.find("label", "Ready") is not None),
     notes="""\
 A sample of our own. Java reaches the accessibility bus through a wrapper (libatk-wrapper-java-jni), which has to be
 named when an application is started: `JAVA_TOOL_OPTIONS="-Xbootclasspath/a:/usr/share/java/java-atk-wrapper.jar
 -Djavax.accessibility.assistive_technologies=org.GNOME.Accessibility.AtkWrapper"`. The editor jEdit was tried by hand: its
-menus are read in some 160 ms and can be pressed; the keys in them are its own drawing, which nobody else can read. Its
-dialogs do not say that they are modal, so that commands reach the window behind them.""",
+menus are read in some 160 ms and can be pressed. It draws the keys in them itself, so nobody else can read them.
+Its dialogs do not say that they are modal, so commands reach the window behind them.""",
 )

@@ -10,7 +10,7 @@ def office(directory, *arguments):
 
 
 def first_command(directory):
-    """Makes the profile; otherwise the first start ends with the request to be started again."""
+    """Makes the profile; without one the first start ends with the request to be started again."""
     return office(directory, "--headless", "--terminate_after_init")
 
 
@@ -38,10 +38,10 @@ DESCRIPTION = Description(
                   lambda running: "Word Count" in running.titles()),
     dialog=("Tools", "Options..."),
     notes="""\
-Two menu bars are on the accessibility bus, and a third description of the same menus on the session bus. Items and
-keys are those that the user sees, presses go to their actions on the session bus. Both tell what is enabled and
-checked as of the last time a menu was open; the other bar on the accessibility bus knows it at any time, so that
-states are taken from there. It is not used for more: several keys in it are wrong, and after a press there the
-document gets no more keys, and the next press ends the office. Titles are as of the last time too: the item reads
-Undo, and after a look into the menu with what it would undo.""",
+Two menu bars are on the accessibility bus, and a third description of the same menus is on the session bus. Items and
+keys are read from the bar that the user sees, and presses go to their actions on the session bus. Both tell which
+items were enabled and checked the last time a menu was open. The other bar on the accessibility bus always knows,
+so states are taken from it, and nothing else: several keys in it are wrong, after a press in it the document gets no
+more keys, and the next press ends the office. Titles are those of the last time as well: the item reads Undo, and
+after a look into the menu it names what it would undo.""",
 )

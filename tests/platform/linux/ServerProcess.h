@@ -11,7 +11,7 @@ namespace tovrel {
 class ServerProcess {
   public:
     /// Starts the program with a pipe whose number replaces "{fd}" in the arguments, and reads the first line
-    /// the program writes there: servers tell that way where they listen once they do.
+    /// the program writes there: servers announce their address on it once they listen.
     explicit ServerProcess(std::vector<std::string> arguments);
     ~ServerProcess();
     ServerProcess(const ServerProcess&) = delete;

@@ -18,7 +18,7 @@ class TestLoop : public MainQueue {
 
     void watch(EventSource& source) { sources_.push_back(&source); }
 
-    /// Runs until the condition holds; whether it did within the time a test has patience.
+    /// Runs until the condition holds; false when it does not before the test's deadline.
     bool runUntil(const std::function<bool()>& condition,
                   std::chrono::milliseconds patience = std::chrono::seconds(10));
 

@@ -42,7 +42,7 @@ class DamagedPreferences : public PreferencesFixture {
         ASSERT_TRUE(stream.flush());
     }
 
-    /// The domain is empty and writable, the damaged bytes are under another name, and it was said once.
+    /// The domain is empty and writable, the damaged bytes are under another name, and one report was made.
     void expectSetAside(SqlitePreferencesDomain& domain, const std::string& damagedBytes) {
         EXPECT_TRUE(domain.lastReadSucceeded());
         EXPECT_TRUE(domain.all().empty());

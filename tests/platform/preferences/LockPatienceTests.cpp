@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 
 class LockPatienceTest : public testing::Test {
   protected:
-    /// Waits as long as it may; how long that was.
+    /// Waits as long as the patience lasts, and returns how long that was.
     std::chrono::nanoseconds operation(LockPatience& patience) {
         const auto start = now_;
         patience.beginOperation();
@@ -41,7 +41,7 @@ TEST_F(LockPatienceTest, OperationsOfAPeriodShareIt) {
     EXPECT_EQ(operation(patience), 99ms);
 }
 
-TEST_F(LockPatienceTest, EachOperationHasItsOwnWhereAPeriodIsNothing) {
+TEST_F(LockPatienceTest, WithoutAPeriodEachOperationHasItsOwnPatience) {
     LockPatience patience = make({5s, 0s});
     EXPECT_EQ(operation(patience), 5s);
     EXPECT_EQ(operation(patience), 5s);

@@ -27,7 +27,8 @@ class PreferencesDurability : public PreferencesFixture {
     }
 };
 
-/// Writes numbered values until it is killed, and one byte for each that the domain said is stored.
+/// A process writes numbered values until it is killed, and a byte for each one that the domain called
+/// stored.
 TEST_F(PreferencesDurability, AProcessKilledWhileWritingLosesNoAcknowledgedValue) {
     constexpr int rounds = 20;
     const std::random_device::result_type seed = std::random_device{}();

@@ -33,7 +33,7 @@ void execute(const std::filesystem::path& file, const char* sql) {
     sqlite3_close(connection);
 }
 
-/// While it lives this thread's file accesses are those of an ordinary user, even when the tests run as root.
+/// Gives this thread the file access of an ordinary user while it exists, even when the tests run as root.
 class OrdinaryUser {
   public:
     explicit OrdinaryUser(const std::filesystem::path& owned) {
@@ -86,7 +86,7 @@ TEST_F(SqlitePreferences, TwoDomainsOnOneFileSeeEachOthersWritesAtOnce) {
     EXPECT_EQ(second.revision(), afterCreation);
 
     ASSERT_TRUE(first.set("key", Text("two")));
-    // A read that meets the change before revision() is asked must not hide it.
+    // A read that notices the change before revision() is called must not hide it.
     EXPECT_EQ(second.value("key"), PreferenceValue(Text("two")));
     EXPECT_NE(second.revision(), afterCreation);
     EXPECT_EQ(first.revision(), first.revision());
@@ -166,7 +166,7 @@ TEST_F(SqlitePreferences, WhatCannotBeOpenedIsReportedOncePerKindAndLeftAlone) {
     EXPECT_EQ(onDirectory.lastFailure().obstacle, PreferencesObstacle::notAFile);
     std::filesystem::remove(file());
 
-    // What made the file unusable is gone: the next operation goes on.
+    // The next operation succeeds, because the cause of the failure is gone.
     EXPECT_TRUE(onDirectory.value("key") == std::nullopt && onDirectory.set("key", true));
 
     reports.clear();
@@ -208,7 +208,7 @@ TEST_F(SqlitePreferences, ReadOnlyFilesAndDirectoriesAreReadAndKeepTheirValues) 
     }
     EXPECT_THAT(otherFiles(), IsEmpty());
 
-    // Missing and not to be created.
+    // The file is missing and cannot be created.
     std::filesystem::permissions(directory(), std::filesystem::perms::owner_all);
     user.reset();
     std::filesystem::remove(file());
@@ -232,7 +232,8 @@ TEST_F(SqlitePreferences, ALockHeldByAnotherProgramCostsTheWriteButNotTheValue) 
     EXPECT_FALSE(domain.lastReadSucceeded());
     ASSERT_EQ(sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr), SQLITE_OK);
     sqlite3_close(other);
-    // Writable again, but what a caller made of the missing value must not replace the real one.
+    // The file is writable again, but a value that a caller made of the missing one must not replace the real
+    // one.
     EXPECT_FALSE(domain.set("key", Text("made of nothing")));
     EXPECT_TRUE(domain.set("other", true));
     EXPECT_EQ(domain.value("key"), PreferenceValue(Text("kept")));
@@ -267,7 +268,7 @@ TEST_F(SqlitePreferences, EveryOperationGivesUpOnALockWhenPatienceIsAtItsEnd) {
     EXPECT_TRUE(domain.remove("key"));
 }
 
-/// Fills up what is left, and expects a domain to keep its value, say so once, and go on when there is room.
+/// Fills the disk, and expects a domain to keep its value, report once, and go on when there is room again.
 void expectAFullDiskToBeSurvived(const std::filesystem::path& file,
                                  const std::function<void(bool isFull)>& setFull) {
     std::vector<std::string> reports;

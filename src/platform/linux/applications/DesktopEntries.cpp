@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view extension = ".desktop";
 
-/// Real ones have at most some 100 KiB, mostly translations.
+/// The largest file that is read. Real ones have at most some 100 KiB, mostly translations.
 constexpr std::uintmax_t largestFile = 1U << 20U;
 
 std::string lowercased(std::string_view text) {

@@ -13,7 +13,7 @@
 namespace tovrel {
 
 /// The desktop entries installed for the user. Directories are listed when first needed and again when one of
-/// them has changed; a file is read when an answer depends on it, and once.
+/// them has changed; a file is read once, when an answer depends on it.
 class DesktopEntries {
   public:
     /// Looks in the folder "applications" of each of the directories, the first being the most important one;

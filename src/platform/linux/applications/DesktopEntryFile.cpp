@@ -87,7 +87,7 @@ std::optional<DesktopEntry> parseDesktopEntry(std::string_view text, std::string
     DesktopEntry entry;
     bool isApplication = false;
     bool isInGroup = false;
-    std::size_t nameRank = tags.size() + 1; // That of a name without a tag is tags.size().
+    std::size_t nameRank = tags.size() + 1; // A name without a tag has tags.size().
     while (!text.empty()) {
         const std::size_t end = std::min(text.find('\n'), text.size());
         const std::string_view line = trimmedSpaces(text.substr(0, end));

@@ -8,7 +8,7 @@
 
 namespace tovrel {
 
-/// What this program uses of a desktop entry (Desktop Entry Specification 1.5).
+/// The parts of a desktop entry (Desktop Entry Specification 1.5) that this program uses.
 struct DesktopEntry {
     Text identifier;            ///< Desktop-file id without ".desktop", such as "org.xfce.mousepad".
     Text name;                  ///< In the user's language where the entry has it.
@@ -21,15 +21,15 @@ struct DesktopEntry {
 };
 
 /// Reads the text of a desktop-entry file. `locale` is a POSIX locale such as "de_AT.UTF-8@euro", which
-/// chooses the name. Absent when it is not an application's entry with a name, unless it is hidden; lines
-/// that make no sense are passed over.
+/// chooses the name. Absent when it is not an application's entry with a name, unless it is hidden; invalid
+/// lines are skipped.
 std::optional<DesktopEntry> parseDesktopEntry(std::string_view text, std::string_view locale);
 
-/// The program that an Exec line starts: the last part of its path, looked for behind "env" and assignments.
-/// Empty when there is none.
+/// The program that an Exec line starts: the last part of its path, after "env" and assignments. Empty when
+/// there is none.
 std::string executableName(std::string_view exec);
 
-/// Whether the Exec line has arguments of its own, beside the places for files and the like (%U).
+/// Whether the Exec line has arguments of its own, apart from the field codes for files and the like (%U).
 bool hasOwnArguments(std::string_view exec);
 
 } // namespace tovrel

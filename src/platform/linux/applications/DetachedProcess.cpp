@@ -28,14 +28,14 @@ std::string findInPath(const std::string& program) {
     return "";
 }
 
-/// What the fork does; only calls that are safe in the fork of a program with threads. The program is a child
-/// of a child that ends at once, so that nobody has to wait for it.
+/// Runs in the forked process, with only the calls that are safe there when the program has threads. The new
+/// program is a grandchild whose parent ends at once, so that nobody has to wait for it.
 [[noreturn]] void becomeDetached(const char* file, char* const* words, char* const* environment) {
     setsid();
     struct sigaction usual {};
     usual.sa_handler = SIG_DFL;
     for (int number = 1; number < NSIG; ++number) {
-        sigaction(number, &usual, nullptr); // in vain for the few that cannot be changed
+        sigaction(number, &usual, nullptr); // fails for the few that cannot be changed
     }
     sigset_t none;
     sigemptyset(&none);

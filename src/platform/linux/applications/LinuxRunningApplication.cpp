@@ -7,7 +7,7 @@
 namespace tovrel {
 namespace {
 
-const DesktopEntry* entryOfWindow(const X11Window& window, DesktopEntries& entries) {
+const DesktopEntry* entryOfWindow(const ApplicationWindow& window, DesktopEntries& entries) {
     if (!window.applicationIdentifier.empty()) {
         if (const DesktopEntry* entry = entries.withIdentifier(window.applicationIdentifier)) {
             return entry;
@@ -38,7 +38,7 @@ const DesktopEntry* entryOfProcess(std::int32_t processIdentifier, DesktopEntrie
 } // namespace
 
 LinuxRunningApplication::LinuxRunningApplication(std::int32_t processIdentifier,
-                                                 const std::optional<X11Window>& window,
+                                                 const std::optional<ApplicationWindow>& window,
                                                  DesktopEntries& entries)
     : processIdentifier_(processIdentifier), startTime_(processStartTime(processIdentifier)) {
     const DesktopEntry* entry = window ? entryOfWindow(*window, entries) : nullptr;

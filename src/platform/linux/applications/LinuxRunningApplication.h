@@ -3,18 +3,18 @@
 #include <cstdint>
 #include <optional>
 
+#include "platform/ApplicationWindow.h"
 #include "platform/RunningApplication.h"
 #include "platform/linux/applications/DesktopEntries.h"
-#include "platform/x11/windows/X11Windows.h"
 
 namespace tovrel {
 
-/// A process that shows windows or menus, with the desktop entry it belongs to as it was found.
+/// A process that shows windows or menus, and the desktop entry that was found for it.
 class LinuxRunningApplication : public RunningApplication {
   public:
     /// Finds the entry: by the application id the window publishes, then by its window class against what the
     /// entries declare (StartupWMClass), then against the entries' ids, then by the program that runs.
-    LinuxRunningApplication(std::int32_t processIdentifier, const std::optional<X11Window>& window,
+    LinuxRunningApplication(std::int32_t processIdentifier, const std::optional<ApplicationWindow>& window,
                             DesktopEntries& entries);
 
     /// This process itself, which is known without an entry.
@@ -27,7 +27,7 @@ class LinuxRunningApplication : public RunningApplication {
     [[nodiscard]] std::int32_t processIdentifier() const override { return processIdentifier_; }
     [[nodiscard]] bool isTerminated() const override;
 
-    /// As the entry has it.
+    /// The icon named in the entry.
     [[nodiscard]] std::optional<ApplicationIcon> icon() const override { return icon_; }
 
   private:

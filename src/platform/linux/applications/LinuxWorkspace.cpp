@@ -20,9 +20,13 @@ InstalledApplication installed(const DesktopEntry& entry) {
 
 } // namespace
 
-LinuxWorkspace::LinuxWorkspace(std::shared_ptr<X11Windows> windows, std::shared_ptr<AtspiBus> bus,
+LinuxWorkspace::LinuxWorkspace(std::shared_ptr<WindowList> windows, std::shared_ptr<AtspiBus> bus,
                                std::shared_ptr<DesktopEntries> entries)
-    : windows_(std::move(windows)), bus_(std::move(bus)), entries_(std::move(entries)) {}
+    : windows_(std::move(windows)), bus_(std::move(bus)), entries_(std::move(entries)),
+      windowActivations_(windows_->onActivation([this](const ApplicationWindow& window) {
+          activations_.notify(window.processIdentifier ? application(*window.processIdentifier, window)
+                                                       : nullptr);
+      })) {}
 
 std::shared_ptr<RunningApplication> LinuxWorkspace::frontApplication() {
     const auto window = windows_->activeWindow(std::chrono::steady_clock::now() + focusChangePatience);
@@ -33,8 +37,8 @@ std::shared_ptr<RunningApplication> LinuxWorkspace::frontApplication() {
 }
 
 bool LinuxWorkspace::activate(const RunningApplication& application) {
-    const auto window = windows_->frontWindow(application.processIdentifier());
-    return window && windows_->activate(window->identifier);
+    const auto windows = windows_->windowsOf(application.processIdentifier());
+    return !windows.empty() && windows_->activate(windows.front().identifier);
 }
 
 Subscription
@@ -59,19 +63,6 @@ void LinuxWorkspace::open(const Text& url) {
     startDetached({"xdg-open", std::string(url.utf8())});
 }
 
-EventSource& LinuxWorkspace::activationEvents() {
-    if (!activationWatch_) {
-        activationWatch_ = std::make_unique<X11ActivationWatch>(
-            [this](xcb_window_t active) {
-                const X11Window window = windows_->describe(active);
-                activations_.notify(window.processIdentifier ? application(*window.processIdentifier, window)
-                                                             : nullptr);
-            },
-            windows_->display());
-    }
-    return *activationWatch_;
-}
-
 bool LinuxWorkspace::waitUntilFront(const RunningApplication& application,
                                     std::chrono::milliseconds patience) {
     return windows_->waitUntilActive(application.processIdentifier(),
@@ -83,7 +74,8 @@ LinuxWorkspace::applicationWithProcessIdentifier(std::int32_t processIdentifier)
     if (!processStartTime(processIdentifier)) {
         return nullptr;
     }
-    return application(processIdentifier, windows_->frontWindow(processIdentifier));
+    const auto windows = windows_->windowsOf(processIdentifier);
+    return application(processIdentifier, windows.empty() ? std::nullopt : std::optional(windows.front()));
 }
 
 std::vector<std::shared_ptr<LinuxRunningApplication>>
@@ -97,7 +89,7 @@ LinuxWorkspace::applicationsWithIdentifier(const Text& identifier) {
 std::vector<std::shared_ptr<LinuxRunningApplication>> LinuxWorkspace::applicationsWithWindows() {
     std::vector<std::shared_ptr<LinuxRunningApplication>> applications;
     std::set<std::int32_t> met;
-    for (const X11Window& window : windows_->windows()) {
+    for (const ApplicationWindow& window : windows_->windows()) {
         if (window.processIdentifier && met.insert(*window.processIdentifier).second) {
             applications.push_back(application(*window.processIdentifier, window));
         }
@@ -119,8 +111,8 @@ std::vector<std::shared_ptr<LinuxRunningApplication>> LinuxWorkspace::runningApp
     return applications;
 }
 
-std::shared_ptr<LinuxRunningApplication> LinuxWorkspace::application(std::int32_t processIdentifier,
-                                                                     const std::optional<X11Window>& window) {
+std::shared_ptr<LinuxRunningApplication>
+LinuxWorkspace::application(std::int32_t processIdentifier, const std::optional<ApplicationWindow>& window) {
     return processIdentifier == getpid()
                ? std::make_shared<LinuxRunningApplication>(LinuxRunningApplication::ofThisProcess())
                : std::make_shared<LinuxRunningApplication>(processIdentifier, window, *entries_);

@@ -6,30 +6,31 @@
 #include <optional>
 #include <vector>
 
+#include "platform/WindowList.h"
 #include "platform/Workspace.h"
 #include "platform/linux/applications/DesktopEntries.h"
 #include "platform/linux/applications/LinuxRunningApplication.h"
 #include "platform/linux/menus/accessibility/AtspiBus.h"
-#include "platform/x11/windows/X11ActivationWatch.h"
-#include "platform/x11/windows/X11Windows.h"
 
 namespace tovrel {
 
-/// The applications of an X11 desktop. Without a display there is no front application, and those that run
-/// are the ones on the accessibility bus.
+/// The applications of a Linux desktop. Without a display there is no front application, and the running ones
+/// are those on the accessibility bus.
 class LinuxWorkspace : public Workspace {
   public:
-    LinuxWorkspace(std::shared_ptr<X11Windows> windows, std::shared_ptr<AtspiBus> bus,
+    LinuxWorkspace(std::shared_ptr<WindowList> windows, std::shared_ptr<AtspiBus> bus,
                    std::shared_ptr<DesktopEntries> entries);
+    ~LinuxWorkspace() override = default;
+    LinuxWorkspace(const LinuxWorkspace&) = delete;
+    LinuxWorkspace& operator=(const LinuxWorkspace&) = delete;
 
-    /// The application of the active window. A desktop that is just changing it is given 50 ms; the change
-    /// takes a few where it was seen.
+    /// The application of the active window. Waits up to 50 ms for a desktop that is just changing it;
+    /// changes were seen to take a few milliseconds.
     [[nodiscard]] std::shared_ptr<RunningApplication> frontApplication() override;
 
     bool activate(const RunningApplication& application) override;
 
-    /// Observers are called from `activationEvents`, so the main loop must watch that. Each change of the
-    /// active window counts, also within an application; that none is active for a moment does not.
+    /// Reports each change of the active window, also within an application.
     [[nodiscard]] Subscription
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override;
 
@@ -37,19 +38,8 @@ class LinuxWorkspace : public Workspace {
     installedApplication(const Text& bundleIdentifier) override;
     [[nodiscard]] std::vector<InstalledApplication> installedApplications() override;
 
-    /// By xdg-open, which is not waited for.
+    /// Starts xdg-open and does not wait for it.
     void open(const Text& url) override;
-
-    /// Where activations come from; made when first asked for.
-    [[nodiscard]] EventSource& activationEvents();
-
-    /// Brings one window to the front; see X11Windows::activate.
-    bool activate(xcb_window_t window, xcb_timestamp_t userTime) {
-        return windows_->activate(window, userTime);
-    }
-
-    /// See X11Windows::activeWindowFrame.
-    [[nodiscard]] std::optional<X11Rectangle> activeWindowFrame() { return windows_->activeWindowFrame(); }
 
     /// Waits until a window of the application is active, as it soon is after `activate`.
     bool waitUntilFront(const RunningApplication& application, std::chrono::milliseconds patience);
@@ -71,13 +61,13 @@ class LinuxWorkspace : public Workspace {
 
   private:
     [[nodiscard]] std::shared_ptr<LinuxRunningApplication>
-    application(std::int32_t processIdentifier, const std::optional<X11Window>& window);
+    application(std::int32_t processIdentifier, const std::optional<ApplicationWindow>& window);
 
-    std::shared_ptr<X11Windows> windows_;
+    std::shared_ptr<WindowList> windows_;
     std::shared_ptr<AtspiBus> bus_;
     std::shared_ptr<DesktopEntries> entries_;
     ObserverList<const std::shared_ptr<RunningApplication>&> activations_;
-    std::unique_ptr<X11ActivationWatch> activationWatch_;
+    Subscription windowActivations_;
 };
 
 } // namespace tovrel

@@ -27,8 +27,8 @@ using namespace std::chrono_literals;
 
 constexpr auto lookInterval = 250ms;
 
-/// Absent while the process runs. One whose end somebody else has taken counts as having ended well, as
-/// nothing else is known of it.
+/// Absent while the process runs. A process that somebody else has waited for counts as having ended well,
+/// because nothing else is known of it.
 std::optional<ProcessEnd> takeEnd(pid_t process) {
     int status = 0;
     const pid_t ended = waitpid(process, &status, WNOHANG);
@@ -95,7 +95,8 @@ class PosixProcessRunner::Children : public std::enable_shared_from_this<Childre
     };
 
     [[nodiscard]] FileDescriptor watch(pid_t process) const {
-        // As a system call, because some versions of the C library declare its function wrongly for C++.
+        // Called as a system call, because some versions of the C library declare its function wrongly for
+        // C++.
         FileDescriptor end(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
         epoll_event event{};
         event.events = EPOLLIN;
@@ -119,7 +120,7 @@ class PosixProcessRunner::Children : public std::enable_shared_from_this<Childre
     }
 
     MainQueue* queue_;
-    FileDescriptor ends_; ///< Readable when one of the children's is.
+    FileDescriptor ends_; ///< Readable when the `end` of a child is.
     std::vector<Child> children_;
     bool isToLook_ = false;
 };

@@ -9,11 +9,11 @@
 namespace tovrel {
 
 /// Runs programs by `posix_spawn`, each with this process's working directory and standard streams, the
-/// environment of StartEnvironment.h and the signals of SpawnAttributes.h. They are in sessions of their own,
-/// so that what ends this process from its terminal does not end them.
+/// environment of StartEnvironment.h and the signals of SpawnAttributes.h. They run in sessions of their own,
+/// so that a terminal that ends this process does not end them.
 ///
-/// Their ends are seen through the event source, which the main loop must watch. Where the kernel gives out
-/// no descriptors of processes (before Linux 5.3, in sandboxes, when all are in use), a timer looks for them
+/// The event source, which the main loop must watch, reports their ends. Where the kernel gives out no
+/// descriptors of processes (before Linux 5.3, in sandboxes, when all are in use), a timer looks for the ends
 /// every quarter of a second.
 class PosixProcessRunner final : public ProcessRunner, public EventSource {
   public:
@@ -23,7 +23,7 @@ class PosixProcessRunner final : public ProcessRunner, public EventSource {
     PosixProcessRunner(const PosixProcessRunner&) = delete;
     PosixProcessRunner& operator=(const PosixProcessRunner&) = delete;
 
-    /// A text with a NUL in it cannot be handed to a program: EINVAL.
+    /// Fails with EINVAL for a text with a NUL in it, which cannot be passed to a program.
     void start(const CommandProcessRequest& request, Completion completion) override;
 
     [[nodiscard]] int fileDescriptor() const override;

@@ -6,9 +6,9 @@
 
 namespace tovrel {
 
-/// When a process was started, in clock ticks since the machine was (/proc/PID/stat, field 22); together with
-/// the identifier it names one process for good. Absent when there is no such process, or it has ended and is
-/// only waiting to be collected.
+/// The start time of a process, in clock ticks since the machine was started (/proc/PID/stat, field 22);
+/// together with the identifier it names one process for good. Absent when there is no such process, or when
+/// it has ended and only waits to be collected.
 std::optional<std::uint64_t> processStartTime(std::int32_t processIdentifier);
 
 /// The name of the program file that the process runs, without its folders; empty when it cannot be known.

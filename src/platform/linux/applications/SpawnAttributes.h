@@ -6,8 +6,8 @@
 
 namespace tovrel {
 
-/// How a program is to start: in a session of its own, with no signal blocked and each doing what it does by
-/// default. A program inherits what this one blocks and ignores otherwise, and few expect it.
+/// Attributes that start a program in a session of its own, with no signal blocked and each at its default
+/// action. A program would otherwise inherit what this one blocks and ignores, and few expect it.
 class SpawnAttributes {
   public:
     SpawnAttributes() {
@@ -15,8 +15,8 @@ class SpawnAttributes {
         sigset_t none;
         sigemptyset(&none);
         posix_spawnattr_setsigmask(&attributes_, &none);
-        // More than sigfillset gives: without the two signals that the C library keeps for itself, its
-        // posix_spawn would have the program ignore them.
+        // The set needs more than sigfillset gives: without the two signals that the C library keeps for
+        // itself, posix_spawn would have the program ignore them.
         sigset_t all;
         std::memset(&all, 0xFF, sizeof all);
         posix_spawnattr_setsigdefault(&attributes_, &all);

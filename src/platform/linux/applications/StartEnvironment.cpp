@@ -8,7 +8,7 @@
 namespace tovrel {
 namespace {
 
-/// The kernel keeps what a process was started with, and setting a variable leaves that as it is.
+/// Reads the kernel's copy of the environment, which setting a variable does not change.
 std::vector<std::string> variablesAtStart() {
     std::vector<std::string> variables;
     std::ifstream file("/proc/self/environ", std::ios::binary);

@@ -20,13 +20,13 @@ class ToolkitAccessibility {
 
     /// Switches it for the session, and for later ones too: the service behind it (at-spi-bus-launcher) keeps
     /// it in the user's settings, as org.gnome.desktop.interface toolkit-accessibility, provided that their
-    /// schema is installed. Whether it is switched so now.
+    /// schema is installed. Returns whether it is switched so now.
     bool setEnabled(bool isEnabled) { return bus_->setEnabled(isEnabled) && bus_->isEnabled() == isEnabled; }
 
     /// The names of the applications that have a window but are not on the bus, this program aside, topmost
     /// first. Toolkits look only when they start (Qt) or not at all (GTK registers in any case), so these
-    /// take no notice of the switch until they are started anew; some never will. None when the bus does not
-    /// answer.
+    /// applications notice the switch only when they are started anew; some never do. Empty when the bus does
+    /// not answer.
     [[nodiscard]] std::vector<Text> applicationsToRestart();
 
   private:

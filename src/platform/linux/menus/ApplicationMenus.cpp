@@ -36,15 +36,15 @@ MenuReading nothing() {
     return reading;
 }
 
-const X11Window* frontOf(const std::vector<X11Window>& windows) {
+const ApplicationWindow* frontOf(const std::vector<ApplicationWindow>& windows) {
     return windows.empty() ? nullptr : &windows.front();
 }
 
 /// The window with a published menu bar; null when there is none. A dialog in front of it has none of its
 /// own.
-const X11Window* publisherOf(const std::vector<X11Window>& windows) {
+const ApplicationWindow* publisherOf(const std::vector<ApplicationWindow>& windows) {
     const auto window = std::find_if(windows.begin(), windows.end(),
-                                     [](const X11Window& candidate) { return candidate.gtkMenus; });
+                                     [](const ApplicationWindow& candidate) { return candidate.gtkMenus; });
     return window == windows.end() ? nullptr : &*window;
 }
 
@@ -67,8 +67,8 @@ ApplicationMenus::ApplicationMenus(MenuBuses buses, Windows windows, const MenuR
 
 MenuReading ApplicationMenus::read() {
     const SteadyTime started = std::chrono::steady_clock::now();
-    const std::vector<X11Window> windows = this->windows();
-    const X11Window* publisher = publisherOf(windows);
+    const std::vector<ApplicationWindow> windows = this->windows();
+    const ApplicationWindow* publisher = publisherOf(windows);
     MenuReading published = publisher != nullptr ? readPublished(*publisher->gtkMenus, started) : nothing();
     if (isUnreachable(published.report.outcome)) {
         return published;
@@ -102,7 +102,7 @@ MenuReading ApplicationMenus::read() {
 }
 
 bool ApplicationMenus::press(const MenuTree& tree, std::size_t node) {
-    const std::vector<X11Window> windows = this->windows();
+    const std::vector<ApplicationWindow> windows = this->windows();
     if (!windows.empty() && windows.front().isModal) {
         return false;
     }
@@ -114,7 +114,7 @@ bool ApplicationMenus::press(const MenuTree& tree, std::size_t node) {
                                                         : pressAccessible(tree, node, windows);
 }
 
-MenuReading ApplicationMenus::readAccessible(const X11Window* window, MenuTree& published,
+MenuReading ApplicationMenus::readAccessible(const ApplicationWindow* window, MenuTree& published,
                                              SteadyTime started) {
     MenuReading reading;
     auto applications = buses_.accessibility->applications();
@@ -166,20 +166,20 @@ MenuReading ApplicationMenus::readRegistered(const DBusMenuAddress& address, Ste
     return reading;
 }
 
-std::optional<DBusMenuAddress> ApplicationMenus::registeredMenu(const std::vector<X11Window>& windows,
+std::optional<DBusMenuAddress> ApplicationMenus::registeredMenu(const std::vector<ApplicationWindow>& windows,
                                                                 SteadyTime started) {
-    DBusConnection* connection = windows.empty() ? nullptr : buses_.session->connection();
-    return connection == nullptr
-               ? std::nullopt
-               : tovrel::registeredMenu(*connection, windows.front().identifier, limits_, started);
+    const auto window = windows.empty() ? std::nullopt : windows.front().registrarIdentifier;
+    DBusConnection* connection = window ? buses_.session->connection() : nullptr;
+    return connection == nullptr ? std::nullopt
+                                 : tovrel::registeredMenu(*connection, *window, limits_, started);
 }
 
-std::vector<X11Window> ApplicationMenus::windows() const {
-    return windows_ ? windows_(processIdentifier_) : std::vector<X11Window>();
+std::vector<ApplicationWindow> ApplicationMenus::windows() const {
+    return windows_ ? windows_(processIdentifier_) : std::vector<ApplicationWindow>();
 }
 
 bool ApplicationMenus::pressAccessible(const MenuTree& tree, std::size_t node,
-                                       const std::vector<X11Window>& windows) {
+                                       const std::vector<ApplicationWindow>& windows) {
     DBusConnection* connection = buses_.accessibility->connection();
     if (connection == nullptr) {
         return false;
@@ -198,8 +198,8 @@ bool ApplicationMenus::pressAccessible(const MenuTree& tree, std::size_t node,
 }
 
 bool ApplicationMenus::pressPublished(const MenuTree& tree, std::size_t node,
-                                      const std::vector<X11Window>& windows) {
-    const X11Window* publisher = publisherOf(windows);
+                                      const std::vector<ApplicationWindow>& windows) {
+    const ApplicationWindow* publisher = publisherOf(windows);
     if (publisher == nullptr) {
         return false;
     }
@@ -213,7 +213,7 @@ bool ApplicationMenus::pressPublished(const MenuTree& tree, std::size_t node,
 }
 
 bool ApplicationMenus::pressRegistered(const MenuTree& tree, std::size_t node,
-                                       const std::vector<X11Window>& windows) {
+                                       const std::vector<ApplicationWindow>& windows) {
     const SteadyTime started = std::chrono::steady_clock::now();
     const auto address = registeredMenu(windows, started);
     if (!address) {

@@ -7,13 +7,13 @@
 #include <optional>
 #include <vector>
 
+#include "platform/ApplicationWindow.h"
 #include "platform/linux/dbus/MenuReadLimits.h"
 #include "platform/linux/dbus/SessionBus.h"
 #include "platform/linux/menus/accessibility/AtspiBus.h"
 #include "platform/linux/menus/accessibility/KnownAccelerators.h"
 #include "platform/linux/menus/dbusmenu/DBusMenuReader.h"
 #include "platform/linux/menus/source/MenuReading.h"
-#include "platform/x11/windows/X11Windows.h"
 
 namespace tovrel {
 
@@ -40,7 +40,7 @@ struct MenuBuses {
 class ApplicationMenus {
   public:
     /// The windows of a process, the front one first; empty where they are not known.
-    using Windows = std::function<std::vector<X11Window>(std::int32_t processIdentifier)>;
+    using Windows = std::function<std::vector<ApplicationWindow>(std::int32_t processIdentifier)>;
 
     /// `accelerators` is shared by all applications and never null.
     ApplicationMenus(MenuBuses buses, Windows windows, const MenuReadLimits& limits,
@@ -61,15 +61,19 @@ class ApplicationMenus {
 
   private:
     /// Adds to what is published in this window, or reads what is not.
-    MenuReading readAccessible(const X11Window* window, MenuTree& published, SteadyTime started);
+    MenuReading readAccessible(const ApplicationWindow* window, MenuTree& published, SteadyTime started);
     MenuReading readPublished(const GtkMenuAddress& address, SteadyTime started);
     MenuReading readRegistered(const DBusMenuAddress& address, SteadyTime started);
-    std::optional<DBusMenuAddress> registeredMenu(const std::vector<X11Window>& windows, SteadyTime started);
-    [[nodiscard]] std::vector<X11Window> windows() const;
+    std::optional<DBusMenuAddress> registeredMenu(const std::vector<ApplicationWindow>& windows,
+                                                  SteadyTime started);
+    [[nodiscard]] std::vector<ApplicationWindow> windows() const;
 
-    bool pressAccessible(const MenuTree& tree, std::size_t node, const std::vector<X11Window>& windows);
-    bool pressPublished(const MenuTree& tree, std::size_t node, const std::vector<X11Window>& windows);
-    bool pressRegistered(const MenuTree& tree, std::size_t node, const std::vector<X11Window>& windows);
+    bool pressAccessible(const MenuTree& tree, std::size_t node,
+                         const std::vector<ApplicationWindow>& windows);
+    bool pressPublished(const MenuTree& tree, std::size_t node,
+                        const std::vector<ApplicationWindow>& windows);
+    bool pressRegistered(const MenuTree& tree, std::size_t node,
+                         const std::vector<ApplicationWindow>& windows);
 
     MenuBuses buses_;
     Windows windows_;

@@ -122,11 +122,11 @@ TEST_F(DesktopEntriesTest, AnApplicationIsIdentifiedInTheStatedOrder) {
     const std::string program = fs::read_symlink("/proc/self/exe").filename().string();
     write("system/applications/program.desktop", "By program", "Icon=picture\nExec=" + program + "\n");
     DesktopEntries all = entries();
-    const auto identified = [&](const std::optional<X11Window>& window) {
+    const auto identified = [&](const std::optional<ApplicationWindow>& window) {
         return LinuxRunningApplication(getpid(), window, all);
     };
 
-    X11Window window;
+    ApplicationWindow window;
     window.instanceName = "theinstance";
     window.className = "TheClass";
     window.applicationIdentifier = "org.example.App";

@@ -17,7 +17,7 @@
 namespace tovrel {
 namespace {
 
-/// While it is there, the process gets no further file descriptors.
+/// Keeps the process from getting further file descriptors while it exists.
 class NoMoreDescriptors {
   public:
     NoMoreDescriptors() {
@@ -81,7 +81,7 @@ TEST_F(PosixProcessRunnerTest, AnswersHowTheProgramEnded) {
 }
 
 TEST_F(PosixProcessRunnerTest, MissesNoEndWithoutDescriptorsOfProcessesOrWithoutStatuses) {
-    // A sanitizer looks at an object by a pipe, when it meets its type for the first time.
+    // A sanitizer uses a pipe to look at an object when it meets the object's type for the first time.
     EXPECT_EQ(shell("exit 5"), ProcessOutcome(ProcessEnd{5, false}));
     for (const char* script : {"exit 4", "sleep 0.3; exit 4"}) {
         {

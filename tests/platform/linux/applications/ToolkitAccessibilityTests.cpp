@@ -12,6 +12,7 @@
 #include "platform/linux/menus/FakeAccessibility.h"
 #include "platform/x11/X11ServerFixture.h"
 #include "platform/x11/X11TestClient.h"
+#include "platform/x11/windows/X11WindowList.h"
 
 namespace tovrel {
 namespace {
@@ -44,7 +45,7 @@ class ToolkitAccessibilityTest : public X11ServerTest {
     std::shared_ptr<AtspiBus> bus_ = std::make_shared<AtspiBus>();
     ToolkitAccessibility toolkits_{
         bus_, std::make_shared<LinuxWorkspace>(
-                  std::make_shared<X11Windows>(display_.c_str()), bus_,
+                  std::make_shared<X11WindowList>(display_.c_str()), bus_,
                   std::make_shared<DesktopEntries>(std::vector<std::filesystem::path>(), std::string("C")))};
 };
 

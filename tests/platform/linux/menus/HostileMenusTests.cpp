@@ -204,7 +204,7 @@ class HostileMenusTest : public testing::TestWithParam<Attack> {
         const TextServices textServices("en_US");
         static_cast<void>(textServices.collationKey("warm"));
         const auto read = [&, reader = getpid()] {
-            X11Window window;
+            ApplicationWindow window;
             window.identifier = 7;
             if (isGtk) {
                 window.gtkMenus = GtkMenuAddress{service_->uniqueName(), "/menu", "/app", ""};
@@ -214,7 +214,7 @@ class HostileMenusTest : public testing::TestWithParam<Attack> {
             patient.total = 30s;
             LinuxAccessibility linux(
                 {std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()},
-                [window](std::int32_t) { return std::vector<X11Window>{window}; }, patient);
+                [window](std::int32_t) { return std::vector<ApplicationWindow>{window}; }, patient);
             MemoryPreferencesDomain preferences;
             CommandHistoryStore history(preferences, "history", textServices);
             if constexpr (!hasAddressSanitizer) {

@@ -194,9 +194,9 @@ TEST_F(LinuxAccessibilityTest, TakesTheTitledWindowsBarElseTheActiveOnesAndNoneO
     EXPECT_EQ(titles(*first), std::vector<std::string>{"Of One"});
 
     LinuxAccessibility titled(buses(), [](std::int32_t) {
-        X11Window window;
+        ApplicationWindow window;
         window.title = Text("Two");
-        return std::vector<X11Window>{window};
+        return std::vector<ApplicationWindow>{window};
     });
     const auto element = titled.applicationElement(getpid());
     ASSERT_NE(element, nullptr);

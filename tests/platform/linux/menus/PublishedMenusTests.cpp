@@ -87,8 +87,8 @@ class PublishedMenusTest : public testing::Test {
     }
 
     /// This process's window as it publishes menus.
-    [[nodiscard]] X11Window window() const {
-        X11Window published;
+    [[nodiscard]] ApplicationWindow window() const {
+        ApplicationWindow published;
         published.identifier = 7;
         published.isModal = isModal_;
         if (service_ && isGtk_) {
@@ -145,7 +145,7 @@ class PublishedMenusTest : public testing::Test {
     std::atomic<bool> isModal_ = false;
     std::unique_ptr<FakeMenuService> service_;
     LinuxAccessibility linux_{{std::make_shared<AtspiBus>(), std::make_shared<SessionBus>()},
-                              [this](std::int32_t) { return std::vector<X11Window>{window()}; },
+                              [this](std::int32_t) { return std::vector<ApplicationWindow>{window()}; },
                               limits()};
 };
 

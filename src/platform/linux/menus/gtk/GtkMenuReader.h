@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/ApplicationWindow.h"
 #include "platform/linux/dbus/DBus.h"
 #include "platform/linux/dbus/MenuReadLimits.h"
 #include "platform/linux/menus/source/MenuReading.h"
-#include "platform/x11/windows/X11Windows.h"
 
 namespace tovrel {
 

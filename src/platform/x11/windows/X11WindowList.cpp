@@ -1,7 +1,8 @@
-#include "platform/x11/windows/X11Windows.h"
+#include "platform/x11/windows/X11WindowList.h"
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <iterator>
 #include <string_view>
 #include <tuple>
@@ -56,18 +57,18 @@ std::optional<GtkMenuAddress> gtkMenusIn(const X11Properties& properties) {
 
 } // namespace
 
-X11Windows::X11Windows(const char* display)
+X11WindowList::X11WindowList(const char* display)
     : display_(display == nullptr ? std::nullopt : std::optional<std::string>(display)),
       connection_(display) {}
 
-xcb_window_t X11Windows::activeWindowIdentifier() {
+xcb_window_t X11WindowList::activeWindowIdentifier() {
     if (const auto active = connection_.activeWindow()) {
         return *active;
     }
     return connection_.hasWindowManager() ? 0 : focusedWindow();
 }
 
-xcb_window_t X11Windows::focusedWindow() {
+xcb_window_t X11WindowList::focusedWindow() {
     xcb_connection_t* connection = connection_.handle();
     const XcbOwned<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
@@ -88,7 +89,7 @@ xcb_window_t X11Windows::focusedWindow() {
     return 0;
 }
 
-std::optional<X11Window> X11Windows::activeWindow(std::chrono::steady_clock::time_point deadline) {
+std::optional<ApplicationWindow> X11WindowList::activeWindow(std::chrono::steady_clock::time_point deadline) {
     xcb_window_t active = activeWindowIdentifier();
     if (active == 0) {
         const X11RootPropertyWatch watch(connection_);
@@ -99,7 +100,7 @@ std::optional<X11Window> X11Windows::activeWindow(std::chrono::steady_clock::tim
     return active == 0 ? std::nullopt : std::optional(describe(active));
 }
 
-std::vector<xcb_window_t> X11Windows::topmostFirst() {
+std::vector<xcb_window_t> X11WindowList::topmostFirst() {
     auto identifiers = connection_.numbers(connection_.root(), "_NET_CLIENT_LIST_STACKING");
     if (identifiers.empty()) {
         identifiers = connection_.numbers(connection_.root(), "_NET_CLIENT_LIST");
@@ -108,16 +109,16 @@ std::vector<xcb_window_t> X11Windows::topmostFirst() {
     return identifiers;
 }
 
-std::vector<X11Window> X11Windows::windows() {
+std::vector<ApplicationWindow> X11WindowList::windows() {
     const auto identifiers = topmostFirst();
-    std::vector<X11Window> described;
+    std::vector<ApplicationWindow> described;
     described.reserve(identifiers.size());
     std::transform(identifiers.begin(), identifiers.end(), std::back_inserter(described),
                    [this](xcb_window_t window) { return describe(window); });
     return described;
 }
 
-std::vector<xcb_window_t> X11Windows::activeFirst() {
+std::vector<xcb_window_t> X11WindowList::activeFirst() {
     std::vector<xcb_window_t> identifiers = topmostFirst();
     if (const xcb_window_t active = activeWindowIdentifier(); active != 0) {
         std::erase(identifiers, active);
@@ -126,16 +127,8 @@ std::vector<xcb_window_t> X11Windows::activeFirst() {
     return identifiers;
 }
 
-std::optional<X11Window> X11Windows::frontWindow(std::int32_t processIdentifier) {
-    const auto identifiers = activeFirst();
-    const auto found = std::find_if(identifiers.begin(), identifiers.end(), [&](xcb_window_t window) {
-        return processOf(window) == processIdentifier;
-    });
-    return found == identifiers.end() ? std::nullopt : std::optional(describe(*found));
-}
-
-std::vector<X11Window> X11Windows::windowsOf(std::int32_t processIdentifier) {
-    std::vector<X11Window> found;
+std::vector<ApplicationWindow> X11WindowList::windowsOf(std::int32_t processIdentifier) {
+    std::vector<ApplicationWindow> found;
     for (const xcb_window_t window : activeFirst()) {
         if (processOf(window) == processIdentifier) {
             found.push_back(describe(window));
@@ -144,43 +137,20 @@ std::vector<X11Window> X11Windows::windowsOf(std::int32_t processIdentifier) {
     return found;
 }
 
-std::optional<X11Rectangle> X11Windows::activeWindowFrame() {
-    const xcb_window_t window = activeWindowIdentifier();
-    xcb_connection_t* connection = connection_.handle();
-    if (window == 0) {
-        return std::nullopt;
+bool X11WindowList::activate(const WindowIdentifier& window) {
+    const auto identifier = windowOf(window);
+    if (!identifier) {
+        return false;
     }
-    const auto sizeCookie = xcb_get_geometry(connection, window);
-    const auto placeCookie = xcb_translate_coordinates(connection, window, connection_.root(), 0, 0);
-    xcb_generic_error_t* sizeError = nullptr;
-    xcb_generic_error_t* placeError = nullptr;
-    const XcbOwned<xcb_get_geometry_reply_t> size(xcb_get_geometry_reply(connection, sizeCookie, &sizeError));
-    const XcbOwned<xcb_translate_coordinates_reply_t> place(
-        xcb_translate_coordinates_reply(connection, placeCookie, &placeError));
-    const XcbOwned<xcb_generic_error_t> ownedSizeError(sizeError); // The window may be gone by now.
-    const XcbOwned<xcb_generic_error_t> ownedPlaceError(placeError);
-    if (!size || !place) {
-        return std::nullopt;
-    }
-    X11Rectangle frame{place->dst_x, place->dst_y, size->width, size->height};
-    // Left, right, top, bottom.
-    if (const auto extents = connection_.numbers(window, "_NET_FRAME_EXTENTS"); extents.size() == 4) {
-        frame.x -= static_cast<std::int32_t>(extents[0]);
-        frame.y -= static_cast<std::int32_t>(extents[2]);
-        frame.width += static_cast<std::int32_t>(extents[0] + extents[1]);
-        frame.height += static_cast<std::int32_t>(extents[2] + extents[3]);
-    }
-    return frame;
-}
-
-bool X11Windows::activate(xcb_window_t window, xcb_timestamp_t userTime) {
-    // From a pager, which is obeyed whichever window has the user's attention; no own window.
+    // From a pager, which is obeyed whichever window has the user's attention; no time of an action, no own
+    // window.
     constexpr std::uint32_t fromPager = 2;
-    return connection_.sendToWindowManager(window, "_NET_ACTIVE_WINDOW", {fromPager, userTime, 0});
+    return connection_.sendToWindowManager(*identifier, "_NET_ACTIVE_WINDOW",
+                                           {fromPager, XCB_CURRENT_TIME, 0});
 }
 
-bool X11Windows::waitUntilActive(std::int32_t processIdentifier,
-                                 std::chrono::steady_clock::time_point deadline) {
+bool X11WindowList::waitUntilActive(std::int32_t processIdentifier,
+                                    std::chrono::steady_clock::time_point deadline) {
     const X11RootPropertyWatch watch(connection_);
     do {
         const xcb_window_t active = activeWindowIdentifier();
@@ -191,23 +161,37 @@ bool X11Windows::waitUntilActive(std::int32_t processIdentifier,
     return false;
 }
 
-std::optional<std::string> X11Windows::accessibilityBusAddress() {
+Subscription X11WindowList::onActivation(std::function<void(const ApplicationWindow&)> observer) {
+    return activations_.subscribe(std::move(observer));
+}
+
+EventSource& X11WindowList::activationEvents() {
+    if (!activationWatch_) {
+        activationWatch_ = std::make_unique<X11ActivationWatch>(
+            [this](xcb_window_t active) { activations_.notify(describe(active)); },
+            display_ ? display_->c_str() : nullptr);
+    }
+    return *activationWatch_;
+}
+
+std::optional<std::string> X11WindowList::accessibilityBusAddress() {
     auto address = connection_.bytes(connection_.root(), "AT_SPI_BUS");
     return address && !address->empty() ? std::optional<std::string>(address->c_str()) : std::nullopt;
 }
 
-std::optional<std::int32_t> X11Windows::processOf(xcb_window_t window) {
+std::optional<std::int32_t> X11WindowList::processOf(xcb_window_t window) {
     return processIn(X11Properties(connection_, window, {"_NET_WM_PID", "WM_CLIENT_MACHINE"}));
 }
 
-X11Window X11Windows::describe(xcb_window_t window) {
+ApplicationWindow X11WindowList::describe(xcb_window_t window) {
     const X11Properties properties(connection_, window,
                                    {"_NET_WM_PID", "WM_CLIENT_MACHINE", "_NET_WM_NAME", "WM_NAME", "WM_CLASS",
                                     "_GTK_APPLICATION_ID", "_KDE_NET_WM_DESKTOP_FILE", "_NET_WM_STATE",
                                     "_GTK_MENUBAR_OBJECT_PATH", "_GTK_UNIQUE_BUS_NAME",
                                     "_GTK_APPLICATION_OBJECT_PATH", "_GTK_WINDOW_OBJECT_PATH"});
-    X11Window described;
-    described.identifier = window;
+    ApplicationWindow described;
+    described.identifier = std::to_string(window);
+    described.registrarIdentifier = window;
     described.processIdentifier = processIn(properties);
     auto title = properties.bytes("_NET_WM_NAME");
     if (!title) {

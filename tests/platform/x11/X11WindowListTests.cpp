@@ -1,4 +1,4 @@
-#include "platform/x11/windows/X11Windows.h"
+#include "platform/x11/windows/X11WindowList.h"
 
 #include <chrono>
 #include <memory>
@@ -21,7 +21,7 @@ std::chrono::steady_clock::time_point after(std::chrono::milliseconds duration) 
 }
 
 /// Acts as the applications and as the window manager.
-class X11WindowsTest : public testing::Test {
+class X11WindowListTest : public testing::Test {
   protected:
     void SetUp() override {
         ASSERT_FALSE(server_.announced().empty()) << "Xvfb is needed";
@@ -76,7 +76,7 @@ class X11WindowsTest : public testing::Test {
     xcb_window_t manager_ = 0;
 };
 
-TEST_F(X11WindowsTest, DescribesWindowsFromTheTop) {
+TEST_F(X11WindowListTest, DescribesWindowsFromTheTop) {
     const xcb_window_t lower = makeWindow(11, "Lower");
     const xcb_window_t upper = makeWindow(11, "Upper ✓");
     const xcb_window_t remote = makeWindow(12, "Elsewhere");
@@ -87,7 +87,7 @@ TEST_F(X11WindowsTest, DescribesWindowsFromTheTop) {
     setNumbers(root_, "_NET_ACTIVE_WINDOW", {lower});
     setText(root_, "AT_SPI_BUS", "unix:path=/somewhere");
 
-    X11Windows windows(display_.c_str());
+    X11WindowList windows(display_.c_str());
     const auto all = windows.windows();
     ASSERT_EQ(all.size(), 4U);
     EXPECT_EQ(all[0].processIdentifier, std::nullopt) << "a window that is gone";
@@ -97,19 +97,19 @@ TEST_F(X11WindowsTest, DescribesWindowsFromTheTop) {
     EXPECT_EQ(all[2].instanceName, "instance");
     EXPECT_EQ(all[2].className, "Class");
     EXPECT_EQ(all[2].applicationIdentifier, "org.example.App");
-    EXPECT_EQ(windows.frontWindow(11)->title, Text("Lower"));
+    EXPECT_EQ(windows.windowsOf(11).front().title, Text("Lower"));
     setNumbers(root_, "_NET_ACTIVE_WINDOW", {remote});
-    EXPECT_EQ(windows.frontWindow(11)->title, Text("Upper ✓"));
-    EXPECT_EQ(windows.frontWindow(13), std::nullopt);
+    EXPECT_EQ(windows.windowsOf(11).front().title, Text("Upper ✓"));
+    EXPECT_TRUE(windows.windowsOf(13).empty());
     EXPECT_EQ(windows.activeWindow(after(0ms))->title, Text("Elsewhere"));
     EXPECT_EQ(windows.accessibilityBusAddress(), "unix:path=/somewhere");
 }
 
-TEST_F(X11WindowsTest, WaitsWhileNoWindowIsActive) {
+TEST_F(X11WindowListTest, WaitsWhileNoWindowIsActive) {
     const xcb_window_t window = makeWindow(11, "Next");
     setNumbers(root_, "_NET_ACTIVE_WINDOW", {0});
-    X11Windows windows(display_.c_str());
-    EXPECT_EQ(windows.activeWindow(after(20ms)), std::nullopt);
+    X11WindowList windows(display_.c_str());
+    EXPECT_FALSE(windows.activeWindow(after(20ms)));
     EXPECT_FALSE(windows.waitUntilActive(11, after(20ms)));
 
     std::thread manager([&] { setNumbers(root_, "_NET_ACTIVE_WINDOW", {window}); });
@@ -120,14 +120,14 @@ TEST_F(X11WindowsTest, WaitsWhileNoWindowIsActive) {
     EXPECT_TRUE(windows.waitUntilActive(11, after(0ms)));
 }
 
-TEST_F(X11WindowsTest, WhatAKilledWindowManagerHasSaidCountsNoMore) {
+TEST_F(X11WindowListTest, WhatAKilledWindowManagerHasSaidCountsNoMore) {
     const xcb_window_t active = makeWindow(11, "Active");
     const xcb_window_t focused = makeWindow(12, "Focused");
     setText(focused, "WM_CLASS", std::string("focused\0Focused\0", 16));
     xcb_map_window(connection_.get(), focused);
     xcb_set_input_focus(connection_.get(), XCB_INPUT_FOCUS_POINTER_ROOT, focused, XCB_CURRENT_TIME);
     setNumbers(root_, "_NET_ACTIVE_WINDOW", {active});
-    X11Windows windows(display_.c_str());
+    X11WindowList windows(display_.c_str());
     EXPECT_EQ(windows.activeWindow(after(0ms))->title, Text("Active"));
     xcb_destroy_window(connection_.get(), manager_);
     setNumbers(root_, "_NET_ACTIVE_WINDOW", {active});
@@ -139,13 +139,13 @@ TEST_F(X11WindowsTest, WhatAKilledWindowManagerHasSaidCountsNoMore) {
     EXPECT_EQ(windows.activeWindow(after(0ms))->title, Text("Active"));
 }
 
-TEST_F(X11WindowsTest, AsksTheWindowManagerToActivate) {
+TEST_F(X11WindowListTest, AsksTheWindowManagerToActivate) {
     const xcb_window_t window = makeWindow(11, "Target");
     const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT;
     xcb_change_window_attributes(connection_.get(), root_, XCB_CW_EVENT_MASK, &mask);
     const xcb_atom_t message = atom("_NET_ACTIVE_WINDOW");
-    X11Windows windows(display_.c_str());
-    ASSERT_TRUE(windows.activate(window));
+    X11WindowList windows(display_.c_str());
+    ASSERT_TRUE(windows.activate(std::to_string(window)));
     atom("WM_CLASS"); // Whatever was sent before has arrived with the answer.
     xcb_generic_event_t* event = xcb_poll_for_event(connection_.get());
     ASSERT_NE(event, nullptr);
@@ -157,13 +157,13 @@ TEST_F(X11WindowsTest, AsksTheWindowManagerToActivate) {
     std::free(event); // NOLINT: xcb allocates its events so
 }
 
-TEST(X11WindowsWithoutServer, HaveNoAnswers) {
-    X11Windows windows(":60987");
+TEST(X11WindowListWithoutServer, HaveNoAnswers) {
+    X11WindowList windows(":60987");
     EXPECT_FALSE(windows.isAvailable());
-    EXPECT_EQ(windows.activeWindow(after(50ms)), std::nullopt);
+    EXPECT_FALSE(windows.activeWindow(after(50ms)));
     EXPECT_TRUE(windows.windows().empty());
-    EXPECT_EQ(windows.frontWindow(1), std::nullopt);
-    EXPECT_FALSE(windows.activate(1));
+    EXPECT_TRUE(windows.windowsOf(1).empty());
+    EXPECT_FALSE(windows.activate("1"));
     EXPECT_EQ(windows.accessibilityBusAddress(), std::nullopt);
 }
 

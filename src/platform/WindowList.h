@@ -1,0 +1,47 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "platform/ApplicationWindow.h"
+#include "support/Observable.h"
+
+namespace tovrel {
+
+/// The windows of applications on a display, read anew at each question. Without a display there are none.
+class WindowList {
+  public:
+    virtual ~WindowList() = default;
+
+    /// Whether there is a display to ask.
+    [[nodiscard]] virtual bool isAvailable() const = 0;
+
+    /// The window that has the user's attention. A display that names none while it moves the focus is given
+    /// until the deadline.
+    [[nodiscard]] virtual std::optional<ApplicationWindow>
+    activeWindow(std::chrono::steady_clock::time_point deadline) = 0;
+
+    /// All of them, the topmost first.
+    [[nodiscard]] virtual std::vector<ApplicationWindow> windows() = 0;
+
+    /// Those of a process: the active one if it has it, then the others, the topmost first.
+    [[nodiscard]] virtual std::vector<ApplicationWindow> windowsOf(std::int32_t processIdentifier) = 0;
+
+    /// Asks the display to bring the window to the front, without waiting for it to happen. False when it
+    /// could not be asked.
+    virtual bool activate(const WindowIdentifier& window) = 0;
+
+    /// Waits until a window of this process is active; whether one is.
+    virtual bool waitUntilActive(std::int32_t processIdentifier,
+                                 std::chrono::steady_clock::time_point deadline) = 0;
+
+    /// The observer is called on the main queue each time another window has become the active one. That none
+    /// is for a moment is not told, nor is the same window once more after it.
+    [[nodiscard]] virtual Subscription
+    onActivation(std::function<void(const ApplicationWindow&)> observer) = 0;
+};
+
+} // namespace tovrel
