@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "platform/linux/dbus/DBus.h"
-#include "platform/linux/dbus/MenuReadLimits.h"
+#include "platform/linux/menus/source/MenuReadLimits.h"
 
 namespace tovrel::fuzzing {
 

@@ -5,8 +5,8 @@
 
 namespace tovrel {
 
-BoundedCalls::BoundedCalls(DBusConnection& connection, const MenuReadLimits& limits, SteadyTime started)
-    : connection_(connection), budget_(limits, started), started_(started),
+BoundedCalls::BoundedCalls(DBusConnection& connection, const CallLimits& limits, SteadyTime started)
+    : connection_(connection), limits_(limits), budget_(limits, started), started_(started),
       receivedBefore_(connection.received()), lastAnswer_(std::chrono::steady_clock::now()),
       window_(connection, limits.callsInFlight) {}
 
@@ -37,8 +37,7 @@ void BoundedCalls::sendNext() {
     const bool sent = window_.send(call, [this, handler = std::move(asked.handler)](DBusMessage& answer) {
         lastAnswer_ = std::chrono::steady_clock::now();
         if (saysApplicationIsGone(answer.errorName())) {
-            stopped_ =
-                connection_.isOpen() ? MenuReadOutcome::applicationGone : MenuReadOutcome::noAccessibilityBus;
+            stopped_ = connection_.isOpen() ? CallsStopped::gone : CallsStopped::disconnected;
         } else if (answer.errorName().empty()) {
             handler(answer);
         } else {
@@ -49,35 +48,35 @@ void BoundedCalls::sendNext() {
     if (sent) {
         ++calls_;
     } else if (!connection_.isOpen()) {
-        stopped_ = MenuReadOutcome::noAccessibilityBus;
+        stopped_ = CallsStopped::disconnected;
     }
 }
 
 void BoundedCalls::waitForAnswer() {
-    const SteadyTime end = started_ + limits().total;
-    const SteadyTime silentAt = lastAnswer_ + limits().silence;
+    const SteadyTime end = started_ + limits_.total;
+    const SteadyTime silentAt = lastAnswer_ + limits_.silence;
     const bool answered = window_.wait(std::min(end, silentAt));
     if (stopped_) {
         return;
     }
     if (isTooMuch()) {
         const bool isLate = std::chrono::steady_clock::now() >= end;
-        stopped_ = isLate ? MenuReadOutcome::tooSlow : MenuReadOutcome::treeTooLarge;
+        stopped_ = isLate ? CallsStopped::tooSlow : CallsStopped::tooMuch;
     } else if (answered) {
         const bool done = window_.isIdle() && queue_.empty();
         if (!done && std::chrono::steady_clock::now() >= end) {
-            stopped_ = MenuReadOutcome::tooSlow;
+            stopped_ = CallsStopped::tooSlow;
         }
     } else if (!connection_.isOpen()) {
-        stopped_ = MenuReadOutcome::noAccessibilityBus;
+        stopped_ = CallsStopped::disconnected;
     } else {
-        stopped_ = silentAt <= end ? MenuReadOutcome::applicationSilent : MenuReadOutcome::tooSlow;
+        stopped_ = silentAt <= end ? CallsStopped::silent : CallsStopped::tooSlow;
     }
 }
 
 bool BoundedCalls::isTooMuch() const {
     return budget_.isExhausted() || connection_.wasOverwhelmed() ||
-           connection_.received() - receivedBefore_ > limits().received;
+           connection_.received() - receivedBefore_ > limits_.received;
 }
 
 bool saysApplicationIsGone(std::string_view errorName) {

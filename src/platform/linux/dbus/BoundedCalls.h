@@ -7,13 +7,23 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/linux/dbus/AnswerBudget.h"
+#include "platform/linux/dbus/CallLimits.h"
 #include "platform/linux/dbus/DBusCallWindow.h"
-#include "platform/linux/dbus/MenuReadBudget.h"
-#include "platform/linux/dbus/MenuReadReport.h"
 
 namespace tovrel {
 
-/// Calls to one application, many at a time, within the limits of one read of its menus.
+/// Why calls were cut short.
+enum class CallsStopped {
+    silent,       ///< The application stopped answering: hung, or busy with something else.
+    tooSlow,      ///< It answered, but not everything within the time for all calls.
+    tooMuch,      ///< It sent more than is taken.
+    gone,         ///< It left the bus meanwhile.
+    disconnected, ///< The bus itself is lost.
+};
+
+/// Calls to one application, many at a time, within limits. Answers are handed to it while they are awaited,
+/// so it stays where it was made.
 class BoundedCalls {
   public:
     /// Makes the call when its turn has come; an empty message is left out.
@@ -21,8 +31,11 @@ class BoundedCalls {
     /// Gets the answer, which may be of any type; an empty message for an error.
     using Handler = DBusCallWindow::Handler;
 
-    /// `started` is when the read began, which `limits.total` counts from.
-    BoundedCalls(DBusConnection& connection, const MenuReadLimits& limits, SteadyTime started);
+    /// `started` is when the work began, which `limits.total` counts from.
+    BoundedCalls(DBusConnection& connection, const CallLimits& limits, SteadyTime started);
+    BoundedCalls(const BoundedCalls&) = delete;
+    BoundedCalls& operator=(const BoundedCalls&) = delete;
+    ~BoundedCalls() = default;
 
     /// Notes the call for `run`, which sends in this order, so that what a slow application has answered by
     /// the end is from the front. Handlers may note further ones.
@@ -32,10 +45,9 @@ class BoundedCalls {
     /// says why.
     bool run();
 
-    [[nodiscard]] std::optional<MenuReadOutcome> stopped() const { return stopped_; }
-    [[nodiscard]] const MenuReadLimits& limits() const { return budget_.limits(); }
+    [[nodiscard]] std::optional<CallsStopped> stopped() const { return stopped_; }
     /// What handlers decode answers with. The calls stop when it is exhausted.
-    [[nodiscard]] MenuReadBudget& budget() { return budget_; }
+    [[nodiscard]] AnswerBudget& budget() { return budget_; }
     [[nodiscard]] std::size_t calls() const { return calls_; }
 
   private:
@@ -49,13 +61,14 @@ class BoundedCalls {
     [[nodiscard]] bool isTooMuch() const;
 
     DBusConnection& connection_;
-    MenuReadBudget budget_;
+    CallLimits limits_;
+    AnswerBudget budget_;
     SteadyTime started_;
     std::uint64_t receivedBefore_;
     SteadyTime lastAnswer_;
     std::deque<Asked> queue_;
     std::size_t calls_ = 0;
-    std::optional<MenuReadOutcome> stopped_;
+    std::optional<CallsStopped> stopped_;
     DBusCallWindow window_;
 };
 

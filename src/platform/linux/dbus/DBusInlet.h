@@ -14,9 +14,9 @@ namespace tovrel {
 /// message is is looked at.
 class DBusInlet {
   public:
-    /// The longest message that is let through. The longest answer met, the whole menu bar of an office
-    /// suite, has 300 KB; an object with 100,000 children, as views of pictures may be, would answer with 5
-    /// MB.
+    /// The longest message that is let through. The longest answer met, what an office suite
+    /// publishes of one window, has 300 KB; an object with 100,000 children, as views of pictures may be,
+    /// would answer with 5 MB.
     static constexpr std::size_t longestMessage = std::size_t{8} << 20U;
 
     /// Reads from `source` and writes to `sink`, neither of which may block.

@@ -65,7 +65,7 @@ std::string containerSignature(char type, std::string_view contents) {
 /// Goes through a value from its start to its end, and keeps it on the way as long as it is small.
 class Walk {
   public:
-    Walk(sd_bus_message* message, MenuReadBudget& budget) : message_(message), budget_(budget) {}
+    Walk(sd_bus_message* message, AnswerBudget& budget) : message_(message), budget_(budget) {}
 
     /// Passes the next value, which fills `kept` unless that is null. False when the message cannot be read
     /// further.
@@ -164,7 +164,7 @@ class Walk {
     }
 
     sd_bus_message* message_;
-    MenuReadBudget& budget_;
+    AnswerBudget& budget_;
     std::size_t size_ = 0;
     bool isTooLarge_ = false;
 };
@@ -238,7 +238,7 @@ bool appendValue(sd_bus_message* message, const DBusValue& value) {
 
 } // namespace
 
-std::optional<DBusValue> readVariant(sd_bus_message* message, MenuReadBudget& budget) {
+std::optional<DBusValue> readVariant(sd_bus_message* message, AnswerBudget& budget) {
     Walk walk(message, budget);
     DBusValue variant;
     if (!isAtVariant(message) || !walk.pass(&variant) || walk.isTooLarge() ||
@@ -249,7 +249,7 @@ std::optional<DBusValue> readVariant(sd_bus_message* message, MenuReadBudget& bu
     return parts.size() == 1 ? std::optional(std::move(parts.front())) : std::nullopt;
 }
 
-std::optional<std::string_view> readVariantText(sd_bus_message* message, MenuReadBudget& budget) {
+std::optional<std::string_view> readVariantText(sd_bus_message* message, AnswerBudget& budget) {
     char type = 0;
     const char* contents = nullptr;
     const char* text = nullptr;
@@ -263,13 +263,13 @@ std::optional<std::string_view> readVariantText(sd_bus_message* message, MenuRea
                : std::nullopt;
 }
 
-void skipVariant(sd_bus_message* message, MenuReadBudget& budget) {
+void skipVariant(sd_bus_message* message, AnswerBudget& budget) {
     if (isAtVariant(message)) {
         skipValue(message, budget);
     }
 }
 
-bool skipValue(sd_bus_message* message, MenuReadBudget& budget) {
+bool skipValue(sd_bus_message* message, AnswerBudget& budget) {
     return Walk(message, budget).pass(nullptr);
 }
 

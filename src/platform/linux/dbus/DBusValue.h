@@ -10,7 +10,7 @@
 
 #include <systemd/sd-bus.h>
 
-#include "platform/linux/dbus/MenuReadBudget.h"
+#include "platform/linux/dbus/AnswerBudget.h"
 
 namespace tovrel {
 
@@ -33,19 +33,19 @@ inline constexpr std::size_t largestValue = std::size_t{16} << 10U;
 /// When the budget runs out, and with what is no variant, the message stands somewhere within, and cannot be
 /// read further.
 
-/// Absent for what is larger than `largestValue`, or nested deeper than a menu's values ever are, and for
+/// Absent for what is larger than `largestValue`, or nested deeper than real ones ever are, and for
 /// file descriptors.
-std::optional<DBusValue> readVariant(sd_bus_message* message, MenuReadBudget& budget);
+std::optional<DBusValue> readVariant(sd_bus_message* message, AnswerBudget& budget);
 
 /// A string, as long as the message lives; absent for any other type.
-std::optional<std::string_view> readVariantText(sd_bus_message* message, MenuReadBudget& budget);
+std::optional<std::string_view> readVariantText(sd_bus_message* message, AnswerBudget& budget);
 
 /// Passes by the value, whatever it is.
-void skipVariant(sd_bus_message* message, MenuReadBudget& budget);
+void skipVariant(sd_bus_message* message, AnswerBudget& budget);
 
 /// Passes by the value of any type at which the message stands. False when the message cannot be read
 /// further.
-bool skipValue(sd_bus_message* message, MenuReadBudget& budget);
+bool skipValue(sd_bus_message* message, AnswerBudget& budget);
 
 /// Appends the value within a variant; false when the message does not take it.
 bool appendVariant(sd_bus_message* message, const DBusValue& value);

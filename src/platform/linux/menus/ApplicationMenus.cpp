@@ -5,21 +5,17 @@
 #include <utility>
 
 #include "platform/linux/menus/MenuJoin.h"
-#include "platform/linux/menus/MenuPress.h"
-#include "platform/linux/menus/accessibility/AtspiMenuReader.h"
-#include "platform/linux/menus/accessibility/AtspiMenus.h"
-#include "platform/linux/menus/dbusmenu/DBusMenuReader.h"
-#include "platform/linux/menus/gtk/GtkMenuReader.h"
+#include "platform/linux/menus/dbusmenu/DBusMenuSource.h"
+#include "platform/linux/menus/gtk/GtkMenuSource.h"
 #include "platform/linux/menus/source/MenuBounds.h"
 
 namespace tovrel {
 namespace {
 
-/// Nothing that lies behind a silent application is worth another wait, and nothing behind one that has gone.
-bool isUnreachable(MenuReadOutcome outcome) {
-    return outcome == MenuReadOutcome::applicationSilent || outcome == MenuReadOutcome::tooSlow ||
-           outcome == MenuReadOutcome::applicationGone;
-}
+/// Places in `MenuSources::all`.
+constexpr std::size_t publishing = 0;
+constexpr std::size_t accessible = 1;
+constexpr std::size_t firstFurther = 2;
 
 bool hasEntries(const MenuReading& reading) {
     return !reading.tree.empty() && !reading.tree.front().children.empty();
@@ -30,201 +26,128 @@ bool isTooMuch(const MenuReading& reading) {
     return reading.report.outcome == MenuReadOutcome::treeTooLarge;
 }
 
-MenuReading nothing() {
-    MenuReading reading;
-    reading.report.outcome = MenuReadOutcome::noMenuBar;
-    return reading;
+/// Whether there is something left for a further source to give.
+bool hasGaps(const MenuReading& reading) {
+    return !hasEntries(reading) || hasEmptyMenu(reading.tree);
 }
 
-const ApplicationWindow* frontOf(const std::vector<ApplicationWindow>& windows) {
-    return windows.empty() ? nullptr : &windows.front();
-}
-
-/// The window with a published menu bar; null when there is none. A dialog in front of it has none of its
-/// own.
-const ApplicationWindow* publisherOf(const std::vector<ApplicationWindow>& windows) {
-    const auto window = std::find_if(windows.begin(), windows.end(),
-                                     [](const ApplicationWindow& candidate) { return candidate.gtkMenus; });
-    return window == windows.end() ? nullptr : &*window;
-}
-
-/// Late answers of an application that was given up would else be kept account of by the bus.
-template <typename Bus>
-void forgetIfAbandoned(Bus& bus, MenuReadOutcome outcome) {
-    if (outcome == MenuReadOutcome::applicationSilent || outcome == MenuReadOutcome::tooSlow ||
-        outcome == MenuReadOutcome::treeTooLarge) {
-        bus.disconnect();
+/// The accessible menu bar that is wanted is that of the window which publishes one.
+MenuReadRequest withPublisherFirst(MenuReadRequest request) {
+    if (const ApplicationWindow* publisher = publisherOf(request.windows)) {
+        const auto place = request.windows.begin() + (publisher - request.windows.data());
+        std::rotate(request.windows.begin(), place, place + 1);
     }
+    return request;
+}
+
+/// What was read so far with its gaps filled, or the other where nothing was.
+MenuReading filled(MenuReading reading, MenuReading other) {
+    const std::size_t calls = reading.report.calls + other.report.calls;
+    if (!hasEntries(reading) && (hasEntries(other) || isTooMuch(other))) {
+        reading = std::move(other);
+    } else {
+        joinMenus(reading.tree, other.tree);
+    }
+    reading.report.calls = calls;
+    return reading;
 }
 
 } // namespace
 
-ApplicationMenus::ApplicationMenus(MenuBuses buses, Windows windows, const MenuReadLimits& limits,
-                                   std::shared_ptr<KnownAccelerators> accelerators,
-                                   std::int32_t processIdentifier)
-    : buses_(std::move(buses)), windows_(std::move(windows)), limits_(limits),
-      accelerators_(std::move(accelerators)), processIdentifier_(processIdentifier) {}
+MenuSources::MenuSources(const MenuBuses& buses)
+    : accessible(std::make_shared<AtspiMenuSource>(buses.accessibility)),
+      all{
+          std::make_shared<GtkMenuSource>(buses.session),
+          accessible,
+          std::make_shared<DBusMenuSource>(buses.session),
+      } {}
+
+ApplicationMenus::ApplicationMenus(std::shared_ptr<MenuSources> sources, Windows windows,
+                                   const MenuReadLimits& limits, std::int32_t processIdentifier)
+    : sources_(std::move(sources)), windows_(std::move(windows)), limits_(limits),
+      processIdentifier_(processIdentifier) {}
 
 MenuReading ApplicationMenus::read() {
-    const SteadyTime started = std::chrono::steady_clock::now();
-    const std::vector<ApplicationWindow> windows = this->windows();
-    const ApplicationWindow* publisher = publisherOf(windows);
-    MenuReading published = publisher != nullptr ? readPublished(*publisher->gtkMenus, started) : nothing();
-    if (isUnreachable(published.report.outcome)) {
-        return published;
+    const MenuReadRequest request = this->request();
+    MenuReading reading = readFrom(publishing, request);
+    bool isAnswering = !isUnreachable(reading.report.outcome);
+    if (isAnswering) {
+        reading = withAccessible(std::move(reading), request);
+        isAnswering = !isUnreachable(reading.report.outcome);
     }
-    const bool isWhole =
-        hasEntries(published) && accelerators_->addTo(published.tree, publisher->gtkMenus->busName, started);
-    MenuReading reading = isWhole ? nothing()
-                                  : readAccessible(publisher != nullptr ? publisher : frontOf(windows),
-                                                   published.tree, started);
-    std::size_t calls = published.report.calls + reading.report.calls;
-    if (hasEntries(published) || (reading.tree.empty() && isTooMuch(published))) {
-        reading = std::move(published);
-    }
-    if (!isUnreachable(reading.report.outcome) && (!hasEntries(reading) || hasEmptyMenu(reading.tree))) {
-        const auto menu = registeredMenu(windows, started);
-        MenuReading registered = menu ? readRegistered(*menu, started) : nothing();
-        calls += registered.report.calls;
-        if (!hasEntries(reading) && (hasEntries(registered) || isTooMuch(registered))) {
-            reading = std::move(registered);
-        } else {
-            joinMenus(reading.tree, registered.tree);
-        }
+    for (std::size_t source = firstFurther; source < sources_->all.size() && isAnswering && hasGaps(reading);
+         ++source) {
+        MenuReading further = readFrom(source, request);
+        isAnswering = !isUnreachable(further.report.outcome);
+        reading = filled(std::move(reading), std::move(further));
     }
     if (boundPaths(reading.tree, limits_.pathBytes) && reading.report.outcome == MenuReadOutcome::completed) {
         reading.report.outcome = MenuReadOutcome::treeTooLarge;
     }
-    reading.report.calls = calls;
-    reading.report.elapsed =
-        std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - started);
+    reading.report.elapsed = std::chrono::duration_cast<std::chrono::microseconds>(
+        std::chrono::steady_clock::now() - request.started);
     return reading;
 }
 
 bool ApplicationMenus::press(const MenuTree& tree, std::size_t node) {
-    const std::vector<ApplicationWindow> windows = this->windows();
-    if (!windows.empty() && windows.front().isModal) {
+    MenuReadRequest request = this->request();
+    const bool isModal = !request.windows.empty() && request.windows.front().isModal;
+    if (isModal || !tree[node].item.has_value()) {
         return false;
     }
-    const MenuItemSource& source = tree[node].source;
-    if (std::holds_alternative<GtkAction>(source)) {
-        return pressPublished(tree, node, windows);
+    ApplicationMenuSource& source = *sources_->all[tree[node].source];
+    if (source.hasLastingItems()) {
+        const PressResult result = source.press(tree[node].item);
+        if (result != PressResult::itemGone) {
+            return result == PressResult::accepted;
+        }
     }
-    return std::holds_alternative<DBusMenuItem>(source) ? pressRegistered(tree, node, windows)
-                                                        : pressAccessible(tree, node, windows);
+    request.started = std::chrono::steady_clock::now();
+    const MenuReading now = source.read(request);
+    const auto found = counterpart(tree, node, now.tree);
+    return found && source.press(now.tree[*found].item) == PressResult::accepted;
 }
 
-MenuReading ApplicationMenus::readAccessible(const ApplicationWindow* window, MenuTree& published,
-                                             SteadyTime started) {
+MenuReadRequest ApplicationMenus::request() const {
+    MenuReadRequest request;
+    request.processIdentifier = processIdentifier_;
+    request.started = std::chrono::steady_clock::now();
+    request.limits = limits_;
+    if (windows_) {
+        request.windows = windows_(processIdentifier_);
+    }
+    return request;
+}
+
+MenuReading ApplicationMenus::readFrom(std::size_t source, const MenuReadRequest& request) {
+    MenuReading reading = sources_->all[source]->read(request);
+    for (MenuNode& node : reading.tree) {
+        node.source = source;
+    }
+    return reading;
+}
+
+MenuReading ApplicationMenus::withAccessible(MenuReading published, const MenuReadRequest& request) {
+    KnownAccelerators& accelerators = sources_->accelerators;
+    if (hasEntries(published) && accelerators.addTo(published.tree, request.started)) {
+        return published;
+    }
     MenuReading reading;
-    auto applications = buses_.accessibility->applications();
-    reading.report.outcome =
-        applications ? MenuReadOutcome::notRegistered : MenuReadOutcome::noAccessibilityBus;
-    const auto title = window == nullptr ? std::nullopt : std::optional(window->title);
-    // A process with two toolkits in it has two connections.
-    for (const AtspiApplication& application :
-         std::move(applications).value_or(std::vector<AtspiApplication>())) {
-        DBusConnection* connection = buses_.accessibility->connection();
-        if (application.processIdentifier != processIdentifier_ || connection == nullptr) {
-            continue;
+    if (published.tree.empty()) {
+        reading = readFrom(accessible, withPublisherFirst(request));
+    } else {
+        const auto added = sources_->accessible->addTo(published.tree, withPublisherFirst(request));
+        if (added.hasAddedAccelerators) {
+            accelerators.learn(published.tree, request.started);
         }
-        AtspiMenuReading answered = readAtspiMenus(*connection, application.busName, application.root, title,
-                                                   published, limits_, started);
-        if (answered.hasAddedAccelerators) {
-            accelerators_->learn(published, window->gtkMenus->busName, started);
-        }
-        reading = {menuTreeOf(answered.tree), answered.report};
-        if (answered.tree.toolkit == AtspiToolkit::gecko &&
-            reading.report.outcome == MenuReadOutcome::completed && hasOnlyEmptyMenus(reading.tree)) {
-            reading.report.outcome = MenuReadOutcome::menusUnfilled;
-        }
-        forgetIfAbandoned(*buses_.accessibility, reading.report.outcome);
-        if (!reading.tree.empty() || isUnreachable(reading.report.outcome)) {
-            break;
-        }
+        reading.report = added.report;
     }
+    const std::size_t calls = published.report.calls + reading.report.calls;
+    if (hasEntries(published) || (reading.tree.empty() && isTooMuch(published))) {
+        reading = std::move(published);
+    }
+    reading.report.calls = calls;
     return reading;
-}
-
-MenuReading ApplicationMenus::readPublished(const GtkMenuAddress& address, SteadyTime started) {
-    DBusConnection* connection = buses_.session->connection();
-    if (connection == nullptr) {
-        return nothing();
-    }
-    MenuReading reading = readGtkMenuBar(*connection, address, limits_, started);
-    forgetIfAbandoned(*buses_.session, reading.report.outcome);
-    return reading;
-}
-
-MenuReading ApplicationMenus::readRegistered(const DBusMenuAddress& address, SteadyTime started) {
-    DBusConnection* connection = buses_.session->connection();
-    if (connection == nullptr) {
-        return nothing();
-    }
-    MenuReading reading = readDBusMenuBar(*connection, address, limits_, started);
-    forgetIfAbandoned(*buses_.session, reading.report.outcome);
-    return reading;
-}
-
-std::optional<DBusMenuAddress> ApplicationMenus::registeredMenu(const std::vector<ApplicationWindow>& windows,
-                                                                SteadyTime started) {
-    const auto window = windows.empty() ? std::nullopt : windows.front().registrarIdentifier;
-    DBusConnection* connection = window ? buses_.session->connection() : nullptr;
-    return connection == nullptr ? std::nullopt
-                                 : tovrel::registeredMenu(*connection, *window, limits_, started);
-}
-
-std::vector<ApplicationWindow> ApplicationMenus::windows() const {
-    return windows_ ? windows_(processIdentifier_) : std::vector<ApplicationWindow>();
-}
-
-bool ApplicationMenus::pressAccessible(const MenuTree& tree, std::size_t node,
-                                       const std::vector<ApplicationWindow>& windows) {
-    DBusConnection* connection = buses_.accessibility->connection();
-    if (connection == nullptr) {
-        return false;
-    }
-    const PressResult result = pressItem(*connection, std::get<AtspiObject>(tree[node].source));
-    if (result != PressResult::itemGone) {
-        return result == PressResult::accepted;
-    }
-    MenuTree nothingPublished;
-    const MenuReading now =
-        readAccessible(frontOf(windows), nothingPublished, std::chrono::steady_clock::now());
-    const auto found = counterpart(tree, node, now.tree);
-    connection = buses_.accessibility->connection();
-    return found && connection != nullptr &&
-           pressItem(*connection, std::get<AtspiObject>(now.tree[*found].source)) == PressResult::accepted;
-}
-
-bool ApplicationMenus::pressPublished(const MenuTree& tree, std::size_t node,
-                                      const std::vector<ApplicationWindow>& windows) {
-    const ApplicationWindow* publisher = publisherOf(windows);
-    if (publisher == nullptr) {
-        return false;
-    }
-    const GtkMenuAddress& address = *publisher->gtkMenus;
-    const MenuReading now = readPublished(address, std::chrono::steady_clock::now());
-    const auto found = counterpart(tree, node, now.tree);
-    DBusConnection* connection = buses_.session->connection();
-    return found && connection != nullptr &&
-           pressItem(*connection, address.busName, std::get<GtkAction>(now.tree[*found].source)) ==
-               PressResult::accepted;
-}
-
-bool ApplicationMenus::pressRegistered(const MenuTree& tree, std::size_t node,
-                                       const std::vector<ApplicationWindow>& windows) {
-    const SteadyTime started = std::chrono::steady_clock::now();
-    const auto address = registeredMenu(windows, started);
-    if (!address) {
-        return false;
-    }
-    const MenuReading now = readRegistered(*address, started);
-    const auto found = counterpart(tree, node, now.tree);
-    DBusConnection* connection = buses_.session->connection();
-    return found && connection != nullptr &&
-           pressItem(*connection, address->busName, address->path,
-                     std::get<DBusMenuItem>(now.tree[*found].source)) == PressResult::accepted;
 }
 
 } // namespace tovrel

@@ -48,19 +48,19 @@ class ApplicationElement : public AccessibilityElement {
 
 } // namespace
 
-LinuxAccessibility::LinuxAccessibility(MenuBuses buses, ApplicationMenus::Windows windows,
+LinuxAccessibility::LinuxAccessibility(const MenuBuses& buses, ApplicationMenus::Windows windows,
                                        const MenuReadLimits& limits)
-    : buses_(std::move(buses)), windows_(std::move(windows)), limits_(limits),
+    : bus_(buses.accessibility), windows_(std::move(windows)), limits_(limits),
+      sources_(std::make_shared<MenuSources>(buses)),
       report_(std::make_shared<std::optional<MenuReadReport>>()) {}
 
 bool LinuxAccessibility::isTrusted() {
-    return buses_.accessibility->isEnabled() && buses_.accessibility->answers();
+    return bus_->isEnabled() && bus_->answers();
 }
 
 std::shared_ptr<AccessibilityElement> LinuxAccessibility::applicationElement(std::int32_t processIdentifier) {
     return std::make_shared<ApplicationElement>(
-        std::make_shared<ApplicationMenus>(buses_, windows_, limits_, accelerators_, processIdentifier),
-        report_);
+        std::make_shared<ApplicationMenus>(sources_, windows_, limits_, processIdentifier), report_);
 }
 
 } // namespace tovrel

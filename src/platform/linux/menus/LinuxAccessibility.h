@@ -14,7 +14,7 @@ class LinuxAccessibility : public Accessibility {
   public:
     /// `windows` tells where a process publishes menus besides the accessibility bus, and which of its
     /// windows is in front where their states do not say; it may be empty.
-    explicit LinuxAccessibility(MenuBuses buses, ApplicationMenus::Windows windows = {},
+    explicit LinuxAccessibility(const MenuBuses& buses, ApplicationMenus::Windows windows = {},
                                 const MenuReadLimits& limits = {});
 
     /// Whether the accessibility bus answers and accessibility is enabled for toolkits. Reading works without
@@ -30,11 +30,12 @@ class LinuxAccessibility : public Accessibility {
     [[nodiscard]] std::optional<MenuReadReport> lastReport() const { return *report_; }
 
   private:
-    MenuBuses buses_;
+    std::shared_ptr<AtspiBus> bus_;
     ApplicationMenus::Windows windows_;
     MenuReadLimits limits_;
-    std::shared_ptr<KnownAccelerators> accelerators_ = std::make_shared<KnownAccelerators>();
-    /// Shared with the root elements, which may outlive this object.
+    /// Shared with the elements, which may outlive this object.
+    std::shared_ptr<MenuSources> sources_;
+    /// Likewise with the root elements.
     std::shared_ptr<std::optional<MenuReadReport>> report_;
 };
 

@@ -1,6 +1,5 @@
 #include "platform/linux/menus/MenuJoin.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -59,32 +58,12 @@ class Join {
     const MenuTree& other_;
 };
 
-bool hasEmptyMenu(const MenuTree& tree, std::size_t menu) {
-    if (tree[menu].isMenu && tree[menu].children.empty()) {
-        return true;
-    }
-    return std::any_of(tree[menu].children.begin(), tree[menu].children.end(),
-                       [&](std::size_t child) { return hasEmptyMenu(tree, child); });
-}
-
 } // namespace
 
 void joinMenus(MenuTree& tree, const MenuTree& other) {
     if (!tree.empty() && !other.empty()) {
         Join(tree, other).menus(0, 0);
     }
-}
-
-bool hasEmptyMenu(const MenuTree& tree) {
-    return !tree.empty() && hasEmptyMenu(tree, 0);
-}
-
-bool hasOnlyEmptyMenus(const MenuTree& tree) {
-    const auto isEmptyMenu = [&](std::size_t entry) {
-        return tree[entry].isMenu && tree[entry].children.empty();
-    };
-    return !tree.empty() && !tree.front().children.empty() &&
-           std::all_of(tree.front().children.begin(), tree.front().children.end(), isEmptyMenu);
 }
 
 } // namespace tovrel

@@ -12,10 +12,4 @@ namespace tovrel {
 /// - A menu without entries gets those of the other source, with their way of being pressed.
 void joinMenus(MenuTree& tree, const MenuTree& other);
 
-/// Whether a menu of it has no entries.
-bool hasEmptyMenu(const MenuTree& tree);
-
-/// Whether it is made of menus none of which has entries.
-bool hasOnlyEmptyMenus(const MenuTree& tree);
-
 } // namespace tovrel

@@ -132,7 +132,14 @@ TEST_F(DBusConnectionTest, ValuesAreKeptWhileTheyAreSmallAndPassedByOtherwise) {
     sd_bus_message_append(raw, "vvvi", "s", "text", "i", 5, "y", 7, 9);
     sd_bus_message_seal(raw, 1, 0);
 
-    MenuReadBudget budget({}, std::chrono::steady_clock::now());
+    CallLimits limits{.silence = 1s,
+                      .total = 10s,
+                      .callsInFlight = 1,
+                      .received = 1'000'000,
+                      .values = 10'000,
+                      .textBytes = 100'000,
+                      .valueBytes = 100'000};
+    AnswerBudget budget(limits, std::chrono::steady_clock::now());
     const auto value = readVariant(raw, budget);
     ASSERT_TRUE(value.has_value());
     EXPECT_EQ(value->signature, "(sa{sv}d)");
@@ -150,9 +157,8 @@ TEST_F(DBusConnectionTest, ValuesAreKeptWhileTheyAreSmallAndPassedByOtherwise) {
     sd_bus_message_seal(copy.handle(), 2, 0);
     EXPECT_EQ(readVariant(copy.handle(), budget), value) << "sent back it is the same";
     sd_bus_message_rewind(copy.handle(), 1);
-    MenuReadLimits few;
-    few.values = 5;
-    MenuReadBudget small(few, std::chrono::steady_clock::now());
+    limits.values = 5;
+    AnswerBudget small(limits, std::chrono::steady_clock::now());
     EXPECT_EQ(readVariant(copy.handle(), small), std::nullopt);
     EXPECT_TRUE(small.isExhausted());
 }

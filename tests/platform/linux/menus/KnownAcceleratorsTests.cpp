@@ -1,4 +1,4 @@
-#include "platform/linux/menus/accessibility/KnownAccelerators.h"
+#include "platform/linux/menus/gtk/KnownAccelerators.h"
 
 #include <gtest/gtest.h>
 
@@ -7,11 +7,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-MenuNode item(const char* action, std::optional<DBusValue> target, std::optional<MenuShortcut> shortcut) {
+MenuNode item(const char* action, std::optional<DBusValue> target, std::optional<MenuShortcut> shortcut,
+              const char* busName = ":1.1") {
     MenuNode node;
     node.title = Text(action);
     node.shortcut = std::move(shortcut);
-    node.source = GtkAction{"/window/1", action, std::move(target)};
+    node.item = GtkAction{busName, "/window/1", action, std::move(target)};
     return node;
 }
 
@@ -36,35 +37,36 @@ TEST(KnownAcceleratorsTest, BelongToAnActionWithItsTargetOnOneBusName) {
     const SteadyTime now = std::chrono::steady_clock::now();
     known.learn(barOf({item("new", {}, altN), item("size", small, altS), item("size", large, {}),
                        item("new", {}, {})}),
-                ":1.1", now);
+                now);
 
+    MenuTree ofAnother = barOf({item("size", large, {}, ":1.2")});
+    EXPECT_FALSE(known.addTo(ofAnother, now));
     MenuTree tree = barOf({item("size", large, {}), item("size", small, {}), item("new", {}, {})});
-    EXPECT_FALSE(known.addTo(tree, ":1.2", now));
-    EXPECT_TRUE(known.addTo(tree, ":1.1", now));
+    EXPECT_TRUE(known.addTo(tree, now));
     EXPECT_EQ(tree[1].shortcut, std::nullopt);
     EXPECT_EQ(tree[2].shortcut, altS);
     EXPECT_EQ(tree[3].shortcut, altN);
 
     MenuTree withUnknown = barOf({item("new", {}, {}), item("old", {}, {})});
-    EXPECT_FALSE(known.addTo(withUnknown, ":1.1", now));
+    EXPECT_FALSE(known.addTo(withUnknown, now));
     EXPECT_EQ(withUnknown[1].shortcut, std::nullopt) << "it is to be asked for with the others";
     withUnknown[2].shortcut = altS;
-    EXPECT_TRUE(known.addTo(withUnknown, ":1.1", now)) << "the other one is published";
+    EXPECT_TRUE(known.addTo(withUnknown, now)) << "the other one is published";
 }
 
 TEST(KnownAcceleratorsTest, AreAskedForAgainAfterSomeTime) {
     KnownAccelerators known;
     const SteadyTime learnt = std::chrono::steady_clock::now();
     MenuTree tree = barOf({item("new", {}, altN)});
-    known.learn(tree, ":1.1", learnt);
+    known.learn(tree, learnt);
     tree[1].shortcut.reset();
-    EXPECT_FALSE(known.addTo(tree, ":1.1", learnt + KnownAccelerators::lifetime));
-    EXPECT_TRUE(known.addTo(tree, ":1.1", learnt + KnownAccelerators::lifetime - 1ms));
+    EXPECT_FALSE(known.addTo(tree, learnt + KnownAccelerators::lifetime));
+    EXPECT_TRUE(known.addTo(tree, learnt + KnownAccelerators::lifetime - 1ms));
 
     tree[1].shortcut = altS;
-    known.learn(tree, ":1.1", learnt + KnownAccelerators::lifetime);
+    known.learn(tree, learnt + KnownAccelerators::lifetime);
     tree[1].shortcut.reset();
-    EXPECT_TRUE(known.addTo(tree, ":1.1", learnt + KnownAccelerators::lifetime));
+    EXPECT_TRUE(known.addTo(tree, learnt + KnownAccelerators::lifetime));
     EXPECT_EQ(tree[1].shortcut, altS);
 }
 

@@ -7,6 +7,7 @@
 #include "model/MenuTitle.h"
 #include "platform/linux/menus/accessibility/AtspiKeyBinding.h"
 #include "platform/linux/menus/source/EntriesByTitle.h"
+#include "platform/linux/menus/source/MenuReading.h"
 
 namespace tovrel {
 namespace {
@@ -20,11 +21,15 @@ struct Objects {
     std::size_t missing = 0; ///< Names that have not been answered yet.
 };
 
-/// Goes through the accessible menus and asks `Addition` about each entry that is in the tree too.
+/// Goes through the accessible menus and asks `Addition` about each entry that is in the tree too. Like the
+/// additions it gets the answers itself, so none of them can be moved.
 template <typename Addition>
 class Additions {
   public:
     Additions(AtspiCalls& calls, MenuTree& tree) : calls_(calls), tree_(tree), addition_(calls, tree) {}
+    Additions(const Additions&) = delete;
+    Additions& operator=(const Additions&) = delete;
+    ~Additions() = default;
 
     void add(const std::vector<std::string>& entries) {
         read(0, entries);
@@ -42,7 +47,7 @@ class Additions {
         for (std::size_t index = 0; index < paths.size(); ++index) {
             calls_.ask(paths[index], Question::name, [this, menu, objects, index](DBusMessage& answer) {
                 objects->titles[index] =
-                    menuTitle(calls_.budget().keptTitle(answer.readVariantString().value_or("")));
+                    menuTitle(keptTitle(answer.readVariantString().value_or(""), calls_.budget()));
                 if (--objects->missing == 0) {
                     askAbout(addition_.match(menu, *objects), *objects);
                 }
@@ -79,6 +84,9 @@ class Additions {
 class Accelerators {
   public:
     Accelerators(AtspiCalls& calls, MenuTree& tree) : calls_(calls), tree_(tree) {}
+    Accelerators(const Accelerators&) = delete;
+    Accelerators& operator=(const Accelerators&) = delete;
+    ~Accelerators() = default;
 
     std::vector<std::optional<std::size_t>> match(std::size_t menu, const Objects& objects) {
         EntriesByTitle entries(tree_, menu);
@@ -107,6 +115,9 @@ class Accelerators {
 class States {
   public:
     States(AtspiCalls& calls, MenuTree& tree) : calls_(calls), tree_(tree) {}
+    States(const States&) = delete;
+    States& operator=(const States&) = delete;
+    ~States() = default;
 
     /// Also drops the entries of the menu that have no match.
     std::vector<std::optional<std::size_t>> match(std::size_t menu, const Objects& objects) {

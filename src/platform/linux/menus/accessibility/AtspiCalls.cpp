@@ -20,7 +20,7 @@ DBusMessage withArguments(DBusMessage call, const char* first, const char* secon
 
 AtspiCalls::AtspiCalls(DBusConnection& connection, std::string busName, const MenuReadLimits& limits,
                        SteadyTime started)
-    : busName_(std::move(busName)), calls_(connection, limits, started) {}
+    : busName_(std::move(busName)), limits_(limits), calls_(connection, limits.ofCalls(), started) {}
 
 void AtspiCalls::ask(std::string path, Question question, Handler handler) {
     calls_.ask([this, path = std::move(path),
@@ -57,7 +57,7 @@ DBusMessage AtspiCalls::callFor(const DBusConnection& connection, const std::str
 }
 
 std::optional<std::vector<std::string>> readChildren(DBusMessage& answer, std::string_view busName,
-                                                     std::size_t limit, MenuReadBudget& budget) {
+                                                     std::size_t limit, AnswerBudget& budget) {
     sd_bus_message* message = answer.handle();
     if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "(so)") <= 0) {
         return std::nullopt;
@@ -76,7 +76,7 @@ std::optional<std::vector<std::string>> readChildren(DBusMessage& answer, std::s
     return paths;
 }
 
-std::string readKeyBinding(DBusMessage& answer, MenuReadBudget& budget) {
+std::string readKeyBinding(DBusMessage& answer, AnswerBudget& budget) {
     return budget.kept(answer.readString().value_or(""), longestKeyBinding);
 }
 

@@ -9,6 +9,7 @@
 
 #include "platform/linux/dbus/BoundedCalls.h"
 #include "platform/linux/menus/accessibility/AtspiNode.h"
+#include "platform/linux/menus/source/MenuReadLimits.h"
 
 namespace tovrel {
 
@@ -32,10 +33,10 @@ class AtspiCalls {
     void ask(std::string path, Question question, Handler handler);
     bool run() { return calls_.run(); }
 
-    [[nodiscard]] std::optional<MenuReadOutcome> stopped() const { return calls_.stopped(); }
+    [[nodiscard]] std::optional<CallsStopped> stopped() const { return calls_.stopped(); }
     [[nodiscard]] const std::string& busName() const { return busName_; }
-    [[nodiscard]] const MenuReadLimits& limits() const { return calls_.limits(); }
-    [[nodiscard]] MenuReadBudget& budget() { return calls_.budget(); }
+    [[nodiscard]] const MenuReadLimits& limits() const { return limits_; }
+    [[nodiscard]] AnswerBudget& budget() { return calls_.budget(); }
     [[nodiscard]] std::size_t calls() const { return calls_.calls(); }
 
   private:
@@ -43,6 +44,7 @@ class AtspiCalls {
                                       Question question) const;
 
     std::string busName_;
+    MenuReadLimits limits_;
     BoundedCalls calls_;
 };
 
@@ -50,13 +52,13 @@ class AtspiCalls {
 /// objects are left out: menus never live elsewhere than their application, and waiting on it must not become
 /// waiting on another. Absent when the answer is something else.
 std::optional<std::vector<std::string>> readChildren(DBusMessage& answer, std::string_view busName,
-                                                     std::size_t limit, MenuReadBudget& budget);
+                                                     std::size_t limit, AnswerBudget& budget);
 
 /// The longest answer to GetKeyBinding that is looked at: "mnemonic;path;accelerator" takes some dozens.
 inline constexpr std::size_t longestKeyBinding = 256;
 
 /// An answer to GetKeyBinding; empty when it is something else.
-std::string readKeyBinding(DBusMessage& answer, MenuReadBudget& budget);
+std::string readKeyBinding(DBusMessage& answer, AnswerBudget& budget);
 
 /// The value of an answer to GetState; absent when it is something else.
 std::optional<AtspiStates> readStates(DBusMessage& answer);

@@ -73,6 +73,9 @@ class Search {
   public:
     Search(AtspiCalls& calls, AtspiRootPanes rootPanes, bool& isTooLarge)
         : calls_(calls), rootPanes_(rootPanes), isTooLarge_(isTooLarge) {}
+    Search(const Search&) = delete;
+    Search& operator=(const Search&) = delete;
+    ~Search() = default;
 
     /// The application's windows, the wanted one first as far as title and states tell; empty when stopped.
     std::vector<Window> windows(const std::string& root, const std::optional<Text>& title,

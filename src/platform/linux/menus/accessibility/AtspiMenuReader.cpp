@@ -6,6 +6,7 @@
 
 #include "platform/linux/menus/accessibility/AtspiAdditions.h"
 #include "platform/linux/menus/accessibility/AtspiMenuBarFinder.h"
+#include "platform/linux/menus/source/MenuReading.h"
 
 namespace tovrel {
 namespace {
@@ -18,6 +19,9 @@ using Question = AtspiCalls::Question;
 class TreeReader {
   public:
     TreeReader(AtspiCalls& calls, AtspiMenuTree& tree) : calls_(calls), tree_(tree) {}
+    TreeReader(const TreeReader&) = delete;
+    TreeReader& operator=(const TreeReader&) = delete;
+    ~TreeReader() = default;
 
     void read(const AtspiMenuBar& bar) {
         AtspiNode root;
@@ -74,7 +78,7 @@ class TreeReader {
             break;
         case Question::name:
             if (const auto name = answer.readVariantString()) {
-                node.name = calls_.budget().keptTitle(*name);
+                node.name = keptTitle(*name, calls_.budget());
             }
             break;
         case Question::states:
@@ -100,28 +104,16 @@ class TreeReader {
     }
 
     void askByRole(std::size_t index, AtspiRole role) {
-        switch (role) {
-        case AtspiRole::popupMenu:
+        if (role == AtspiRole::popupMenu) {
             ask(index, Question::children);
-            break;
-        case AtspiRole::menu:
+        } else if (role == AtspiRole::menu) {
             ask(index, Question::children);
             askNameAndStates(index);
-            break;
-        case AtspiRole::menuItem:
-        case AtspiRole::checkBox:
-        case AtspiRole::checkMenuItem:
-        case AtspiRole::radioMenuItem:
+        } else if (isMenuItem(role)) {
             // In GTK and Gecko what has a submenu is a menu; elsewhere only its children tell.
-            if (tree_.toolkit == AtspiToolkit::gtk || tree_.toolkit == AtspiToolkit::gecko) {
-                ask(index, Question::keyBinding);
-            } else {
-                ask(index, Question::children);
-            }
+            const bool isLeaf = tree_.toolkit == AtspiToolkit::gtk || tree_.toolkit == AtspiToolkit::gecko;
+            ask(index, isLeaf ? Question::keyBinding : Question::children);
             askNameAndStates(index);
-            break;
-        default:
-            break;
         }
     }
 
@@ -188,11 +180,10 @@ AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& b
     } else if (bar) {
         readTree(calls, *bar, reading.tree, isTooLarge);
     }
-    reading.report.outcome =
-        calls.stopped().value_or(bar ? MenuReadOutcome::completed : MenuReadOutcome::noMenuBar);
-    if (isTooLarge && !calls.stopped()) {
-        reading.report.outcome = MenuReadOutcome::treeTooLarge;
-    }
+    reading.report.outcome = calls.stopped() ? outcomeOf(*calls.stopped())
+                             : isTooLarge    ? MenuReadOutcome::treeTooLarge
+                             : bar           ? MenuReadOutcome::completed
+                                             : MenuReadOutcome::noMenuBar;
     reading.report.nodes = reading.tree.nodes.size();
     reading.report.calls = calls.calls();
     reading.report.elapsed =

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/linux/menus/accessibility/AtspiCalls.h"
+#include "platform/linux/menus/source/MenuReadReport.h"
 #include "platform/linux/menus/source/MenuTree.h"
 #include "support/Text.h"
 

@@ -16,18 +16,8 @@ bool is(const AtspiNode& node, AtspiState state) {
 }
 
 bool isPartOfMenu(const AtspiNode& node) {
-    switch (node.role.value_or(AtspiRole::separator)) {
-    case AtspiRole::menuBar:
-    case AtspiRole::menu:
-    case AtspiRole::menuItem:
-    case AtspiRole::checkBox:
-    case AtspiRole::checkMenuItem:
-    case AtspiRole::radioMenuItem:
-    case AtspiRole::popupMenu:
-        return true;
-    default:
-        return false;
-    }
+    return node.role == AtspiRole::menuBar || node.role == AtspiRole::menu ||
+           node.role == AtspiRole::popupMenu || (node.role && isMenuItem(*node.role));
 }
 
 bool isHidden(const AtspiNode& node, const AtspiMenuTree& tree, bool visibilityIsTold) {
@@ -81,7 +71,7 @@ MenuTree menuTreeOf(const AtspiMenuTree& tree) {
         shown.isEnabled = index > 0 ? isEnabled(node, all[node.parent].isEnabled) : true;
         shown.isMenu = node.role == AtspiRole::menu || node.role == AtspiRole::menuBar;
         shown.parent = node.parent;
-        shown.source = AtspiObject{tree.busName, node.path};
+        shown.item = AtspiObject{tree.busName, node.path};
     }
     for (std::size_t index = all.size(); index-- > 0;) {
         // Qt tells a menu from a plain item by the container of its entries only.

@@ -1,11 +1,20 @@
 #pragma once
 
+#include <string>
+
 #include "platform/linux/menus/accessibility/AtspiNode.h"
 #include "platform/linux/menus/source/MenuTree.h"
 
 namespace tovrel {
 
-/// What an application answered, as menus. Each node keeps its position.
+/// An object on the accessibility bus, pressed by its first action.
+struct AtspiObject {
+    std::string busName;
+    std::string path;
+};
+
+/// What an application answered, as menus, the `item` of each node an AtspiObject. Each node keeps its
+/// position.
 ///
 /// - A title is the name up to a TAB, without white space at its ends (some programs pad their names).
 /// - Left out of the children: separators, also those with a name (sections), tear-offs, hidden items, leaves
@@ -16,8 +25,7 @@ namespace tovrel {
 /// - Enabled is what is sensitive below ancestors that all are: an item below a disabled menu would run
 ///   although the user cannot reach it.
 /// - Whether an item is checked is told by its state; where it is not checked, only a role of its own shows
-/// that
-///   it could be. A plain item may be a checkable one whose mark is told elsewhere, or nowhere.
+///   that it could be. A plain item may be a checkable one whose mark is told elsewhere, or nowhere.
 MenuTree menuTreeOf(const AtspiMenuTree& tree);
 
 } // namespace tovrel

@@ -64,6 +64,11 @@ inline bool isCheckable(AtspiRole role) {
            role == AtspiRole::checkBox;
 }
 
+/// Whether entries of menus have this role, apart from menus themselves.
+inline bool isMenuItem(AtspiRole role) {
+    return role == AtspiRole::menuItem || isCheckable(role);
+}
+
 /// The state bits the menu reader uses (bit i of word i/32 of org.a11y.atspi.Accessible.GetState).
 enum class AtspiState : std::uint8_t { active = 1, checked = 4, sensitive = 24, visible = 30 };
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/linux/dbus/BoundedCalls.h"
+#include "platform/linux/dbus/DBusValue.h"
 
 namespace tovrel {
 namespace {
@@ -49,9 +50,9 @@ std::optional<MenuShortcut> shortcutIn(const std::optional<DBusValue>& value) {
 }
 
 /// Reads the property's value, at which the message stands. What was not asked for is passed by.
-void take(Item& item, std::string_view property, sd_bus_message* message, MenuReadBudget& budget) {
+void take(Item& item, std::string_view property, sd_bus_message* message, AnswerBudget& budget) {
     if (property == "label") {
-        item.title = titleOfLabel(budget.keptTitle(readVariantText(message, budget).value_or("")));
+        item.title = titleOfLabel(keptTitle(readVariantText(message, budget).value_or(""), budget));
     } else if (property == "type") {
         item.isSeparator = readVariantText(message, budget) == "separator";
     } else if (property == "enabled") {
@@ -70,7 +71,7 @@ void take(Item& item, std::string_view property, sd_bus_message* message, MenuRe
 }
 
 /// The number and the properties of an item (ia{sv}…), which the message stands within.
-std::optional<Item> readItem(sd_bus_message* message, MenuReadBudget& budget) {
+std::optional<Item> readItem(sd_bus_message* message, AnswerBudget& budget) {
     Item item;
     if (!budget.look() || sd_bus_message_read_basic(message, SD_BUS_TYPE_INT32, &item.identifier) <= 0 ||
         sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
@@ -91,7 +92,11 @@ std::optional<Item> readItem(sd_bus_message* message, MenuReadBudget& budget) {
 
 class Reader {
   public:
-    Reader(BoundedCalls& calls, const DBusMenuAddress& address) : calls_(calls), address_(address) {}
+    Reader(BoundedCalls& calls, const DBusMenuAddress& address, const MenuReadLimits& limits)
+        : calls_(calls), address_(std::make_shared<const DBusMenuAddress>(address)), limits_(limits) {}
+    Reader(const Reader&) = delete;
+    Reader& operator=(const Reader&) = delete;
+    ~Reader() = default;
 
     void read() {
         MenuNode bar;
@@ -109,7 +114,8 @@ class Reader {
 
   private:
     [[nodiscard]] DBusMessage call(const DBusConnection& connection, const char* member) const {
-        return connection.methodCall(address_.busName.c_str(), address_.path.c_str(), menuInterface, member);
+        return connection.methodCall(address_->busName.c_str(), address_->path.c_str(), menuInterface,
+                                     member);
     }
 
     /// Asks for what is below an item, which is the tree's node of that position.
@@ -165,7 +171,7 @@ class Reader {
 
     /// Reads the items of the av at which the message stands. False when it makes no sense from there on.
     bool addChildren(sd_bus_message* message, std::size_t parent) {
-        if (depths_[parent] >= calls_.limits().depth) {
+        if (depths_[parent] >= limits_.depth) {
             isTooLarge_ = true;
             return skipValue(message, calls_.budget());
         }
@@ -173,8 +179,8 @@ class Reader {
             return false;
         }
         while (sd_bus_message_at_end(message, 0) == 0) {
-            const bool isFull = tree_.size() >= calls_.limits().nodes ||
-                                tree_[parent].children.size() >= calls_.limits().entriesPerMenu;
+            const bool isFull =
+                tree_.size() >= limits_.nodes || tree_[parent].children.size() >= limits_.entriesPerMenu;
             isTooLarge_ = isTooLarge_ || isFull;
             if (isFull ? !skipValue(message, calls_.budget()) : !addChild(message, parent)) {
                 return false;
@@ -202,7 +208,7 @@ class Reader {
         node.isMenu = item->hasSubmenu;
         node.shortcut = std::move(item->shortcut);
         node.parent = parent;
-        node.source = DBusMenuItem{item->identifier};
+        node.item = DBusMenuItem{address_, item->identifier};
         const std::size_t index = tree_.size();
         tree_.push_back(std::move(node));
         depths_.push_back(depths_[parent] + 1);
@@ -217,7 +223,8 @@ class Reader {
     }
 
     BoundedCalls& calls_;
-    const DBusMenuAddress& address_;
+    std::shared_ptr<const DBusMenuAddress> address_;
+    const MenuReadLimits& limits_;
     MenuTree tree_;
     std::vector<std::size_t> depths_; ///< Of the tree's nodes.
     bool isTooLarge_ = false;
@@ -253,8 +260,8 @@ std::optional<DBusMenuAddress> registeredMenu(DBusConnection& connection, std::u
 
 MenuReading readDBusMenuBar(DBusConnection& connection, const DBusMenuAddress& address,
                             const MenuReadLimits& limits, SteadyTime started) {
-    BoundedCalls calls(connection, limits, started);
-    Reader reader(calls, address);
+    BoundedCalls calls(connection, limits.ofCalls(), started);
+    Reader reader(calls, address, limits);
     reader.read();
     return finishedReading(reader.takeTree(), reader.isTooLarge(), calls, started);
 }

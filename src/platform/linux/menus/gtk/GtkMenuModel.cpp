@@ -4,16 +4,18 @@
 #include <deque>
 #include <string_view>
 
+#include "platform/linux/menus/source/MenuReading.h"
+
 namespace tovrel {
 namespace {
 
-std::string keptText(sd_bus_message* message, MenuReadBudget& budget) {
+std::string keptText(sd_bus_message* message, AnswerBudget& budget) {
     const auto text = readVariantText(message, budget);
     return text ? budget.kept(*text) : std::string();
 }
 
 /// The (uu) of a link.
-std::optional<GtkMenuReference> readReference(sd_bus_message* message, MenuReadBudget& budget) {
+std::optional<GtkMenuReference> readReference(sd_bus_message* message, AnswerBudget& budget) {
     char type = 0;
     const char* contents = nullptr;
     GtkMenuReference reference{0, 0};
@@ -29,9 +31,9 @@ std::optional<GtkMenuReference> readReference(sd_bus_message* message, MenuReadB
 
 /// Reads the attribute's value, at which the message stands. What nobody asks for, such as pictures, which
 /// are large, is passed by.
-void take(GtkMenuEntry& entry, std::string_view attribute, sd_bus_message* message, MenuReadBudget& budget) {
+void take(GtkMenuEntry& entry, std::string_view attribute, sd_bus_message* message, AnswerBudget& budget) {
     if (attribute == "label") {
-        entry.label = budget.keptTitle(readVariantText(message, budget).value_or(""));
+        entry.label = keptTitle(readVariantText(message, budget).value_or(""), budget);
     } else if (attribute == "action") {
         entry.action = keptText(message, budget);
     } else if (attribute == "target") {
@@ -55,7 +57,7 @@ void take(GtkMenuEntry& entry, std::string_view attribute, sd_bus_message* messa
 }
 
 /// The a{sv} at which the message stands.
-std::optional<GtkMenuEntry> readEntry(sd_bus_message* message, MenuReadBudget& budget) {
+std::optional<GtkMenuEntry> readEntry(sd_bus_message* message, AnswerBudget& budget) {
     GtkMenuEntry entry;
     if (!budget.look() || sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
         return std::nullopt;
@@ -73,34 +75,73 @@ std::optional<GtkMenuEntry> readEntry(sd_bus_message* message, MenuReadBudget& b
     return sd_bus_message_exit_container(message) < 0 ? std::nullopt : std::optional(std::move(entry));
 }
 
-/// Adds the entries of a menu, the aa{sv} at which the message stands, as far as they make sense. False when
-/// the message cannot be read further.
-bool readEntries(sd_bus_message* message, MenuReadBudget& budget, std::vector<GtkMenuEntry>& entries,
-                 std::set<std::uint32_t>& linked, bool& isEverything) {
-    if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "a{sv}") <= 0) {
-        return false;
-    }
-    while (sd_bus_message_at_end(message, 0) == 0) {
-        if (entries.size() >= budget.limits().entriesPerMenu || !budget.keepsEntry()) {
-            isEverything = false;
-            if (!skipValue(message, budget)) {
+/// Reads the menus of one answer.
+class MenuListReader {
+  public:
+    MenuListReader(sd_bus_message* message, const MenuReadLimits& limits, AnswerBudget& budget,
+                   GtkMenuModel& model, std::set<std::uint32_t>& linked)
+        : message_(message), limits_(limits), budget_(budget), model_(model), linked_(linked) {}
+
+    /// False when that is not everything because of the limits.
+    bool read() {
+        if (sd_bus_message_enter_container(message_, SD_BUS_TYPE_ARRAY, "(uuaa{sv})") <= 0) {
+            return true;
+        }
+        while (budget_.look() &&
+               sd_bus_message_enter_container(message_, SD_BUS_TYPE_STRUCT, "uuaa{sv}") > 0) {
+            if (model_.menus.size() >= limits_.nodes) {
                 return false;
             }
-            continue;
-        }
-        auto entry = readEntry(message, budget);
-        if (!entry) {
-            return false;
-        }
-        for (const auto& link : {entry->section, entry->submenu}) {
-            if (link) {
-                linked.insert(link->first);
+            GtkMenuReference reference{0, 0};
+            if (sd_bus_message_read(message_, "uu", &reference.first, &reference.second) <= 0) {
+                break;
+            }
+            std::vector<GtkMenuEntry>& entries = model_.menus[reference];
+            entries.clear();
+            if (!readEntries(entries)) {
+                break;
             }
         }
-        entries.push_back(std::move(*entry));
+        return isEverything_ && !budget_.isExhausted();
     }
-    return leaveContainers(message, 2);
-}
+
+  private:
+    /// Adds the entries of a menu, the aa{sv} at which the message stands, as far as they make sense. False
+    /// when the message cannot be read further.
+    bool readEntries(std::vector<GtkMenuEntry>& entries) {
+        if (sd_bus_message_enter_container(message_, SD_BUS_TYPE_ARRAY, "a{sv}") <= 0) {
+            return false;
+        }
+        while (sd_bus_message_at_end(message_, 0) == 0) {
+            if (entries.size() >= limits_.entriesPerMenu || model_.entries >= limits_.nodes) {
+                isEverything_ = false;
+                if (!skipValue(message_, budget_)) {
+                    return false;
+                }
+                continue;
+            }
+            ++model_.entries;
+            auto entry = readEntry(message_, budget_);
+            if (!entry) {
+                return false;
+            }
+            for (const auto& link : {entry->section, entry->submenu}) {
+                if (link) {
+                    linked_.insert(link->first);
+                }
+            }
+            entries.push_back(std::move(*entry));
+        }
+        return leaveContainers(message_, 2);
+    }
+
+    sd_bus_message* message_;
+    const MenuReadLimits& limits_;
+    AnswerBudget& budget_;
+    GtkMenuModel& model_;
+    std::set<std::uint32_t>& linked_;
+    bool isEverything_ = true;
+};
 
 struct FoundAction {
     const GtkActionGroup* group = nullptr;
@@ -140,8 +181,8 @@ class TreeBuilder {
         : model_(model), groups_(groups), limits_(limits) {}
 
     MenuTree build() {
-        const auto bar = model_.find({0, 0});
-        if (bar == model_.end() || bar->second.empty()) {
+        const auto bar = model_.menus.find({0, 0});
+        if (bar == model_.menus.end() || bar->second.empty()) {
             return {};
         }
         MenuNode root;
@@ -169,8 +210,8 @@ class TreeBuilder {
     /// Adds the entries of a menu, or of a section in it, `nesting` sections deep.
     void addEntries(const Menu& menu, const GtkMenuReference& reference, const std::string& actionNamespace,
                     std::size_t nesting) {
-        const auto entries = model_.find(reference);
-        if (entries == model_.end()) {
+        const auto entries = model_.menus.find(reference);
+        if (entries == model_.menus.end()) {
             return;
         }
         // Sections may refer to each other without end, and without an entry between them.
@@ -220,10 +261,10 @@ class TreeBuilder {
             node.isEnabled =
                 tree_[menu.node].isEnabled == true && isEnabled(*found.description, entry.target);
             node.isChecked = isChecked(*found.description, entry.target);
-            node.source = GtkAction{found.group->objectPath, found.name, entry.target};
+            node.item = GtkAction{found.group->busName, found.group->objectPath, found.name, entry.target};
         } else {
             node.isEnabled = false;
-            node.source = GtkAction{};
+            node.item = GtkAction{};
         }
         const std::size_t index = tree_.size();
         tree_.push_back(std::move(node));
@@ -245,38 +286,19 @@ class TreeBuilder {
 
 } // namespace
 
-bool readGtkMenus(DBusMessage& answer, MenuReadBudget& budget, GtkMenuModel& model,
-                  std::set<std::uint32_t>& linked) {
-    sd_bus_message* message = answer.handle();
-    bool isEverything = true;
-    if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "(uuaa{sv})") <= 0) {
-        return isEverything;
-    }
-    while (budget.look() && sd_bus_message_enter_container(message, SD_BUS_TYPE_STRUCT, "uuaa{sv}") > 0) {
-        if (model.size() >= budget.limits().nodes) {
-            return false;
-        }
-        GtkMenuReference reference{0, 0};
-        if (sd_bus_message_read(message, "uu", &reference.first, &reference.second) <= 0) {
-            break;
-        }
-        std::vector<GtkMenuEntry>& entries = model[reference];
-        entries.clear();
-        if (!readEntries(message, budget, entries, linked, isEverything)) {
-            break;
-        }
-    }
-    return isEverything && !budget.isExhausted();
+bool readGtkMenus(DBusMessage& answer, const MenuReadLimits& limits, AnswerBudget& budget,
+                  GtkMenuModel& model, std::set<std::uint32_t>& linked) {
+    return MenuListReader(answer.handle(), limits, budget, model, linked).read();
 }
 
-std::map<std::string, GtkActionDescription, std::less<>> readGtkActions(DBusMessage& answer,
-                                                                        MenuReadBudget& budget) {
+std::map<std::string, GtkActionDescription, std::less<>>
+readGtkActions(DBusMessage& answer, const MenuReadLimits& limits, AnswerBudget& budget) {
     std::map<std::string, GtkActionDescription, std::less<>> actions;
     sd_bus_message* message = answer.handle();
     if (sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{s(bgav)}") <= 0) {
         return actions;
     }
-    while (actions.size() < budget.limits().nodes && budget.look() &&
+    while (actions.size() < limits.nodes && budget.look() &&
            sd_bus_message_enter_container(message, SD_BUS_TYPE_DICT_ENTRY, "s(bgav)") > 0) {
         const char* name = nullptr;
         int isEnabled = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -8,12 +9,21 @@
 #include <utility>
 #include <vector>
 
+#include "platform/linux/dbus/AnswerBudget.h"
 #include "platform/linux/dbus/DBus.h"
 #include "platform/linux/dbus/DBusValue.h"
-#include "platform/linux/dbus/MenuReadLimits.h"
+#include "platform/linux/menus/source/MenuReadLimits.h"
 #include "platform/linux/menus/source/MenuTree.h"
 
 namespace tovrel {
+
+/// An action that a window publishes as org.gtk.Actions, pressed by activating it.
+struct GtkAction {
+    std::string busName;             ///< Unique name of the application.
+    std::string objectPath;          ///< Of the group of actions.
+    std::string name;                ///< In the group. Empty: there is none, and a press is refused.
+    std::optional<DBusValue> target; ///< The parameter it is activated with.
+};
 
 /// A menu of org.gtk.Menus: the number of its group, which is fetched as a whole, and its own in the group.
 using GtkMenuReference = std::pair<std::uint32_t, std::uint32_t>;
@@ -32,12 +42,15 @@ struct GtkMenuEntry {
     std::string submenuAction; ///< "submenu-action": told of the submenu's opening and closing.
 };
 
-using GtkMenuModel = std::map<GtkMenuReference, std::vector<GtkMenuEntry>>;
+struct GtkMenuModel {
+    std::map<GtkMenuReference, std::vector<GtkMenuEntry>> menus;
+    std::size_t entries = 0; ///< That were taken in so far, those of a menu told again included.
+};
 
 /// Adds the menus in an answer of org.gtk.Menus.Start, and to `linked` the groups they lead to. False when
 /// that is not everything because of the limits.
-bool readGtkMenus(DBusMessage& answer, MenuReadBudget& budget, GtkMenuModel& model,
-                  std::set<std::uint32_t>& linked);
+bool readGtkMenus(DBusMessage& answer, const MenuReadLimits& limits, AnswerBudget& budget,
+                  GtkMenuModel& model, std::set<std::uint32_t>& linked);
 
 /// An action as org.gtk.Actions describes it.
 struct GtkActionDescription {
@@ -48,19 +61,21 @@ struct GtkActionDescription {
 
 /// A group of actions: those whose names in menus begin with the prefix.
 struct GtkActionGroup {
-    std::string prefix; ///< "app." or "win."
+    std::string prefix;  ///< "app." or "win."
+    std::string busName; ///< Unique name of the application.
     std::string objectPath;
     std::map<std::string, GtkActionDescription, std::less<>> actions;
 };
 
 /// The actions in an answer of org.gtk.Actions.DescribeAll, by their names without prefix.
-std::map<std::string, GtkActionDescription, std::less<>> readGtkActions(DBusMessage& answer,
-                                                                        MenuReadBudget& budget);
+std::map<std::string, GtkActionDescription, std::less<>>
+readGtkActions(DBusMessage& answer, const MenuReadLimits& limits, AnswerBudget& budget);
 
 /// The menu bar (group 0, menu 0) as GTK would show it: sections joined to the menu they stand in, mnemonic
-/// marks taken off, entries enabled and checked as their actions are. An entry without a known action is
-/// disabled, as is one whose target is not of the type that the action takes or is too large. Checked is an
-/// action whose state is true, or, for one of several choices, equal to the entry's target.
+/// marks taken off, entries enabled and checked as their actions are. The `item` of an entry is its
+/// GtkAction. An entry without a known action is disabled, as is one whose target is not of the type that the
+/// action takes or is too large. Checked is an action whose state is true, or, for one of several choices,
+/// equal to the entry's target.
 ///
 /// A submenu that stands twice in one menu, with one action for its opening, is one: LibreOffice publishes
 /// its whole bar in two forms.

@@ -29,7 +29,11 @@ DBusMessage callWithGroups(const DBusConnection& connection, const GtkMenuAddres
 /// Reads group after group: the answer to each call tells of the groups to be asked for by the next.
 class Reader {
   public:
-    Reader(BoundedCalls& calls, const GtkMenuAddress& address) : calls_(calls), address_(address) {}
+    Reader(BoundedCalls& calls, const GtkMenuAddress& address, const MenuReadLimits& limits)
+        : calls_(calls), address_(address), limits_(limits) {}
+    Reader(const Reader&) = delete;
+    Reader& operator=(const Reader&) = delete;
+    ~Reader() = default;
 
     void start(const Groups& groups) {
         started_.insert(groups.begin(), groups.end());
@@ -50,13 +54,14 @@ class Reader {
                                              "DescribeAll");
             },
             [this, prefix = std::move(prefix), objectPath](DBusMessage& answer) {
-                actions_.push_back({prefix, objectPath, readGtkActions(answer, calls_.budget())});
+                actions_.push_back(
+                    {prefix, address_.busName, objectPath, readGtkActions(answer, limits_, calls_.budget())});
             });
     }
 
     [[nodiscard]] MenuTree tree() {
         bool isCut = false;
-        MenuTree tree = gtkMenuTree(model_, actions_, calls_.limits(), isCut);
+        MenuTree tree = gtkMenuTree(model_, actions_, limits_, isCut);
         isTooLarge_ = isTooLarge_ || isCut;
         return tree;
     }
@@ -66,13 +71,13 @@ class Reader {
   private:
     void take(DBusMessage& answer) {
         Groups linked;
-        if (!readGtkMenus(answer, calls_.budget(), model_, linked)) {
+        if (!readGtkMenus(answer, limits_, calls_.budget(), model_, linked)) {
             isTooLarge_ = true;
         }
         for (const std::uint32_t group : started_) {
             linked.erase(group);
         }
-        if (started_.size() + linked.size() > calls_.limits().nodes || ++rounds_ > calls_.limits().depth) {
+        if (started_.size() + linked.size() > limits_.nodes || ++rounds_ > limits_.depth) {
             isTooLarge_ = isTooLarge_ || !linked.empty();
         } else if (!linked.empty()) {
             start(linked);
@@ -81,6 +86,7 @@ class Reader {
 
     BoundedCalls& calls_;
     const GtkMenuAddress& address_;
+    const MenuReadLimits& limits_;
     Groups started_;
     std::size_t rounds_ = 0;
     GtkMenuModel model_;
@@ -92,8 +98,8 @@ class Reader {
 
 MenuReading readGtkMenuBar(DBusConnection& connection, const GtkMenuAddress& address,
                            const MenuReadLimits& limits, SteadyTime started) {
-    BoundedCalls calls(connection, limits, started);
-    Reader reader(calls, address);
+    BoundedCalls calls(connection, limits.ofCalls(), started);
+    Reader reader(calls, address, limits);
     reader.start({0});
     reader.describe("app.", address.applicationPath);
     reader.describe("win.", address.windowPath);

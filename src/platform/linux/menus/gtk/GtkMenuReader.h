@@ -2,7 +2,7 @@
 
 #include "platform/ApplicationWindow.h"
 #include "platform/linux/dbus/DBus.h"
-#include "platform/linux/dbus/MenuReadLimits.h"
+#include "platform/linux/menus/source/MenuReadLimits.h"
 #include "platform/linux/menus/source/MenuReading.h"
 
 namespace tovrel {

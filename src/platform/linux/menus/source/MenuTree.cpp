@@ -19,6 +19,14 @@ std::vector<std::size_t> nodesWithPath(const MenuTree& tree, const std::vector<T
     return found;
 }
 
+bool hasEmptyMenu(const MenuTree& tree, std::size_t menu) {
+    if (tree[menu].isMenu && tree[menu].children.empty()) {
+        return true;
+    }
+    return std::any_of(tree[menu].children.begin(), tree[menu].children.end(),
+                       [&](std::size_t child) { return hasEmptyMenu(tree, child); });
+}
+
 } // namespace
 
 Text titleOfLabel(std::string_view label) {
@@ -59,6 +67,18 @@ std::optional<std::size_t> counterpart(const MenuTree& before, std::size_t node,
         return std::nullopt;
     }
     return alikeNow[static_cast<std::size_t>(position - alikeBefore.begin())];
+}
+
+bool hasEmptyMenu(const MenuTree& tree) {
+    return !tree.empty() && hasEmptyMenu(tree, 0);
+}
+
+bool hasOnlyEmptyMenus(const MenuTree& tree) {
+    const auto isEmptyMenu = [&](std::size_t entry) {
+        return tree[entry].isMenu && tree[entry].children.empty();
+    };
+    return !tree.empty() && !tree.front().children.empty() &&
+           std::all_of(tree.front().children.begin(), tree.front().children.end(), isEmptyMenu);
 }
 
 } // namespace tovrel

@@ -1,39 +1,19 @@
 #pragma once
 
+#include <any>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
-#include "platform/linux/dbus/DBusValue.h"
 #include "platform/linux/menus/source/MenuShortcut.h"
 #include "support/Text.h"
 
 namespace tovrel {
 
-/// An object on the accessibility bus, pressed by its first action.
-struct AtspiObject {
-    std::string busName;
-    std::string path;
-};
-
-/// An action that a window publishes as org.gtk.Actions, pressed by activating it.
-struct GtkAction {
-    std::string objectPath;          ///< Of the group of actions.
-    std::string name;                ///< In the group. Empty: there is none, and a press is refused.
-    std::optional<DBusValue> target; ///< The parameter it is activated with.
-};
-
-/// An item of a com.canonical.dbusmenu, pressed by telling the application of a click.
-struct DBusMenuItem {
-    std::int32_t identifier = 0;
-};
-
-/// Where a menu entry came from, and how it is pressed.
-using MenuItemSource = std::variant<AtspiObject, GtkAction, DBusMenuItem>;
+/// What the source of an entry presses it by. Only that source knows the type and makes anything of the
+/// value.
+using MenuItem = std::any;
 
 /// One entry of a menu as the application publishes it.
 struct MenuNode {
@@ -44,7 +24,8 @@ struct MenuNode {
     bool isMenu = false;                  ///< It has entries, or would have if they were known.
     std::size_t parent = 0;
     std::vector<std::size_t> children; ///< "AXChildren", as positions in the tree, each after the node's own.
-    MenuItemSource source;
+    MenuItem item;                     ///< Empty for what cannot be pressed, such as a menu of org.gtk.Menus.
+    std::size_t source = 0; ///< Place of the item's source among the sources; see ApplicationMenus.
 };
 
 /// An application's menu bar as it was at one time, the bar itself first; empty when there is none. Nodes
@@ -62,5 +43,11 @@ std::vector<Text> menuPath(const MenuTree& tree, std::size_t node);
 /// same place among them; absent when they are not as many as before, since then nobody knows which is which,
 /// and for a node without a title.
 std::optional<std::size_t> counterpart(const MenuTree& before, std::size_t node, const MenuTree& now);
+
+/// Whether a menu of it has no entries.
+bool hasEmptyMenu(const MenuTree& tree);
+
+/// Whether it is made of menus none of which has entries.
+bool hasOnlyEmptyMenus(const MenuTree& tree);
 
 } // namespace tovrel

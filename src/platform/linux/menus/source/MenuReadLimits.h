@@ -3,6 +3,8 @@
 #include <chrono>
 #include <cstddef>
 
+#include "platform/linux/dbus/CallLimits.h"
+
 namespace tovrel {
 
 /// What one read of an application's menus may cost, all sources of them together.
@@ -51,6 +53,17 @@ struct MenuReadLimits {
     /// every entry carries its whole path from here on, so that one long title over many entries costs their
     /// product, about twelve times until it can be searched for. The largest menu bar measured has 140 KB.
     std::size_t pathBytes = std::size_t{1} << 20U;
+
+    /// Those of them that the calls of one source keep.
+    [[nodiscard]] CallLimits ofCalls() const {
+        return {.silence = silence,
+                .total = total,
+                .callsInFlight = callsInFlight,
+                .received = received,
+                .values = values,
+                .textBytes = textBytes,
+                .valueBytes = valueBytes};
+    }
 };
 
 } // namespace tovrel

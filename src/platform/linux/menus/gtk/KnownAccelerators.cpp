@@ -1,6 +1,7 @@
-#include "platform/linux/menus/accessibility/KnownAccelerators.h"
+#include "platform/linux/menus/gtk/KnownAccelerators.h"
 
 #include <algorithm>
+#include <any>
 #include <cstddef>
 #include <iterator>
 #include <utility>
@@ -10,7 +11,7 @@ namespace {
 
 /// The action of an item; null for a menu and for an item that does nothing.
 const GtkAction* actionOf(const MenuNode& node) {
-    const auto* action = node.isMenu ? nullptr : std::get_if<GtkAction>(&node.source);
+    const auto* action = node.isMenu ? nullptr : std::any_cast<GtkAction>(&node.item);
     return action != nullptr && !action->name.empty() ? action : nullptr;
 }
 
@@ -24,17 +25,17 @@ std::vector<std::size_t> itemsOf(const MenuTree& tree) {
     return items;
 }
 
-std::string keyOf(const GtkAction& action, const std::string& busName) {
-    return busName + ' ' + action.objectPath + ' ' + action.name;
+std::string keyOf(const GtkAction& action) {
+    return action.busName + ' ' + action.objectPath + ' ' + action.name;
 }
 
 } // namespace
 
-bool KnownAccelerators::addTo(MenuTree& tree, const std::string& busName, SteadyTime now) const {
+bool KnownAccelerators::addTo(MenuTree& tree, SteadyTime now) const {
     std::vector<std::pair<std::size_t, const Known*>> additions;
     for (const std::size_t item : itemsOf(tree)) {
         if (!tree[item].shortcut) {
-            const Known* known = find(*actionOf(tree[item]), busName, now);
+            const Known* known = find(*actionOf(tree[item]), now);
             if (known == nullptr) {
                 return false;
             }
@@ -47,14 +48,14 @@ bool KnownAccelerators::addTo(MenuTree& tree, const std::string& busName, Steady
     return true;
 }
 
-void KnownAccelerators::learn(const MenuTree& tree, const std::string& busName, SteadyTime now) {
+void KnownAccelerators::learn(const MenuTree& tree, SteadyTime now) {
     for (auto& [key, entries] : known_) {
         std::erase_if(entries, [&](const Known& known) { return now - known.learnt >= lifetime; });
     }
     std::erase_if(known_, [](const auto& entries) { return entries.second.empty(); });
     for (const std::size_t item : itemsOf(tree)) {
         const GtkAction& action = *actionOf(tree[item]);
-        std::vector<Known>& entries = known_[keyOf(action, busName)];
+        std::vector<Known>& entries = known_[keyOf(action)];
         const auto entry = std::find_if(entries.begin(), entries.end(),
                                         [&](const Known& known) { return known.target == action.target; });
         if (entry == entries.end()) {
@@ -66,9 +67,8 @@ void KnownAccelerators::learn(const MenuTree& tree, const std::string& busName, 
     }
 }
 
-const KnownAccelerators::Known* KnownAccelerators::find(const GtkAction& action, const std::string& busName,
-                                                        SteadyTime now) const {
-    const auto entries = known_.find(keyOf(action, busName));
+const KnownAccelerators::Known* KnownAccelerators::find(const GtkAction& action, SteadyTime now) const {
+    const auto entries = known_.find(keyOf(action));
     if (entries == known_.end()) {
         return nullptr;
     }

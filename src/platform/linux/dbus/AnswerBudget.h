@@ -4,20 +4,18 @@
 #include <string>
 #include <string_view>
 
+#include "platform/linux/dbus/CallLimits.h"
 #include "platform/linux/dbus/DBus.h"
-#include "platform/linux/dbus/MenuReadLimits.h"
 
 namespace tovrel {
 
-/// What is left of the limits while the answers of one source are decoded. Once something has run out nothing
-/// more is looked at, so that what was decoded until then is all there is.
-class MenuReadBudget {
+/// What is left of the limits while answers are decoded. Once something has run out nothing more is looked
+/// at, so that what was decoded until then is all there is.
+class AnswerBudget {
   public:
-    /// `started` is when the read began, which `limits.total` counts from.
-    MenuReadBudget(const MenuReadLimits& limits, SteadyTime started)
+    /// `started` is when the work began, which `limits.total` counts from.
+    AnswerBudget(const CallLimits& limits, SteadyTime started)
         : limits_(limits), end_(started + limits.total) {}
-
-    [[nodiscard]] const MenuReadLimits& limits() const { return limits_; }
 
     /// One more value is looked at. False when that is one too many, or the time is over.
     bool look();
@@ -26,11 +24,8 @@ class MenuReadBudget {
     /// or the room for texts has run out.
     std::string kept(std::string_view text, std::size_t limit = longestName);
 
-    /// What may become a title, cut where no title goes on (see `menuTitle`), kept likewise.
-    std::string_view keptTitle(std::string_view text);
-
-    /// One more entry is kept; false when that is one too many. The others are still to be passed by.
-    bool keepsEntry() { return entries_++ < limits_.nodes; }
+    /// The text, of which the caller keeps a copy from now on. Empty when the room for texts has run out.
+    std::string_view keptInFull(std::string_view text);
 
     /// So many bytes of a value are kept from now on; false when there is no room for them.
     bool keepsValue(std::size_t bytes);
@@ -41,9 +36,8 @@ class MenuReadBudget {
     static constexpr std::size_t longestName = 512;
 
   private:
-    MenuReadLimits limits_;
+    CallLimits limits_;
     SteadyTime end_;
-    std::size_t entries_ = 0;
     std::size_t values_ = 0;
     std::size_t textBytes_ = 0;
     std::size_t valueBytes_ = 0;

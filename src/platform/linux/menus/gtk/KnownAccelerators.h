@@ -6,8 +6,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/linux/dbus/BoundedCalls.h"
-#include "platform/linux/menus/source/MenuTree.h"
+#include "platform/linux/dbus/DBus.h"
+#include "platform/linux/menus/gtk/GtkMenuModel.h"
 
 namespace tovrel {
 
@@ -21,13 +21,13 @@ class KnownAccelerators {
     /// most.
     static constexpr std::chrono::minutes lifetime{10};
 
-    /// Adds them to the menus that `busName` publishes if those of all items are known, that they have none
-    /// included. Otherwise nothing is added, and false: all are to be asked for then, so that none outlives
-    /// its time because of a neighbour.
-    bool addTo(MenuTree& tree, const std::string& busName, SteadyTime now) const;
+    /// Adds them to published menus if those of all items are known, that they have none included. Otherwise
+    /// nothing is added, and false: all are to be asked for then, so that none outlives its time because of a
+    /// neighbour.
+    bool addTo(MenuTree& tree, SteadyTime now) const;
 
-    /// Takes over those of a tree to which all have been added that there are.
-    void learn(const MenuTree& tree, const std::string& busName, SteadyTime now);
+    /// Takes over the shortcuts of published menus that have been completed: an item without one has none.
+    void learn(const MenuTree& tree, SteadyTime now);
 
   private:
     struct Known {
@@ -36,8 +36,7 @@ class KnownAccelerators {
         SteadyTime learnt;
     };
 
-    [[nodiscard]] const Known* find(const GtkAction& action, const std::string& busName,
-                                    SteadyTime now) const;
+    [[nodiscard]] const Known* find(const GtkAction& action, SteadyTime now) const;
 
     /// By the name on the bus, the group and the name of the action.
     std::unordered_map<std::string, std::vector<Known>> known_;
