@@ -66,6 +66,7 @@ class PaletteWindowController {
   private:
     bool handleKey(const KeyEvent& event);
     void closeIfVisible();
+    void executeShortcut(const Text& shortcut);
     void executeIfPresent(const std::optional<Command>& command);
 
     PaletteSurroundings surroundings_;
