@@ -43,11 +43,15 @@ std::optional<Text> confirmationLabel(CustomCommandKind kind) {
 
 } // namespace
 
-AppCoordinator::AppCoordinator(Platform platform)
+std::shared_ptr<AppCoordinator> AppCoordinator::make(Platform platform) {
+    return std::make_shared<AppCoordinator>(Key(), std::move(platform));
+}
+
+AppCoordinator::AppCoordinator(Key /*key*/, Platform platform)
     : platform_(std::move(platform)),
       togglePalette_(platform_.shortcuts.makeName("togglePalette", defaultToggleShortcut)),
-      hotKeyManager_(std::make_shared<HotKeyManager>(platform_.shortcuts, togglePalette_,
-                                                     platform_.keyEventPoster, platform_.mainQueue)),
+      hotKeyManager_(HotKeyManager::make(platform_.shortcuts, togglePalette_, platform_.keyEventPoster,
+                                         platform_.mainQueue)),
       accessibilityPermissionService_(platform_.accessibility),
       frontmostAppMonitor_(platform_.workspace, FrontmostAppResolver{platform_.ownBundleIdentifier}),
       menuScanner_(platform_.accessibility, platform_.textServices),

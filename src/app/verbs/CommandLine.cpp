@@ -110,6 +110,10 @@ class Parser {
         addPreferences();
     }
 
+    ~Parser() = default;
+    Parser(const Parser&) = delete;
+    Parser& operator=(const Parser&) = delete;
+
     Parsed parse(int argc, const char* const* argv) {
         std::vector<std::string> arguments = protectedArguments(argc, argv);
         std::reverse(arguments.begin(), arguments.end()); // as the library expects them
