@@ -51,9 +51,9 @@ class LinuxWorkspaceTest : public X11ServerTest {
 
     X11TestClient other_{display_};
     X11TestClient own_{display_};
-    LinuxWorkspace workspace_{
-        std::make_shared<X11Windows>(display_.c_str()), std::make_shared<AtspiBus>(),
-        std::make_shared<DesktopEntries>(std::vector<std::filesystem::path>(), std::string("C"))};
+    LinuxWorkspace workspace_{std::make_shared<X11Windows>(display_.c_str()), std::make_shared<AtspiBus>(),
+                              std::make_shared<DesktopEntries>(std::vector<std::filesystem::path>(),
+                                                               std::string("C"), DesktopSession())};
 };
 
 using Processes = std::vector<std::int32_t>;
