@@ -1,5 +1,7 @@
 #include "KeyboardShortcuts/HotKeyErrorText.h"
 
+#include "support/Fatal.h"
+
 namespace tovrel {
 
 Text hotKeyErrorText(HotKeyError error, const LocalizedString& localized) {
@@ -15,9 +17,9 @@ Text hotKeyErrorText(HotKeyError error, const LocalizedString& localized) {
     case HotKeyError::alreadyRegistered:
         return localized("KeyboardShortcuts", "Tovrel itself uses this shortcut.");
     case HotKeyError::refused:
-        break;
+        return localized("KeyboardShortcuts", "The desktop refuses this shortcut.");
     }
-    return localized("KeyboardShortcuts", "The desktop refuses this shortcut.");
+    noSuchValue("HotKeyError");
 }
 
 } // namespace tovrel

@@ -53,14 +53,12 @@ class RecorderCocoa {
 
     /// The control has taken the keyboard focus in a window: recording starts.
     void becomeFirstResponder();
-    /// The control or its window has lost the keyboard focus.
+    /// The control or its window has lost the keyboard focus, or a mouse button came up outside of it.
     void endRecording() { endRecording(false); }
 
     /// A key-down while recording, where the keyboard could not be had. True when it is used up; others go on
     /// to the window. May ask the user, and then returns only after the answer.
     bool handleKeyDown(const KeyEvent& event);
-    /// A mouse button came up outside of the control; the event goes on.
-    void handleMouseUpOutside() { endRecording(); }
 
     /// The clear button: removes the shortcut and asks for the focus, so that recording starts.
     void clear();

@@ -11,6 +11,7 @@
 #include "app/verbs/ResidentVerbs.h"
 #include "app/verbs/Verbs.h"
 #include "platform/preferences/SqlitePreferencesDomain.h"
+#include "support/Fatal.h"
 
 namespace tovrel {
 namespace {
@@ -21,10 +22,33 @@ using command_line::Verb;
 constexpr int failure = 1;
 constexpr int wrongUsage = 2;
 
+/// A verb about the menus of an application.
+int runMenuVerb(int (*verb)(const verbs::Context&), const Invocation& invocation, const Console& console) {
+    SqlitePreferencesDomain preferences(preferencesFile(invocation.preferencesFile));
+    const MenuSource source = resolveMenuSource(invocation.source, console.input);
+    const TextServices textServices(invocation.localeIdentifier);
+    return verb({invocation, console, source, preferences, textServices});
+}
+
+int runPreferences(const Invocation& invocation, const Console& console) {
+    SqlitePreferencesDomain preferences(preferencesFile(invocation.preferencesFile));
+    return verbs::preferences(invocation.preferences, invocation.asJson, preferences, console);
+}
+
 int runVerb(const Invocation& invocation, const Console& console, const RunResident& runResident) {
     switch (invocation.verb) {
     case Verb::run:
         return runResident(invocation, console);
+    case Verb::menus:
+        return runMenuVerb(verbs::menus, invocation, console);
+    case Verb::commands:
+        return runMenuVerb(verbs::commands, invocation, console);
+    case Verb::search:
+        return runMenuVerb(verbs::search, invocation, console);
+    case Verb::press:
+        return runMenuVerb(verbs::press, invocation, console);
+    case Verb::record:
+        return runMenuVerb(verbs::record, invocation, console);
     case Verb::toggle:
         return verbs::toggle();
     case Verb::settings:
@@ -33,28 +57,10 @@ int runVerb(const Invocation& invocation, const Console& console, const RunResid
         return verbs::quit();
     case Verb::status:
         return verbs::status(invocation.asJson, console);
-    default:
-        break;
+    case Verb::preferences:
+        return runPreferences(invocation, console);
     }
-    SqlitePreferencesDomain preferences(preferencesFile(invocation.preferencesFile));
-    if (invocation.verb == Verb::preferences) {
-        return verbs::preferences(invocation.preferences, invocation.asJson, preferences, console);
-    }
-    const MenuSource source = resolveMenuSource(invocation.source, console.input);
-    const TextServices textServices(invocation.localeIdentifier);
-    const verbs::Context context{invocation, console, source, preferences, textServices};
-    switch (invocation.verb) {
-    case Verb::menus:
-        return verbs::menus(context);
-    case Verb::commands:
-        return verbs::commands(context);
-    case Verb::search:
-        return verbs::search(context);
-    case Verb::press:
-        return verbs::press(context);
-    default:
-        return verbs::record(context);
-    }
+    noSuchValue("Verb");
 }
 
 int runParsed(const command_line::Parsed& parsed, const Console& console, const RunResident& runResident) {

@@ -4,6 +4,8 @@
 #include <memory>
 #include <utility>
 
+#include "support/Fatal.h"
+
 namespace tovrel {
 namespace {
 
@@ -25,9 +27,9 @@ bool isHiddenBy(const MenuBlacklistRule& rule, const std::vector<Text>& path) {
     case MenuBlacklistMode::excludeChildren:
         return path.size() > rule.targetPath.size() && isPrefix(rule.targetPath, path);
     case MenuBlacklistMode::excludeSelfAndChildren:
-        break;
+        return isPrefix(rule.targetPath, path);
     }
-    return isPrefix(rule.targetPath, path);
+    noSuchValue("MenuBlacklistMode");
 }
 
 /// The rules without a scope, and those of the application.

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "support/Fatal.h"
+
 namespace tovrel {
 namespace {
 
@@ -32,14 +34,15 @@ void CommandExecutor::execute(const CustomCommand& command, Completion completio
         complete(std::move(completion), open(payload));
         return;
     case CustomCommandKind::shortcut:
-        break;
+        if (const auto url = Url::parse(payload); url && url->hasScheme()) {
+            openURL_(*url);
+            complete(std::move(completion), {});
+        } else {
+            run(command.kind, {"/usr/bin/shortcuts", {"run", payload}}, std::move(completion));
+        }
+        return;
     }
-    if (const auto url = Url::parse(payload); url && url->hasScheme()) {
-        openURL_(*url);
-        complete(std::move(completion), {});
-    } else {
-        run(command.kind, {"/usr/bin/shortcuts", {"run", payload}}, std::move(completion));
-    }
+    noSuchValue("CustomCommandKind");
 }
 
 void CommandExecutor::run(CustomCommandKind kind, const CommandProcessRequest& request,

@@ -13,6 +13,9 @@ namespace tovrel {
 class FrontmostAppMonitor {
   public:
     FrontmostAppMonitor(Workspace& workspace, FrontmostAppResolver resolver);
+    ~FrontmostAppMonitor() = default;
+    FrontmostAppMonitor(const FrontmostAppMonitor&) = delete;
+    FrontmostAppMonitor& operator=(const FrontmostAppMonitor&) = delete;
 
     /// Begins to watch, with the application that is in front now. Called once.
     void start();

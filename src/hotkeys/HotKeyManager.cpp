@@ -30,8 +30,14 @@ constexpr ModifierFlags postableFlags = modifier_flags::command | modifier_flags
 
 } // namespace
 
-HotKeyManager::HotKeyManager(KeyboardShortcuts& shortcuts, KeyboardShortcuts::Name toggleShortcut,
-                             KeyEventPoster& poster, MainQueue& queue)
+std::shared_ptr<HotKeyManager> HotKeyManager::make(KeyboardShortcuts& shortcuts,
+                                                   KeyboardShortcuts::Name toggleShortcut,
+                                                   KeyEventPoster& poster, MainQueue& queue) {
+    return std::make_shared<HotKeyManager>(Key(), shortcuts, std::move(toggleShortcut), poster, queue);
+}
+
+HotKeyManager::HotKeyManager(Key /*key*/, KeyboardShortcuts& shortcuts,
+                             KeyboardShortcuts::Name toggleShortcut, KeyEventPoster& poster, MainQueue& queue)
     : shortcuts_(&shortcuts), toggleShortcut_(std::move(toggleShortcut)), poster_(&poster), queue_(&queue) {}
 
 void HotKeyManager::handleKeyDown() {

@@ -13,11 +13,22 @@ namespace tovrel {
 /// Makes one toggle of each physical press of the global shortcut, or hands the keystroke on to the
 /// application in front.
 class HotKeyManager : public std::enable_shared_from_this<HotKeyManager> {
+    /// Only `make` has one.
+    class Key {
+        friend HotKeyManager;
+        Key() = default;
+    };
+
   public:
-    /// Only made as shared: what it posts to the queue may outlive it. The references must outlive the
-    /// queue's tasks.
-    HotKeyManager(KeyboardShortcuts& shortcuts, KeyboardShortcuts::Name toggleShortcut,
+    /// Shared, for tasks of the queue hold it weakly. The references must outlive the queue's tasks.
+    [[nodiscard]] static std::shared_ptr<HotKeyManager> make(KeyboardShortcuts& shortcuts,
+                                                             KeyboardShortcuts::Name toggleShortcut,
+                                                             KeyEventPoster& poster, MainQueue& queue);
+    HotKeyManager(Key key, KeyboardShortcuts& shortcuts, KeyboardShortcuts::Name toggleShortcut,
                   KeyEventPoster& poster, MainQueue& queue);
+    ~HotKeyManager() = default;
+    HotKeyManager(const HotKeyManager&) = delete;
+    HotKeyManager& operator=(const HotKeyManager&) = delete;
 
     /// Called once for each accepted press; may be empty.
     std::function<void()> onTogglePalette;

@@ -2,10 +2,18 @@
 
 #include <nlohmann/json.hpp>
 
+#include "support/Fatal.h"
+
 namespace tovrel {
 
 json::Value toJson(CommandSource source) {
-    return source == CommandSource::menu ? "menu" : "custom";
+    switch (source) {
+    case CommandSource::menu:
+        return "menu";
+    case CommandSource::custom:
+        return "custom";
+    }
+    noSuchValue("CommandSource");
 }
 
 json::Value toJson(const CommandRankSignals& signals) {

@@ -1,29 +1,11 @@
 #include "model/CustomCommand.h"
 
-#include <cstddef>
-
 #include <nlohmann/json.hpp>
+
+#include "support/Fatal.h"
 
 namespace tovrel {
 namespace {
-
-struct KindTexts {
-    const char* rawValue;
-    const char* paletteLabel;
-    const char* settingsLabel;
-};
-
-/// In declaration order of CustomCommandKind.
-constexpr std::array<KindTexts, allCustomCommandKinds.size()> kindTexts{{
-    {"shellScript", "Shell Command", "Shell"},
-    {"appleScript", "AppleScript", "AppleScript"},
-    {"open", "Open", "Open"},
-    {"shortcut", "Shortcut", "Shortcut"},
-}};
-
-const KindTexts& textsOf(CustomCommandKind kind) {
-    return kindTexts.at(static_cast<std::size_t>(kind));
-}
 
 CustomCommandKind kindFrom(const json::Value& value) {
     const Text raw = json::textFrom(value);
@@ -38,15 +20,31 @@ CustomCommandKind kindFrom(const json::Value& value) {
 } // namespace
 
 const char* rawValue(CustomCommandKind kind) {
-    return textsOf(kind).rawValue;
+    switch (kind) {
+    case CustomCommandKind::shellScript:
+        return "shellScript";
+    case CustomCommandKind::appleScript:
+        return "appleScript";
+    case CustomCommandKind::open:
+        return "open";
+    case CustomCommandKind::shortcut:
+        return "shortcut";
+    }
+    noSuchValue("CustomCommandKind");
 }
 
 const char* paletteLabel(CustomCommandKind kind) {
-    return textsOf(kind).paletteLabel;
-}
-
-const char* settingsLabel(CustomCommandKind kind) {
-    return textsOf(kind).settingsLabel;
+    switch (kind) {
+    case CustomCommandKind::shellScript:
+        return "Shell Command";
+    case CustomCommandKind::appleScript:
+        return "AppleScript";
+    case CustomCommandKind::open:
+        return "Open";
+    case CustomCommandKind::shortcut:
+        return "Shortcut";
+    }
+    noSuchValue("CustomCommandKind");
 }
 
 json::Value toJson(const CustomCommand& command) {

@@ -23,9 +23,6 @@ const char* rawValue(CustomCommandKind kind);
 /// The kind as named in the palette, e.g. "Shell Command".
 const char* paletteLabel(CustomCommandKind kind);
 
-/// The kind as named in the settings, e.g. "Shell".
-const char* settingsLabel(CustomCommandKind kind);
-
 /// A local action that the user has defined.
 struct CustomCommand {
     Text id;    ///< A random UUID that never changes; see makeUUID().

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "model/MenuPath.h"
+#include "support/Fatal.h"
 
 namespace tovrel {
 namespace {
@@ -28,9 +29,9 @@ const char* rawValue(AppBehaviorRule rule) {
     case AppBehaviorRule::disabled:
         return "disabled";
     case AppBehaviorRule::automatic:
-        break;
+        return "auto";
     }
-    return "auto";
+    noSuchValue("AppBehaviorRule");
 }
 
 const char* rawValue(MenuBlacklistMode mode) {
@@ -40,9 +41,9 @@ const char* rawValue(MenuBlacklistMode mode) {
     case MenuBlacklistMode::excludeChildren:
         return "excludeChildren";
     case MenuBlacklistMode::excludeSelfAndChildren:
-        break;
+        return "excludeSelfAndChildren";
     }
-    return "excludeSelfAndChildren";
+    noSuchValue("MenuBlacklistMode");
 }
 
 Text MenuCommandAliasRule::id() const {

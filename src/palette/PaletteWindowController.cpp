@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "palette/PalettePolicies.h"
+#include "support/Fatal.h"
+#include "support/Overloaded.h"
 
 namespace tovrel {
 
@@ -47,19 +49,11 @@ void PaletteWindowController::close() {
 }
 
 bool PaletteWindowController::handleKeyboardAction(const PaletteKeyboardAction& action) {
-    if (const auto* move = std::get_if<MoveSelection>(&action)) {
-        viewModel_.moveSelection(move->delta);
-    } else if (const auto* execute = std::get_if<ExecuteShortcut>(&action)) {
-        switch (PaletteShortcutRoutingPolicy::route(
-            surroundings_.settingsStore.commandShortcutOpensSettings().get())) {
-        case PaletteShortcutRoute::commandLookup:
-            executeIfPresent(viewModel_.commandForShortcut(execute->shortcut));
-        }
-    } else if (std::holds_alternative<ExecuteSelection>(action)) {
-        executeIfPresent(viewModel_.selectedCommand());
-    } else {
-        close();
-    }
+    std::visit(Overloaded{[this](const MoveSelection& move) { viewModel_.moveSelection(move.delta); },
+                          [this](const ExecuteShortcut& execute) { executeShortcut(execute.shortcut); },
+                          [this](const ExecuteSelection&) { executeIfPresent(viewModel_.selectedCommand()); },
+                          [this](const Dismiss&) { close(); }},
+               action);
     return true;
 }
 
@@ -75,6 +69,16 @@ void PaletteWindowController::closeIfVisible() {
     if (panel_->isVisible()) {
         close();
     }
+}
+
+void PaletteWindowController::executeShortcut(const Text& shortcut) {
+    switch (PaletteShortcutRoutingPolicy::route(
+        surroundings_.settingsStore.commandShortcutOpensSettings().get())) {
+    case PaletteShortcutRoute::commandLookup:
+        executeIfPresent(viewModel_.commandForShortcut(shortcut));
+        return;
+    }
+    noSuchValue("PaletteShortcutRoute");
 }
 
 void PaletteWindowController::executeIfPresent(const std::optional<Command>& command) {

@@ -43,6 +43,9 @@ class PaletteWindowController {
   public:
     /// `onExecute` runs a chosen command; whoever runs it also closes the palette.
     PaletteWindowController(PaletteSurroundings surroundings, std::function<void(const Command&)> onExecute);
+    ~PaletteWindowController() = default;
+    PaletteWindowController(const PaletteWindowController&) = delete;
+    PaletteWindowController& operator=(const PaletteWindowController&) = delete;
 
     /// For whoever shows the palette: which application it was last shown for. Stays on close.
     std::optional<Text> presentedTargetIdentifier;
@@ -66,6 +69,7 @@ class PaletteWindowController {
   private:
     bool handleKey(const KeyEvent& event);
     void closeIfVisible();
+    void executeShortcut(const Text& shortcut);
     void executeIfPresent(const std::optional<Command>& command);
 
     PaletteSurroundings surroundings_;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/Fatal.h"
+
 namespace tovrel::window_menu {
 
 std::optional<Action> actionOf(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode) {
@@ -22,9 +24,9 @@ Text title(Action action, const LocalizedString& localized) {
     case Action::closeWindow:
         return localized("WindowMenu", "Close Window");
     case Action::quit:
-        break;
+        return localized("StatusMenu", "Quit Tovrel");
     }
-    return localized("StatusMenu", "Quit Tovrel");
+    noSuchValue("window_menu::Action");
 }
 
 } // namespace tovrel::window_menu

@@ -8,4 +8,9 @@ namespace tovrel {
 /// papered over, such as an overflow of a score or a count.
 [[noreturn]] void fatal(std::string_view message);
 
+/// Ends the process likewise, behind a switch with a case for each value of one of our enumerations: only a
+/// number that is no value arrives there. Such a switch has no `default`, so the compiler names what it
+/// lacks.
+[[noreturn]] void noSuchValue(std::string_view enumeration);
+
 } // namespace tovrel

@@ -44,6 +44,11 @@ class ObserverList {
   public:
     using Observer = std::function<void(Arguments...)>;
 
+    ObserverList() = default;
+    ~ObserverList() = default;
+    ObserverList(const ObserverList&) = delete; // two values would tell each other's observers
+    ObserverList& operator=(const ObserverList&) = delete;
+
     [[nodiscard]] Subscription subscribe(Observer observer) const {
         const std::uint64_t id = observers_->nextId++;
         observers_->byId.emplace(id, std::move(observer));

@@ -76,7 +76,7 @@ TEST_F(RecorderCocoaTest, WhileItRecordsNothingFires) {
     EXPECT_EQ(recorder_->stringValue().get(), textOf(standard));
     center_.press(standard);
     EXPECT_EQ(fired_, 0);
-    recorder_->handleMouseUpOutside();
+    recorder_->endRecording();
     EXPECT_EQ(recorder_->placeholder().get(), Text("record_shortcut"));
     center_.press(standard);
     EXPECT_EQ(fired_, 1);

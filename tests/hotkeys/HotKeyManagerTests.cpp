@@ -34,8 +34,7 @@ class HotKeyManagerTest : public testing::Test {
     KeyboardShortcuts::Name name_ = shortcuts_.makeName("togglePalette", standard);
     MemoryKeyEventPoster poster_;
     ManualQueue queue_;
-    std::shared_ptr<HotKeyManager> manager_ =
-        std::make_shared<HotKeyManager>(shortcuts_, name_, poster_, queue_);
+    std::shared_ptr<HotKeyManager> manager_ = HotKeyManager::make(shortcuts_, name_, poster_, queue_);
     int toggles_ = 0;
 };
 

@@ -36,6 +36,12 @@ TEST(CustomCommands, AreReplacedInPlaceAppendedAndRemovedByID) {
     EXPECT_THAT(store.customCommands(), ElementsAre(b));
 }
 
+TEST(CustomCommands, AKindThatIsNoneIsNotTakenForAnother) {
+    const auto none = static_cast<CustomCommandKind>(allCustomCommandKinds.size());
+    EXPECT_DEATH(rawValue(none), "CustomCommandKind");
+    EXPECT_DEATH(paletteLabel(none), "CustomCommandKind");
+}
+
 TEST(CustomCommands, OneBadElementSpoilsTheListWhichTheNextChangeReplaces) {
     FailingPreferencesDomain domain;
     CustomCommandStore store(domain, "customCommands");

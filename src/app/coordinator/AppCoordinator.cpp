@@ -11,6 +11,7 @@
 #include "hotkeys/PaletteHotKeyRoutingPolicy.h"
 #include "menus/MenuCommandPerformer.h"
 #include "model/VirtualKeyCodes.h"
+#include "support/Fatal.h"
 
 namespace tovrel {
 namespace {
@@ -25,24 +26,32 @@ constexpr auto beforePress = 200ms;
 
 constexpr Shortcut defaultToggleShortcut{key_codes::p, carbon_modifiers::command | carbon_modifiers::shift};
 
-const char* confirmationLabel(CustomCommandKind kind) {
+/// The kind as the question before running such a command names it; absent when none is asked.
+std::optional<Text> confirmationLabel(CustomCommandKind kind) {
     switch (kind) {
+    case CustomCommandKind::shellScript:
+        return "shell";
     case CustomCommandKind::appleScript:
         return "AppleScript";
     case CustomCommandKind::shortcut:
         return "Shortcut";
-    default:
-        return "shell";
+    case CustomCommandKind::open:
+        return std::nullopt;
     }
+    noSuchValue("CustomCommandKind");
 }
 
 } // namespace
 
-AppCoordinator::AppCoordinator(Platform platform)
+std::shared_ptr<AppCoordinator> AppCoordinator::make(Platform platform) {
+    return std::make_shared<AppCoordinator>(Key(), std::move(platform));
+}
+
+AppCoordinator::AppCoordinator(Key /*key*/, Platform platform)
     : platform_(std::move(platform)),
       togglePalette_(platform_.shortcuts.makeName("togglePalette", defaultToggleShortcut)),
-      hotKeyManager_(std::make_shared<HotKeyManager>(platform_.shortcuts, togglePalette_,
-                                                     platform_.keyEventPoster, platform_.mainQueue)),
+      hotKeyManager_(HotKeyManager::make(platform_.shortcuts, togglePalette_, platform_.keyEventPoster,
+                                         platform_.mainQueue)),
       accessibilityPermissionService_(platform_.accessibility),
       frontmostAppMonitor_(platform_.workspace, FrontmostAppResolver{platform_.ownBundleIdentifier}),
       menuScanner_(platform_.accessibility, platform_.textServices),
@@ -242,14 +251,15 @@ void AppCoordinator::executeMenu(const Command& command, const MenuAction& actio
 }
 
 bool AppCoordinator::confirmCustomCommand(const CustomCommand& command) {
-    if (command.kind == CustomCommandKind::open) {
+    const std::optional<Text> label = confirmationLabel(command.kind);
+    if (!label) {
         return true;
     }
     const LocalizedString& localized = platform_.localized;
     const AlertAnswer answer = platform_.userInterface.runAlert(
         {.messageText = filled(localized("Confirmation", "Run “%@”?"), command.title),
-         .informativeText = filled(localized("Confirmation", "This %@ command can run actions on your Mac."),
-                                   confirmationLabel(command.kind)),
+         .informativeText =
+             filled(localized("Confirmation", "This %@ command can run actions on your Mac."), *label),
          .firstButton = localized("Confirmation", "Run"),
          .secondButton = localized("Confirmation", "Cancel")});
     return answer == AlertAnswer::firstButton;

@@ -66,9 +66,19 @@ struct Platform {
 /// Owns every store and service, prepares the palette for the application in front when the global shortcut
 /// fires, and runs the command that the user picks.
 class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
+    /// Only `make` has one.
+    class Key {
+        friend AppCoordinator;
+        Key() = default;
+    };
+
   public:
-    /// Only made as shared: callbacks hold it weakly.
-    explicit AppCoordinator(Platform platform);
+    /// Shared, for callbacks hold it weakly.
+    [[nodiscard]] static std::shared_ptr<AppCoordinator> make(Platform platform);
+    AppCoordinator(Key key, Platform platform);
+    ~AppCoordinator() = default;
+    AppCoordinator(const AppCoordinator&) = delete;
+    AppCoordinator& operator=(const AppCoordinator&) = delete;
 
     /// Status item, watch over the front application, global shortcut, onboarding. Called once.
     void start();

@@ -25,6 +25,9 @@ class ShortcutNotice {
 
     /// Everything referred to outlives it. What is the case already is told at once.
     ShortcutNotice(Surroundings surroundings, KeyboardShortcuts::Name name);
+    ~ShortcutNotice() = default;
+    ShortcutNotice(const ShortcutNotice&) = delete;
+    ShortcutNotice& operator=(const ShortcutNotice&) = delete;
 
   private:
     void tell();

@@ -49,7 +49,7 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
       accessibilityOffer_(toolkitAccessibility_, userInterface_, localizedByQt()),
       shortcuts_(preferences_, hotKeys_, userInterface_, textServices_, console.output),
       settingsWindowController_([this] { return makeSettingsWindow(); }),
-      coordinator_(std::make_shared<AppCoordinator>(platform())),
+      coordinator_(AppCoordinator::make(platform())),
       service_(coordinator_,
                {.shortcut = [this] { return toggleShortcutForPeople(); },
                 .problem = [this] { return shortcutProblem(); }},

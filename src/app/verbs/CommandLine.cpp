@@ -7,6 +7,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include "support/Fatal.h"
+
 namespace tovrel::command_line {
 namespace {
 
@@ -72,8 +74,22 @@ std::string requiredText(const std::string& option, const std::string& text) {
 }
 
 bool takesSource(Verb verb) {
-    return verb == Verb::menus || verb == Verb::commands || verb == Verb::search || verb == Verb::press ||
-           verb == Verb::record;
+    switch (verb) {
+    case Verb::menus:
+    case Verb::commands:
+    case Verb::search:
+    case Verb::press:
+    case Verb::record:
+        return true;
+    case Verb::run:
+    case Verb::toggle:
+    case Verb::settings:
+    case Verb::quit:
+    case Verb::status:
+    case Verb::preferences:
+        return false;
+    }
+    noSuchValue("Verb");
 }
 
 class Parser {
@@ -93,6 +109,10 @@ class Parser {
         addJsonFlag(*addVerb("status", Verb::status, "Show what the running program is doing"));
         addPreferences();
     }
+
+    ~Parser() = default;
+    Parser(const Parser&) = delete;
+    Parser& operator=(const Parser&) = delete;
 
     Parsed parse(int argc, const char* const* argv) {
         std::vector<std::string> arguments = protectedArguments(argc, argv);

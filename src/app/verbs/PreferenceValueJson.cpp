@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "support/Base64.h"
+#include "support/Overloaded.h"
 #include "support/Utf8.h"
 
 namespace tovrel {
@@ -27,10 +28,9 @@ PreferenceData dataFrom(const json::Value& object) {
 } // namespace
 
 const char* typeName(const PreferenceValue& value) {
-    if (std::holds_alternative<PreferenceData>(value)) {
-        return "data";
-    }
-    return std::holds_alternative<Text>(value) ? "string" : "boolean";
+    return std::visit(Overloaded{[](const PreferenceData&) { return "data"; },
+                                 [](const Text&) { return "string"; }, [](bool) { return "boolean"; }},
+                      value);
 }
 
 json::Value toJson(const PreferenceValue& value) {

@@ -11,6 +11,8 @@
 #include "app/terminal/ErrorLine.h"
 #include "app/terminal/JsonOutput.h"
 #include "app/verbs/PreferenceValueJson.h"
+#include "support/Fatal.h"
+#include "support/Overloaded.h"
 #include "support/Utf8.h"
 
 namespace tovrel::preferences_commands {
@@ -42,16 +44,26 @@ std::string quoted(const std::string& bytes) {
 }
 
 std::size_t sizeOf(const PreferenceValue& value) {
-    if (const auto* data = std::get_if<PreferenceData>(&value)) {
-        return data->bytes.size();
-    }
-    const auto* text = std::get_if<Text>(&value);
-    return text != nullptr ? text->utf8().size() : sizeof(bool);
+    return std::visit(Overloaded{[](const PreferenceData& data) { return data.bytes.size(); },
+                                 [](const Text& text) { return text.utf8().size(); },
+                                 [](bool boolean) { return sizeof boolean; }},
+                      value);
 }
 
 /// The key as it is shown in a column: quoted if it is empty or a part of it would be invisible.
 std::string shownKey(const std::string& key) {
     return !key.empty() && printable(key) == key ? key : quoted(key);
+}
+
+std::string shown(const std::string& bytes, ValueForm form) {
+    switch (form) {
+    case ValueForm::plain:
+    case ValueForm::json:
+        return bytes;
+    case ValueForm::terminal:
+        return printableLines(bytes);
+    }
+    noSuchValue("ValueForm");
 }
 
 std::size_t characterCount(std::string_view utf8) {
@@ -74,13 +86,10 @@ int read(PreferencesDomain& domain, const std::string& key, ValueForm form, std:
     if (form == ValueForm::json) {
         return print(toJson(*value), out, error);
     }
-    const auto shown = [form](const std::string& bytes) {
-        return form == ValueForm::terminal ? printableLines(bytes) : bytes;
-    };
     if (const auto* data = std::get_if<PreferenceData>(&*value)) {
-        out << shown(data->bytes);
+        out << shown(data->bytes, form);
     } else if (const auto* text = std::get_if<Text>(&*value)) {
-        out << shown(text->utf8()) << '\n';
+        out << shown(text->utf8(), form) << '\n';
     } else {
         out << (std::get<bool>(*value) ? "true\n" : "false\n");
     }

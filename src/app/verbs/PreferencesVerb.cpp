@@ -1,5 +1,6 @@
 #include "app/verbs/PreferencesCommands.h"
 #include "app/verbs/Verbs.h"
+#include "support/Fatal.h"
 
 namespace tovrel::verbs {
 namespace {
@@ -30,9 +31,9 @@ int preferences(const command_line::PreferencesArguments& arguments, bool asJson
     case PreferencesVerb::exportAll:
         return preferences_commands::exportAll(preferences, console.output, console.error);
     case PreferencesVerb::importAll:
-        break;
+        return preferences_commands::importAll(preferences, console.input, console.error);
     }
-    return preferences_commands::importAll(preferences, console.input, console.error);
+    noSuchValue("PreferencesVerb");
 }
 
 } // namespace tovrel::verbs

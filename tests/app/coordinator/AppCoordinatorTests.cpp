@@ -66,7 +66,7 @@ class AppCoordinatorTest : public testing::Test {
     }
 
     std::shared_ptr<AppCoordinator> makeCoordinator() {
-        return std::make_shared<AppCoordinator>(
+        return AppCoordinator::make(
             Platform{.accessibility = accessibility_,
                      .workspace = workspace_,
                      .hotKeyCenter = center_,

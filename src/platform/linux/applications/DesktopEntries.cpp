@@ -39,15 +39,16 @@ std::string environmentLocale() {
 
 } // namespace
 
-DesktopEntries::DesktopEntries(std::vector<fs::path> dataDirectories, std::string locale)
-    : directories_(std::move(dataDirectories)), locale_(std::move(locale)) {
+DesktopEntries::DesktopEntries(std::vector<fs::path> dataDirectories, std::string locale,
+                               DesktopSession session)
+    : directories_(std::move(dataDirectories)), locale_(std::move(locale)), session_(std::move(session)) {
     for (fs::path& directory : directories_) {
         directory /= "applications";
     }
 }
 
 DesktopEntries DesktopEntries::ofEnvironment() {
-    return {xdg::dataDirectories(), environmentLocale()};
+    return {xdg::dataDirectories(), environmentLocale(), DesktopSession::ofEnvironment()};
 }
 
 const DesktopEntry* DesktopEntries::withIdentifier(std::string_view identifier) {
@@ -96,7 +97,7 @@ const DesktopEntry* DesktopEntries::withExecutable(std::string_view executable) 
         if (entry == nullptr || entry->terminal || executableName(entry->exec) != executable) {
             continue;
         }
-        const int rank = (entry->noDisplay ? 0 : 2) + (hasOwnArguments(entry->exec) ? 0 : 1);
+        const int rank = (isShownInMenus(*entry, session_) ? 2 : 0) + (hasOwnArguments(entry->exec) ? 0 : 1);
         if (best == nullptr || rank > bestRank) {
             best = entry;
             bestRank = rank;
@@ -110,7 +111,7 @@ std::vector<DesktopEntry> DesktopEntries::forMenus() {
     std::vector<DesktopEntry> entries;
     for (auto& [identifier, file] : files_) {
         const DesktopEntry* entry = read(identifier, file);
-        if (entry != nullptr && !entry->noDisplay) {
+        if (entry != nullptr && isShownInMenus(*entry, session_)) {
             entries.push_back(*entry);
         }
     }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/linux/applications/DesktopEntryFile.h"
+#include "platform/linux/applications/DesktopSession.h"
 
 namespace tovrel {
 
@@ -17,9 +18,11 @@ namespace tovrel {
 class DesktopEntries {
   public:
     /// Looks in the folder "applications" of each of the directories, the first being the most important one;
-    /// `locale` (POSIX) chooses the names.
-    DesktopEntries(std::vector<std::filesystem::path> dataDirectories, std::string locale);
-    /// Those of this process's environment: the XDG data directories, and LC_ALL, LC_MESSAGES or LANG.
+    /// `locale` (POSIX) chooses the names, and `session` what menus show.
+    DesktopEntries(std::vector<std::filesystem::path> dataDirectories, std::string locale,
+                   DesktopSession session);
+    /// Those of this process's environment: the XDG data directories, LC_ALL, LC_MESSAGES or LANG, and the
+    /// session's variables.
     static DesktopEntries ofEnvironment();
 
     /// The entry of this id (without ".desktop"). Null when there is none; a result stays valid until the
@@ -33,7 +36,7 @@ class DesktopEntries {
     /// The entry that starts this program (the last part of its path), other than in a terminal. Of several
     /// one that is shown in menus and gives the program no arguments is preferred, then the first by id.
     const DesktopEntry* withExecutable(std::string_view executable);
-    /// Those that are meant for menus, by id.
+    /// Those that the session's menus show, by id.
     std::vector<DesktopEntry> forMenus();
 
   private:
@@ -51,6 +54,7 @@ class DesktopEntries {
 
     std::vector<std::filesystem::path> directories_;
     std::string locale_;
+    DesktopSession session_;
     std::vector<std::filesystem::file_time_type> listedAt_;
     std::map<std::string, File, std::less<>> files_; ///< By id.
 };

@@ -33,6 +33,28 @@ std::string unescaped(std::string_view value) {
     return plain;
 }
 
+/// The elements of a value of several; "\;" stands for a semicolon within one.
+std::vector<std::string> listFrom(std::string_view value) {
+    std::vector<std::string> elements;
+    std::string element;
+    const auto finish = [&] {
+        if (!element.empty()) {
+            elements.push_back(unescaped(std::exchange(element, {})));
+        }
+    };
+    for (std::size_t index = 0; index < value.size(); ++index) {
+        if (value[index] == ';') {
+            finish();
+        } else if (value[index] == '\\' && index + 1 < value.size()) {
+            element += value[++index] == ';' ? ";" : value.substr(index - 1, 2);
+        } else {
+            element += value[index];
+        }
+    }
+    finish();
+    return elements;
+}
+
 /// The tags under which a localized value is looked up, the best first; the encoding does not count.
 std::vector<std::string> localeTags(std::string_view locale) {
     const std::size_t at = locale.find('@');
@@ -113,6 +135,12 @@ std::optional<DesktopEntry> parseDesktopEntry(std::string_view text, std::string
             entry.startupWMClass = unescaped(value);
         } else if (key == "Exec") {
             entry.exec = unescaped(value);
+        } else if (key == "TryExec") {
+            entry.tryExec = unescaped(value);
+        } else if (key == "OnlyShowIn") {
+            entry.onlyShowIn = listFrom(value);
+        } else if (key == "NotShowIn") {
+            entry.notShowIn = listFrom(value);
         } else if (key == "Terminal") {
             entry.terminal = value == "true";
         } else if (key == "NoDisplay") {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "support/Text.h"
 
@@ -15,9 +16,12 @@ struct DesktopEntry {
     std::string icon;           ///< Icon name or absolute path; may be empty.
     std::string startupWMClass; ///< WM_CLASS of its windows; may be empty.
     std::string exec;           ///< Command line, unexpanded; may be empty.
+    std::string tryExec;        ///< Program without which it is not installed; may be empty.
     bool terminal = false;      ///< Runs inside a terminal, without windows of its own.
     bool noDisplay = false;     ///< Not meant for menus.
     bool hidden = false;        ///< The user or administrator deleted it, and with it those of the same id.
+    std::optional<std::vector<std::string>> onlyShowIn; ///< The desktops whose menus show it; absent: all.
+    std::vector<std::string> notShowIn;                 ///< The desktops whose menus do not.
 };
 
 /// Reads the text of a desktop-entry file. `locale` is a POSIX locale such as "de_AT.UTF-8@euro", which

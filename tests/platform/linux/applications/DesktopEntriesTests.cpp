@@ -27,6 +27,7 @@ TEST(DesktopEntryFile, ReadsItsGroupInTheUsersLanguage) {
                                  "= nor here\n"
                                  "Icon = some\\sicon\\\\\n"
                                  "NoDisplay=true\n"
+                                 "NotShowIn=A\\;B;;C\\\\;D E\n"
                                  "Exec=env A=b \"/opt/my editor/edit\" --new %U\n"
                                  "[Desktop Action new]\n"
                                  "Name=New Window\n"
@@ -39,6 +40,8 @@ TEST(DesktopEntryFile, ReadsItsGroupInTheUsersLanguage) {
     const auto entry = parseDesktopEntry(text, "");
     EXPECT_EQ(entry->icon, "some icon\\");
     EXPECT_TRUE(entry->noDisplay);
+    EXPECT_EQ(entry->notShowIn, (std::vector<std::string>{"A;B", "C\\", "D E"}));
+    EXPECT_FALSE(entry->onlyShowIn);
     EXPECT_EQ(executableName(entry->exec), "edit");
     EXPECT_TRUE(hasOwnArguments(entry->exec));
     EXPECT_FALSE(hasOwnArguments("edit %F"));
@@ -68,7 +71,18 @@ class DesktopEntriesTest : public testing::Test {
         std::ofstream(folder_ / path) << "[Desktop Entry]\nType=Application\nName=" << name << '\n' << lines;
     }
 
-    DesktopEntries entries() { return {{folder_ / "own", folder_ / "system"}, ""}; }
+    DesktopEntries entries(const std::vector<std::string>& desktops = {}) {
+        return {{folder_ / "own", folder_ / "system"}, "", {desktops, {folder_, folder_ / "bin"}}};
+    }
+
+    /// The names in the menus, each followed by a blank.
+    std::string menus(const std::vector<std::string>& desktops) {
+        std::string names;
+        for (const DesktopEntry& entry : entries(desktops).forMenus()) {
+            names += entry.name.utf8() + " ";
+        }
+        return names;
+    }
 
     static std::string name(const DesktopEntry* entry) {
         return entry == nullptr ? "none" : entry->name.utf8();
@@ -113,6 +127,41 @@ TEST_F(DesktopEntriesTest, LooksUpByIdClassNameAndProgram) {
     fs::last_write_time(folder_ / "own/applications",
                         fs::file_time_type::clock::now() + std::chrono::hours(1));
     EXPECT_EQ(name(all.withIdentifier("fresh")), "Fresh");
+}
+
+TEST_F(DesktopEntriesTest, MenusShowWhatIsForTheirDesktopAndInstalled) {
+    fs::create_directories(folder_ / "bin");
+    std::ofstream(folder_ / "bin/data") << "no program";
+    fs::create_directories(folder_ / "bin/folder");
+    fs::create_symlink("/bin/sh", folder_ / "bin/shell");
+    write("system/applications/a.desktop", "everywhere");
+    write("system/applications/b.desktop", "only", "OnlyShowIn=KDE;XFCE;\n");
+    write("system/applications/c.desktop", "not", "NotShowIn=KDE;XFCE\n");
+    write("system/applications/d.desktop", "both", "OnlyShowIn=ubuntu;\nNotShowIn=GNOME;\n");
+    write("system/applications/e.desktop", "nowhere", "OnlyShowIn=\n");
+    write("system/applications/f.desktop", "found", "TryExec=shell\nExec=shell\n");
+    write("system/applications/g.desktop", "absolute", "TryExec=/bin/sh\n");
+    write("system/applications/h.desktop", "missing", "TryExec=no-such-program\n");
+    write("system/applications/i.desktop", "unfit", "TryExec=data\n");
+    write("system/applications/j.desktop", "unfit", "TryExec=folder\n");
+    write("system/applications/k.desktop", "secret", "NoDisplay=true\n");
+    write("system/applications/l.desktop", "deleted");
+    write("own/applications/l.desktop", "deleted", "Hidden=true\n");
+
+    EXPECT_EQ(menus({}), "everywhere not found absolute ");
+    EXPECT_EQ(menus({"XFCE"}), "everywhere only found absolute ");
+    EXPECT_EQ(menus({"ubuntu", "GNOME"}), "everywhere not both found absolute ");
+    EXPECT_EQ(menus({"GNOME", "ubuntu"}), "everywhere not found absolute ");
+    EXPECT_EQ(menus({"kde"}), "everywhere not found absolute ");
+
+    // What no menu shows can run all the same, and has its name then.
+    write("system/applications/aa.desktop", "elsewhere", "OnlyShowIn=KDE;\nExec=shell\n");
+    DesktopEntries all = entries({"XFCE"});
+    EXPECT_EQ(name(all.withIdentifier("h")), "missing");
+    EXPECT_EQ(name(all.withIdentifier("aa")), "elsewhere");
+    EXPECT_EQ(name(all.withIdentifier("k")), "secret");
+    EXPECT_EQ(name(all.withIdentifier("l")), "none");
+    EXPECT_EQ(name(all.withExecutable("shell")), "found");
 }
 
 TEST_F(DesktopEntriesTest, AnApplicationIsIdentifiedInTheStatedOrder) {

@@ -53,9 +53,9 @@ class LinuxWorkspaceTest : public X11ServerTest {
     X11TestClient other_{display_};
     X11TestClient own_{display_};
     std::shared_ptr<X11WindowList> windows_ = std::make_shared<X11WindowList>(display_.c_str());
-    LinuxWorkspace workspace_{
-        windows_, std::make_shared<AtspiBus>(),
-        std::make_shared<DesktopEntries>(std::vector<std::filesystem::path>(), std::string("C"))};
+    LinuxWorkspace workspace_{windows_, std::make_shared<AtspiBus>(),
+                              std::make_shared<DesktopEntries>(std::vector<std::filesystem::path>(),
+                                                               std::string("C"), DesktopSession())};
 };
 
 using Processes = std::vector<std::int32_t>;

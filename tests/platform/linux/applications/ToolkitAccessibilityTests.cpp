@@ -43,10 +43,11 @@ class ToolkitAccessibilityTest : public X11ServerTest {
     std::vector<std::unique_ptr<X11TestClient>> clients_;
     std::vector<std::uint32_t> windows_;
     std::shared_ptr<AtspiBus> bus_ = std::make_shared<AtspiBus>();
-    ToolkitAccessibility toolkits_{
-        bus_, std::make_shared<LinuxWorkspace>(
-                  std::make_shared<X11WindowList>(display_.c_str()), bus_,
-                  std::make_shared<DesktopEntries>(std::vector<std::filesystem::path>(), std::string("C")))};
+    ToolkitAccessibility toolkits_{bus_,
+                                   std::make_shared<LinuxWorkspace>(
+                                       std::make_shared<X11WindowList>(display_.c_str()), bus_,
+                                       std::make_shared<DesktopEntries>(std::vector<std::filesystem::path>(),
+                                                                        std::string("C"), DesktopSession()))};
 };
 
 TEST_F(ToolkitAccessibilityTest, IsSwitchedInTheSession) {

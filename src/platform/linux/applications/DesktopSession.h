@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/linux/applications/DesktopEntryFile.h"
+
+namespace tovrel {
+
+/// The session whose menus are meant.
+struct DesktopSession {
+    std::vector<std::string> desktops;                 ///< Its names, the most specific one first.
+    std::vector<std::filesystem::path> programFolders; ///< Where programs are looked up, in this order.
+
+    /// Of this process's environment: XDG_CURRENT_DESKTOP, and PATH or else the system's folders.
+    static DesktopSession ofEnvironment();
+};
+
+/// Whether the session's menus show the entry (Desktop Entry Specification 1.5): it is neither hidden nor
+/// NoDisplay, OnlyShowIn and NotShowIn let it be shown by the first desktop that either names, and the
+/// program of TryExec is installed.
+[[nodiscard]] bool isShownInMenus(const DesktopEntry& entry, const DesktopSession& session);
+
+} // namespace tovrel
