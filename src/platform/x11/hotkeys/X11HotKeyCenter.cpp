@@ -31,14 +31,20 @@ X11HotKeyCenter::X11HotKeyCenter(MainQueue& queue, DestinationOfKeys destination
     keyMap_ = X11KeyMap::read(connection_.handle());
 }
 
-std::variant<HotKeyHandle, HotKeyError> X11HotKeyCenter::registerHotKey(std::uint32_t keyCode,
-                                                                        std::uint32_t carbonModifiers,
-                                                                        HotKeyIdentifier identifier) {
+HotKeyHandle X11HotKeyCenter::registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
+                                             HotKeyIdentifier identifier, Completion completion) {
     Registration registration;
+    registration.handle = ++lastHandle_;
     registration.identifier = identifier;
     registration.keyCode = keyCode;
     registration.modifiers = modifierFlags(carbonModifiers);
-    auto grab = grabFor(keyCode, registration.modifiers);
+    const HotKeyHandle handle = registration.handle;
+    completion(registered(std::move(registration)));
+    return handle;
+}
+
+HotKeyOutcome X11HotKeyCenter::registered(Registration registration) {
+    auto grab = grabFor(registration.keyCode, registration.modifiers);
     if (const HotKeyError* error = std::get_if<HotKeyError>(&grab)) {
         return *error;
     }
@@ -51,14 +57,12 @@ std::variant<HotKeyHandle, HotKeyError> X11HotKeyCenter::registerHotKey(std::uin
         waitForServer();
         return *refusal;
     }
-    registration.handle = ++lastHandle_;
-    const HotKeyHandle handle = registration.handle;
     // Releases are selected before the question, so that none is missed between the two.
     registration.state = KeyState::heldBefore;
     registrations_.push_back(std::move(registration));
     selectRawKeys();
     reportKeysFoundUp();
-    return connection_.isOpen() ? std::variant<HotKeyHandle, HotKeyError>(handle) : HotKeyError::noHotKeys;
+    return connection_.isOpen() ? HotKeyOutcome(HotKeyRegistered()) : HotKeyError::noHotKeys;
 }
 
 void X11HotKeyCenter::unregisterHotKey(HotKeyHandle handle) {

@@ -45,9 +45,9 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
     /// Connects to `display`, or to $DISPLAY when null; without a server every registration is refused.
     X11HotKeyCenter(MainQueue& queue, DestinationOfKeys destination, const char* display = nullptr);
 
-    [[nodiscard]] std::variant<HotKeyHandle, HotKeyError>
-    registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
-                   HotKeyIdentifier identifier) override;
+    /// The outcome comes before this returns.
+    [[nodiscard]] HotKeyHandle registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
+                                              HotKeyIdentifier identifier, Completion completion) override;
     /// The release of a key that is down is not reported any more. When this returns, the server knows.
     void unregisterHotKey(HotKeyHandle handle) override;
     [[nodiscard]] std::optional<HotKeyError> refusal(HotKeyHandle handle) const override;
@@ -85,6 +85,7 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
         KeyState state = KeyState::up;
     };
 
+    [[nodiscard]] HotKeyOutcome registered(Registration registration);
     /// What the keyboard makes of a combination at present.
     [[nodiscard]] std::variant<X11HotKeyGrab, HotKeyError> grabFor(std::uint32_t keyCode,
                                                                    ModifierFlags modifiers) const;
