@@ -58,9 +58,9 @@ RoundedBox {
         spacing: 6
         settings: sidebar.settings
         onMoved: index => {
-            const button = tabs.itemAt(index);
+            const button = entries.itemAt(index);
             if (button) {
-                sidebar.settings.selectTab(index);
+                sidebar.settings.selectPage(index);
                 button.forceActiveFocus(Qt.OtherFocusReason);
             }
         }
@@ -69,19 +69,19 @@ RoundedBox {
         Accessible.name: qsTr("Settings")
 
         Repeater {
-            id: tabs
+            id: entries
 
-            model: sidebar.settings.tabs
+            model: sidebar.settings.pages
 
             delegate: SettingsSidebarButton {
                 required property int index
-                readonly property SidebarEntries entries: parent as SidebarEntries
+                readonly property SidebarEntries column: parent as SidebarEntries
 
-                width: entries ? entries.width : 0
-                isSelected: entries !== null && index === entries.settings.selectedTab
-                onPressed: entries.settings.selectTab(index)
-                Keys.onUpPressed: entries.moved(index - 1)
-                Keys.onDownPressed: entries.moved(index + 1)
+                width: column ? column.width : 0
+                isSelected: column !== null && index === column.settings.selectedPage
+                onPressed: column.settings.selectPage(index)
+                Keys.onUpPressed: column.moved(index - 1)
+                Keys.onDownPressed: column.moved(index + 1)
             }
         }
     }

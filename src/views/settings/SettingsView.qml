@@ -7,15 +7,13 @@ FocusScope {
 
     required property SettingsViewAdapter settings
 
-    readonly property list<string> pages: ["GeneralTab", "AppRulesTab", "MenuFilterTab", "CommandsTab", "HistoryTab"]
-
     function showPage() {
-        page.setSource(view.pages[view.settings.selectedTab] + ".qml", {"settings": view.settings});
+        page.setSource(view.settings.pageFile, {"settings": view.settings});
     }
 
     function chooseApplication(button: Item) {
-        view.settings.appRules.loadApplications();
-        dialog.setSource("ChooseApplicationDialog.qml", {"rules": view.settings.appRules, "opener": button});
+        view.settings.apps.loadApplications();
+        dialog.setSource("ChooseApplicationDialog.qml", {"rules": view.settings.apps, "opener": button});
     }
 
     implicitWidth: 920
@@ -27,7 +25,7 @@ FocusScope {
     Connections {
         target: view.settings
 
-        function onSelectedTabChanged() {
+        function onSelectedPageChanged() {
             view.showPage();
         }
     }
@@ -63,7 +61,7 @@ FocusScope {
                 Text {
                     objectName: "header"
                     width: parent.width
-                    text: view.settings.tabLabel
+                    text: view.settings.pageTitle
                     color: SettingsTheme.ink
                     font.pixelSize: 24
                     font.weight: Font.ExtraBold
@@ -73,7 +71,7 @@ FocusScope {
                 }
                 Text {
                     width: parent.width
-                    text: view.settings.tabSubtitle
+                    text: view.settings.pageSubtitle
                     color: SettingsTheme.quiet
                     font.pixelSize: 14
                     font.weight: Font.Medium
@@ -94,7 +92,7 @@ FocusScope {
                     id: badgeLabel
 
                     anchors.centerIn: parent
-                    text: view.settings.tabBadge
+                    text: view.settings.pageBadge
                     color: SettingsTheme.accentInk
                     font.pixelSize: 13
                     font.weight: Font.Bold
@@ -124,7 +122,7 @@ FocusScope {
         }
     }
     Connections {
-        target: page.item as AppRulesTab
+        target: page.item as AppsPage
 
         function onChoiceWanted(button: Item) {
             view.chooseApplication(button);

@@ -10,7 +10,7 @@ RoundedBox {
     required property string title
     required property url icon
     required property string value
-    required property AppRulesSettings rules
+    required property AppsSettings rules
 
     signal reached()
 

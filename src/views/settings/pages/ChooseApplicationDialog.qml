@@ -5,7 +5,7 @@ import Tovrel.Views
 FocusScope {
     id: dialog
 
-    required property AppRulesSettings rules
+    required property AppsSettings rules
     required property Item opener
 
     signal closed(opener: Item)

@@ -3,11 +3,11 @@ import Tovrel.Views
 
 // The page "General".
 SettingsPage {
-    id: tab
+    id: page
 
     required property SettingsViewAdapter settings
 
-    readonly property GeneralSettings general: tab.settings.general
+    readonly property GeneralSettings general: page.settings.general
 
     SettingsCard {
         width: parent.width
@@ -21,15 +21,15 @@ SettingsPage {
 
             StatusPill {
                 objectName: "access"
-                symbol: tab.general.isAccessibilityTrusted ? "checkmark.seal.fill" : "lock.shield"
-                text: tab.general.isAccessibilityTrusted ? qsTr("Ready") : qsTr("Needs Permission")
-                isGood: tab.general.isAccessibilityTrusted
+                symbol: page.general.isAccessibilityTrusted ? "checkmark.seal.fill" : "lock.shield"
+                text: page.general.isAccessibilityTrusted ? qsTr("Ready") : qsTr("Needs Permission")
+                isGood: page.general.isAccessibilityTrusted
             }
         }
         Item {
             width: parent.width
             height: Math.max(advice.height, open.height)
-            visible: !tab.general.isAccessibilityTrusted
+            visible: !page.general.isAccessibilityTrusted
 
             Text {
                 id: advice
@@ -60,7 +60,7 @@ SettingsPage {
                 height: 38
                 text: qsTr("Accessibility")
                 symbol: "arrow.up.forward.app"
-                onPressed: tab.general.openPrivacySettings()
+                onPressed: page.general.openPrivacySettings()
             }
         }
     }
@@ -76,13 +76,13 @@ SettingsPage {
             label: qsTr("Command Palette")
 
             RecorderField {
-                recorder: tab.general.recorder
+                recorder: page.general.recorder
                 name: qsTr("Command Palette")
             }
         }
         ShortcutProblem {
             width: parent.width
-            recorder: tab.general.recorder
+            recorder: page.general.recorder
         }
     }
     SettingsCard {
@@ -95,8 +95,8 @@ SettingsPage {
             objectName: "showCheckedStatus"
             width: parent.width
             title: qsTr("Show checked status of menu items")
-            isOn: tab.general.showCheckedStatus
-            onToggled: isOn => tab.general.showCheckedStatus = isOn
+            isOn: page.general.showCheckedStatus
+            onToggled: isOn => page.general.showCheckedStatus = isOn
         }
     }
     SettingsCard {
@@ -109,8 +109,8 @@ SettingsPage {
             objectName: "notifiesOfCommandFailures"
             width: parent.width
             title: qsTr("Notify when a custom command fails")
-            isOn: tab.general.notifiesOfCommandFailures
-            onToggled: isOn => tab.general.notifiesOfCommandFailures = isOn
+            isOn: page.general.notifiesOfCommandFailures
+            onToggled: isOn => page.general.notifiesOfCommandFailures = isOn
         }
     }
 }

@@ -3,11 +3,11 @@ import Tovrel.Views
 
 // The page "Apps".
 SettingsPage {
-    id: tab
+    id: page
 
     required property SettingsViewAdapter settings
 
-    readonly property AppRulesSettings rules: tab.settings.appRules
+    readonly property AppsSettings rules: page.settings.apps
 
     // An application is to be chosen; the button is where the keyboard focus comes back to.
     signal choiceWanted(button: Item)
@@ -24,10 +24,10 @@ SettingsPage {
             IslandSegmentedPicker {
                 objectName: "defaultBehavior"
                 name: qsTr("Default Behavior")
-                labels: tab.rules.behaviorLabels
-                selection: tab.rules.defaultBehavior
+                labels: page.rules.behaviorLabels
+                selection: page.rules.defaultBehavior
                 maximumWidth: 396
-                onChosen: index => tab.rules.setDefaultBehavior(index)
+                onChosen: index => page.rules.setDefaultBehavior(index)
             }
         }
     }
@@ -40,17 +40,17 @@ SettingsPage {
         Item {
             width: parent.width
             height: 44
-            visible: tab.rules.hasCurrentApplication
+            visible: page.rules.hasCurrentApplication
 
             Accessible.role: Accessible.StaticText
-            Accessible.name: tab.rules.currentName
-            Accessible.description: tab.rules.currentBundleID
+            Accessible.name: page.rules.currentName
+            Accessible.description: page.rules.currentBundleID
 
             AppIcon {
                 id: currentIcon
 
                 anchors.verticalCenter: parent.verticalCenter
-                source: tab.rules.currentIcon
+                source: page.rules.currentIcon
                 size: 36
             }
             Column {
@@ -62,7 +62,7 @@ SettingsPage {
                 Text {
                     objectName: "currentName"
                     width: parent.width
-                    text: tab.rules.currentName
+                    text: page.rules.currentName
                     color: SettingsTheme.ink
                     font.pixelSize: 15
                     font.weight: Font.Bold
@@ -71,7 +71,7 @@ SettingsPage {
                 }
                 Text {
                     width: parent.width
-                    text: tab.rules.currentBundleID
+                    text: page.rules.currentBundleID
                     color: SettingsTheme.quiet
                     font.pixelSize: 12
                     font.weight: Font.Medium
@@ -82,21 +82,21 @@ SettingsPage {
         }
         BehaviorHint {
             width: parent.width
-            visible: tab.rules.hasCurrentApplication
+            visible: page.rules.hasCurrentApplication
 
             IslandSegmentedPicker {
                 objectName: "currentBehavior"
                 name: qsTr("Current Application")
-                labels: tab.rules.behaviorLabels
-                selection: tab.rules.currentBehavior
+                labels: page.rules.behaviorLabels
+                selection: page.rules.currentBehavior
                 maximumWidth: 396
-                onChosen: index => tab.rules.setCurrentBehavior(index)
+                onChosen: index => page.rules.setCurrentBehavior(index)
             }
         }
         SettingsEmptyState {
             objectName: "noCurrentApplication"
             width: parent.width
-            visible: !tab.rules.hasCurrentApplication
+            visible: !page.rules.hasCurrentApplication
             symbol: "macwindow"
             text: qsTr("No frontmost app found")
         }
@@ -113,10 +113,10 @@ SettingsPage {
             IslandSegmentedPicker {
                 objectName: "newBehavior"
                 name: qsTr("Add App Rule")
-                labels: tab.rules.behaviorLabels
-                selection: tab.rules.newBehavior
+                labels: page.rules.behaviorLabels
+                selection: page.rules.newBehavior
                 maximumWidth: 396
-                onChosen: index => tab.rules.setNewBehavior(index)
+                onChosen: index => page.rules.setNewBehavior(index)
             }
         }
         IslandButton {
@@ -126,7 +126,7 @@ SettingsPage {
             role: "primary"
             text: qsTr("Choose Application")
             symbol: "plus"
-            onPressed: tab.choiceWanted(choose)
+            onPressed: page.choiceWanted(choose)
         }
     }
     SettingsCard {
@@ -138,13 +138,13 @@ SettingsPage {
         SettingsEmptyState {
             objectName: "noRules"
             width: parent.width
-            visible: tab.rules.rules.count === 0
+            visible: page.rules.rules.count === 0
             symbol: "tray"
             text: qsTr("No saved app rules")
         }
         Column {
             width: parent.width
-            visible: tab.rules.rules.count > 0
+            visible: page.rules.rules.count > 0
             spacing: 6
 
             AppRuleColumns {
@@ -156,14 +156,14 @@ SettingsPage {
                 objectName: "rules"
                 width: parent.width
                 name: qsTr("Saved App Rules")
-                model: tab.rules.rules
-                settings: tab.settings
+                model: page.rules.rules
+                settings: page.settings
 
                 delegate: AppRuleRow {
                     readonly property SettingsList list: ListView.view as SettingsList
 
                     width: list ? list.rowWidth : 0
-                    rules: list ? list.settings.appRules : null
+                    rules: list ? list.settings.apps : null
                     onReached: list.show(index)
                 }
             }
