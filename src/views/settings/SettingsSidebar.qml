@@ -7,10 +7,10 @@ RoundedBox {
 
     required property SettingsViewAdapter settings
 
-    radius: 22
-    from: "#a6ffffff"
+    radius: Theme.radii.sidebar
+    from: Theme.colours.sidebar
     borderWidth: 1
-    borderColour: "#33806b4a"
+    borderColour: Theme.colours.sidebarBorder
 
     Image {
         id: appIcon
@@ -35,27 +35,25 @@ RoundedBox {
         Text {
             width: parent.width
             text: "Tovrel"
-            color: SettingsTheme.ink
-            font.pixelSize: 19
-            font.weight: Font.ExtraBold
+            color: Theme.colours.ink
+            font: Theme.fonts.programName
             elide: Text.ElideRight
         }
         Text {
             width: parent.width
             text: qsTr("Settings")
-            color: SettingsTheme.quiet
-            font.pixelSize: 13
-            font.weight: Font.Medium
+            color: Theme.colours.quiet
+            font: Theme.fonts.smallBody
             elide: Text.ElideRight
         }
     }
     SidebarEntries {
         id: list
 
-        x: 12
+        x: Theme.settings.sidebarInset
         y: 86
-        width: parent.width - 24
-        spacing: 6
+        width: parent.width - 2 * Theme.settings.sidebarInset
+        spacing: Theme.settings.rowSpacing
         settings: sidebar.settings
         onMoved: index => {
             const button = entries.itemAt(index);
@@ -87,10 +85,10 @@ RoundedBox {
     }
     IslandButton {
         objectName: "refresh"
-        x: 12
+        x: Theme.settings.sidebarInset
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 12
-        width: parent.width - 24
+        anchors.bottomMargin: Theme.settings.sidebarInset
+        width: parent.width - 2 * Theme.settings.sidebarInset
         text: qsTr("Refresh")
         symbol: "arrow.clockwise"
         onPressed: sidebar.settings.refresh()

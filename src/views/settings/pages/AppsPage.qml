@@ -26,7 +26,7 @@ SettingsPage {
                 name: qsTr("Default Behavior")
                 labels: page.rules.behaviorLabels
                 selection: page.rules.defaultBehavior
-                maximumWidth: 396
+                maximumWidth: Theme.settings.segmentsWidth
                 onChosen: index => page.rules.setDefaultBehavior(index)
             }
         }
@@ -51,11 +51,11 @@ SettingsPage {
 
                 anchors.verticalCenter: parent.verticalCenter
                 source: page.rules.currentIcon
-                size: 36
+                size: Theme.settings.icon
             }
             Column {
                 anchors.left: currentIcon.right
-                anchors.leftMargin: SettingsTheme.gap
+                anchors.leftMargin: Theme.settings.gap
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
 
@@ -63,18 +63,16 @@ SettingsPage {
                     objectName: "currentName"
                     width: parent.width
                     text: page.rules.currentName
-                    color: SettingsTheme.ink
-                    font.pixelSize: 15
-                    font.weight: Font.Bold
+                    color: Theme.colours.ink
+                    font: Theme.fonts.applicationName
                     elide: Text.ElideRight
                     textFormat: Text.PlainText
                 }
                 Text {
                     width: parent.width
                     text: page.rules.currentBundleID
-                    color: SettingsTheme.quiet
-                    font.pixelSize: 12
-                    font.weight: Font.Medium
+                    color: Theme.colours.quiet
+                    font: Theme.fonts.detail
                     elide: Text.ElideMiddle
                     textFormat: Text.PlainText
                 }
@@ -89,7 +87,7 @@ SettingsPage {
                 name: qsTr("Current Application")
                 labels: page.rules.behaviorLabels
                 selection: page.rules.currentBehavior
-                maximumWidth: 396
+                maximumWidth: Theme.settings.segmentsWidth
                 onChosen: index => page.rules.setCurrentBehavior(index)
             }
         }
@@ -115,7 +113,7 @@ SettingsPage {
                 name: qsTr("Add App Rule")
                 labels: page.rules.behaviorLabels
                 selection: page.rules.newBehavior
-                maximumWidth: 396
+                maximumWidth: Theme.settings.segmentsWidth
                 onChosen: index => page.rules.setNewBehavior(index)
             }
         }
@@ -123,7 +121,7 @@ SettingsPage {
             id: choose
 
             objectName: "chooseApplication"
-            role: "primary"
+            look: Theme.buttons.primary
             text: qsTr("Choose Application")
             symbol: "plus"
             onPressed: page.choiceWanted(choose)
@@ -145,7 +143,7 @@ SettingsPage {
         Column {
             width: parent.width
             visible: page.rules.rules.count > 0
-            spacing: 6
+            spacing: Theme.settings.rowSpacing
 
             AppRuleColumns {
                 width: list.rowWidth

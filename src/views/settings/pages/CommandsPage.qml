@@ -64,13 +64,13 @@ SettingsPage {
             onToggled: isOn => page.commands.isEnabled = isOn
         }
         Row {
-            spacing: SettingsTheme.gap
+            spacing: Theme.settings.gap
 
             IslandButton {
                 id: save
 
                 objectName: "save"
-                role: "primary"
+                look: Theme.buttons.primary
                 text: page.commands.isEditing ? qsTr("Save Changes") : qsTr("Add Command")
                 symbol: page.commands.isEditing ? "checkmark" : "plus"
                 onPressed: page.commands.save()
@@ -131,7 +131,7 @@ SettingsPage {
                 }
                 IslandIconButton {
                     objectName: "remove"
-                    role: "danger"
+                    look: Theme.buttons.dangerIcon
                     symbol: "trash"
                     text: qsTr("Delete %1").arg(row.title)
                     onPressed: row.list.settings.commands.remove(row.rowID)

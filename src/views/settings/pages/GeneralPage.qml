@@ -37,12 +37,11 @@ SettingsPage {
                 anchors.left: parent.left
                 anchors.leftMargin: 2
                 anchors.right: open.left
-                anchors.rightMargin: SettingsTheme.inner
+                anchors.rightMargin: Theme.settings.inner
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Turn on Tovrel in System Settings > Privacy & Security > Accessibility, then return and refresh.")
-                color: SettingsTheme.quiet
-                font.pixelSize: 13
-                font.weight: Font.Medium
+                color: Theme.colours.quiet
+                font: Theme.fonts.smallBody
                 lineHeight: 1.1
                 wrapMode: Text.Wrap
                 textFormat: Text.PlainText
@@ -54,10 +53,10 @@ SettingsPage {
 
                 objectName: "openPrivacySettings"
                 anchors.right: parent.right
-                anchors.rightMargin: 10
+                anchors.rightMargin: Theme.settings.rowEnd
                 anchors.verticalCenter: parent.verticalCenter
-                width: 38
-                height: 38
+                width: Theme.settings.controlHeight
+                height: Theme.settings.controlHeight
                 text: qsTr("Accessibility")
                 symbol: "arrow.up.forward.app"
                 onPressed: page.general.openPrivacySettings()

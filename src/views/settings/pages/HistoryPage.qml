@@ -31,7 +31,7 @@ SettingsPage {
 
             IslandPicker {
                 objectName: "menuCommand"
-                width: 250
+                width: Theme.settings.pickerWidth
                 name: qsTr("Menu Command")
                 placeholder: qsTr("Menu Command")
                 choices: page.history.menuCommands
@@ -60,7 +60,7 @@ SettingsPage {
         IslandButton {
             objectName: "save"
             visible: page.hasMenuCommands
-            role: "primary"
+            look: Theme.buttons.primary
             text: qsTr("Save Search Rule")
             symbol: "checkmark"
             onPressed: page.history.save()
@@ -107,8 +107,8 @@ SettingsPage {
                 FocusRing {
                     parent: row
                     control: row
-                    controlRadius: 11
                     anchors.margins: 1
+                    controlRadius: row.radius - distance
                 }
             }
         }
@@ -121,7 +121,7 @@ SettingsPage {
 
         IslandButton {
             objectName: "clear"
-            role: "danger"
+            look: Theme.buttons.danger
             text: qsTr("Clear History Records")
             symbol: "trash"
             onPressed: page.history.clear()

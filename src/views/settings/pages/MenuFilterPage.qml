@@ -30,7 +30,7 @@ SettingsPage {
 
             IslandPicker {
                 objectName: "candidate"
-                width: 250
+                width: Theme.settings.pickerWidth
                 name: qsTr("Menu Item")
                 placeholder: qsTr("Menu Item")
                 choices: page.filter.candidates
@@ -48,7 +48,7 @@ SettingsPage {
 
             IslandPicker {
                 objectName: "mode"
-                width: 250
+                width: Theme.settings.pickerWidth
                 name: qsTr("Hide")
                 choices: page.filter.modes
                 selectedID: page.filter.modeID
@@ -59,7 +59,7 @@ SettingsPage {
         IslandButton {
             objectName: "hideSelected"
             visible: page.filter.candidates.count > 0
-            role: "primary"
+            look: Theme.buttons.primary
             text: qsTr("Hide Selected Item")
             symbol: "plus"
             onPressed: page.filter.hideSelected()
@@ -95,7 +95,7 @@ SettingsPage {
 
                 IslandIconButton {
                     objectName: "remove"
-                    role: "danger"
+                    look: Theme.buttons.dangerIcon
                     symbol: "trash"
                     text: qsTr("Remove %1").arg(row.title)
                     onPressed: row.list.settings.menuFilter.removeRule(row.rowID)
