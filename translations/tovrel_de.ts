@@ -83,7 +83,7 @@
     </message>
 </context>
 <context>
-    <name>AppRulesTab</name>
+    <name>AppsPage</name>
     <message>
         <source>Default Behavior</source>
         <translation>Standardverhalten</translation>
@@ -183,7 +183,7 @@
     </message>
 </context>
 <context>
-    <name>CommandsTab</name>
+    <name>CommandsPage</name>
     <message>
         <source>Edit Command</source>
         <translation>Befehl bearbeiten</translation>
@@ -280,7 +280,7 @@
     </message>
 </context>
 <context>
-    <name>GeneralTab</name>
+    <name>GeneralPage</name>
     <message>
         <source>Access</source>
         <translation>Zugriff</translation>
@@ -343,7 +343,7 @@
     </message>
 </context>
 <context>
-    <name>HistoryTab</name>
+    <name>HistoryPage</name>
     <message>
         <source>Menu Search</source>
         <translation>Menüsuche</translation>
@@ -469,7 +469,7 @@
     </message>
 </context>
 <context>
-    <name>MenuFilterTab</name>
+    <name>MenuFilterPage</name>
     <message>
         <source>Hide Menu Item</source>
         <translation>Menüpunkt ausblenden</translation>
@@ -552,62 +552,6 @@
 </context>
 <context>
     <name>SettingsLabels</name>
-    <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>Palette shortcuts and display</source>
-        <translation>Kürzel und Darstellung der Palette</translation>
-    </message>
-    <message>
-        <source>Palette</source>
-        <translation>Palette</translation>
-    </message>
-    <message>
-        <source>Apps</source>
-        <translation>Apps</translation>
-    </message>
-    <message>
-        <source>Per-app behavior rules</source>
-        <translation>Regeln für einzelne Apps</translation>
-    </message>
-    <message>
-        <source>Rules</source>
-        <translation>Regeln</translation>
-    </message>
-    <message>
-        <source>Menu Filter</source>
-        <translation>Menüfilter</translation>
-    </message>
-    <message>
-        <source>Hide noisy menu commands</source>
-        <translation>Störende Menübefehle ausblenden</translation>
-    </message>
-    <message>
-        <source>Clean Up</source>
-        <translation>Aufräumen</translation>
-    </message>
-    <message>
-        <source>Commands</source>
-        <translation>Befehle</translation>
-    </message>
-    <message>
-        <source>Local custom actions</source>
-        <translation>Eigene Aktionen auf diesem Rechner</translation>
-    </message>
-    <message>
-        <source>Local</source>
-        <translation>Lokal</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Verlauf</translation>
-    </message>
-    <message>
-        <source>Usage and ranking</source>
-        <translation>Nutzung und Rangfolge</translation>
-    </message>
     <message>
         <source>Shell</source>
         <translation>Shell</translation>
@@ -694,6 +638,65 @@
     </message>
 </context>
 <context>
+    <name>SettingsPages</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Palette shortcuts and display</source>
+        <translation>Kürzel und Darstellung der Palette</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Per-app behavior rules</source>
+        <translation>Regeln für einzelne Apps</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>Menu Filter</source>
+        <translation>Menüfilter</translation>
+    </message>
+    <message>
+        <source>Hide noisy menu commands</source>
+        <translation>Störende Menübefehle ausblenden</translation>
+    </message>
+    <message>
+        <source>Clean Up</source>
+        <translation>Aufräumen</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Local custom actions</source>
+        <translation>Eigene Aktionen auf diesem Rechner</translation>
+    </message>
+    <message>
+        <source>Local</source>
+        <translation>Lokal</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Usage and ranking</source>
+        <translation>Nutzung und Rangfolge</translation>
+    </message>
+</context>
+<context>
     <name>SettingsSidebar</name>
     <message>
         <source>Settings</source>
@@ -741,7 +744,7 @@
     </message>
 </context>
 <context>
-    <name>tovrel::CustomCommandsSettings</name>
+    <name>tovrel::CommandsSettings</name>
     <message>
         <source>Only show in %1</source>
         <translation>Nur in %1 zeigen</translation>

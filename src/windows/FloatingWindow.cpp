@@ -10,13 +10,10 @@
 namespace tovrel {
 namespace {
 
-/// Of the corners, as the views draw them.
-constexpr qreal cornerRadius = 24;
-
-QRegion roundedRegion(QSize size) {
+QRegion roundedRegion(QSize size, qreal cornerRadius) {
     QPainterPath path;
-    // A little rounder than the view would lose parts of its border, which is smoothed over two pixels.
-    constexpr qreal radius = cornerRadius - 1.5;
+    // As round as the view it would lose parts of its border, which is smoothed over two pixels.
+    const qreal radius = cornerRadius - 1.5;
     path.addRoundedRect(QRectF(QPointF(0, 0), QSizeF(size)), radius, radius);
     return QRegion(path.toFillPolygon().toPolygon());
 }
@@ -66,10 +63,12 @@ void FloatingWindow::beginMove() {
 
 void FloatingWindow::shape() {
     const bool isComposited = windowSystem_.isComposited();
+    const QQuickItem& root = *view_.rootObject();
     // Without a compositor what is transparent is black, so the corners are cut off, along an edge that has
     // the colour of the border.
-    view_.setColor(isComposited ? QColor(Qt::transparent) : QColor(0xc3, 0xd2, 0xc4));
-    view_.setMask(isComposited ? QRegion() : roundedRegion(view_.size()));
+    view_.setColor(isComposited ? QColor(Qt::transparent) : root.property("edge").value<QColor>());
+    view_.setMask(isComposited ? QRegion()
+                               : roundedRegion(view_.size(), root.property("cornerRadius").toReal()));
 }
 
 } // namespace tovrel

@@ -16,7 +16,9 @@ class FloatingWindow : public QObject {
 
   public:
     struct Description {
-        QString view; ///< Name of a view of the module Tovrel.Views, with a signal "moveWanted".
+        /// Name of a view of the module Tovrel.Views: with a signal "moveWanted", the radius of its corners
+        /// as "cornerRadius" and the colour of its edge as "edge". The window is as large as it wants to be.
+        QString view;
         QVariantMap properties;
         QString title;
         Qt::WindowType type = Qt::Tool;

@@ -14,17 +14,15 @@
 namespace tovrel {
 namespace {
 
-constexpr QSize contentSize(920, 620);
-
 /// What window managers draw around a window, at most; what this one draws is known only once the window is
 /// shown.
 constexpr QMargins roomForFrame(8, 40, 8, 8);
 
 /// The content within the frame at the middle of what is visible of the screen, smaller where there is less
-/// room.
-QRect contentRect(const QRect& visible) {
+/// room than it wants.
+QRect contentRect(QSize wanted, const QRect& visible) {
     const QRect room = visible.marginsRemoved(roomForFrame);
-    QRect content(QPoint(), contentSize.boundedTo(room.size()));
+    QRect content(QPoint(), wanted.boundedTo(room.size()));
     content.moveCenter(visible.center());
     content.moveTop(std::clamp(content.top(), room.top(), room.top() + room.height() - content.height()));
     content.moveLeft(std::clamp(content.left(), room.left(), room.left() + room.width() - content.width()));
@@ -95,8 +93,10 @@ void QtSettingsWindow::showAndMakeKey() {
 
 void QtSettingsWindow::place() {
     const QScreen* screen = mainScreen(surroundings_.windowSystem);
+    const QQuickItem& root = *view_.rootObject();
+    const QSize wanted = QSizeF(root.implicitWidth(), root.implicitHeight()).toSize();
     const QRect content =
-        screen != nullptr ? contentRect(screen->availableGeometry()) : QRect(QPoint(), contentSize);
+        screen != nullptr ? contentRect(wanted, screen->availableGeometry()) : QRect(QPoint(), wanted);
     if (position_ && view_.size() == content.size()) {
         view_.setFramePosition(*position_);
         return;

@@ -12,12 +12,10 @@
 
 #include "qt/QtText.h"
 #include "views/shared/SymbolImages.h"
+#include "views/theme/NativeTheme.h"
 
 namespace tovrel {
 namespace {
-
-/// No desktop tells the colour of its bar. This one stands out on light and on dark ones.
-constexpr QColor barColour(0x12, 0xa9, 0x9b);
 
 QIcon symbolIcon(const Text& name, const QColor& colour) {
     QIcon icon;
@@ -80,7 +78,7 @@ bool QtStatusItem::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void QtStatusItem::show() {
-    icon_ = std::make_unique<QSystemTrayIcon>(symbolIcon(description_.imageName, barColour));
+    icon_ = std::make_unique<QSystemTrayIcon>(symbolIcon(description_.imageName, native_theme::statusItem));
     icon_->setToolTip(qtString(description_.toolTip));
     icon_->setContextMenu(&menu_);
     // A click opens the menu, as a click into any bar of menus does.

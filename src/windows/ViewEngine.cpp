@@ -6,11 +6,11 @@
 #include <QIcon>
 #include <QOpenGLContext>
 #include <QQuickWindow>
-#include <array>
 #include <memory>
 
 #include "views/shared/AppIconImages.h"
 #include "views/shared/SymbolImages.h"
+#include "views/theme/NativeTheme.h"
 
 // Registers the types of the module that the views are; generated, and otherwise left out by the linker.
 void qml_register_types_Tovrel_Views(); // NOLINT(readability-identifier-naming)
@@ -18,11 +18,8 @@ void qml_register_types_Tovrel_Views(); // NOLINT(readability-identifier-naming)
 namespace tovrel {
 namespace {
 
-/// The first of these that is installed, rounder ones first; without any, the desktop's own font.
-constexpr std::array fontFamilies{"Inter", "Cantarell", "Noto Sans"};
-
 void useRoundFont() {
-    for (const char* family : fontFamilies) {
+    for (const char* family : native_theme::fontFamilies) {
         if (QFontDatabase::hasFamily(QLatin1String(family))) {
             QFont font = QGuiApplication::font();
             font.setFamily(QLatin1String(family));

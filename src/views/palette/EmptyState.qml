@@ -1,4 +1,5 @@
 import QtQuick
+import Tovrel.Views
 
 // What stands in the place of the results when there are none.
 Column {
@@ -19,13 +20,13 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         width: 64
         height: 64
-        radius: 24
-        color: "#e6f9f6"
+        radius: Theme.radii.badge64
+        color: Theme.colours.paletteAccentTint
 
         Symbol {
             anchors.centerIn: parent
             name: "leaf.fill"
-            colour: "#19c8b9"
+            colour: Theme.colours.accent
             size: 34
         }
     }
@@ -36,17 +37,15 @@ Column {
     Text {
         anchors.horizontalCenter: parent.horizontalCenter
         text: empty.headline
-        color: "#40382c"
-        font.pixelSize: 18
-        font.weight: Font.ExtraBold
+        color: Theme.colours.ink
+        font: Theme.fonts.heading
         Accessible.ignored: true
     }
     Text {
         anchors.horizontalCenter: parent.horizontalCenter
         text: empty.line
-        color: "#8a7b66"
-        font.pixelSize: 13
-        font.weight: Font.Medium
+        color: Theme.colours.paletteQuiet
+        font: Theme.fonts.smallBody
         Accessible.ignored: true
     }
 }

@@ -21,7 +21,7 @@ Item {
 
     signal clicked()
 
-    height: 52
+    height: Theme.palette.rowHeight
 
     // The list keeps rows that it does not show, for use by and by.
     Accessible.ignored: row.index < 0
@@ -36,23 +36,23 @@ Item {
     Rectangle {
         anchors.fill: parent
         visible: !row.isSelected
-        radius: 16
-        color: hover.hovered ? Qt.rgba(1, 1, 250 / 255, 0.98) : Qt.rgba(1, 253 / 255, 242 / 255, 0.82)
+        radius: Theme.radii.paletteRow
+        color: hover.hovered ? Theme.colours.paletteRowHovered : Theme.colours.paletteRow
     }
     Rectangle {
         id: badge
 
         anchors.verticalCenter: parent.verticalCenter
         x: 12
-        width: 32
-        height: 32
-        radius: 12
-        color: row.isSelected ? Qt.rgba(1, 1, 1, 0.2) : row.tint
+        width: Theme.palette.badge
+        height: Theme.palette.badge
+        radius: Theme.radii.badge32
+        color: row.isSelected ? Theme.colours.badgeOnAccent : row.tint
 
         Symbol {
             anchors.centerIn: parent
             name: row.symbol
-            colour: row.isSelected ? "white" : row.accent
+            colour: row.isSelected ? Theme.colours.textOnAccent : row.accent
             size: 20
         }
     }
@@ -74,9 +74,8 @@ Item {
             height: 20
             verticalAlignment: Text.AlignVCenter
             text: row.title
-            color: row.isSelected ? "white" : "#40382c"
-            font.pixelSize: 16
-            font.weight: Font.ExtraBold
+            color: row.isSelected ? Theme.colours.textOnAccent : Theme.colours.ink
+            font: Theme.fonts.title
             elide: Text.ElideRight
             textFormat: Text.PlainText
         }
@@ -89,7 +88,7 @@ Item {
             anchors.leftMargin: 6
             anchors.verticalCenter: titleLabel.verticalCenter
             name: "checkmark"
-            colour: row.isSelected ? "white" : "#19c8b9"
+            colour: row.isSelected ? Theme.colours.textOnAccent : Theme.colours.accent
             size: 14
         }
         Text {
@@ -101,9 +100,8 @@ Item {
             height: 16
             verticalAlignment: Text.AlignVCenter
             text: row.subtitle
-            color: row.isSelected ? Qt.rgba(1, 1, 1, 0.78) : "#8a7b66"
-            font.pixelSize: 12
-            font.weight: Font.Medium
+            color: row.isSelected ? Theme.colours.quietTextOnAccent : Theme.colours.paletteQuiet
+            font: Theme.fonts.detail
             elide: Text.ElideMiddle
             textFormat: Text.PlainText
         }
@@ -117,7 +115,9 @@ Item {
         anchors.rightMargin: 14
         visible: row.keycaps.length > 0
         texts: row.keycaps
-        isSelected: row.isSelected
+        font: Theme.fonts.keycap
+        ink: row.isSelected ? Theme.colours.textOnAccent : Theme.colours.keycapInk
+        borderColour: row.isSelected ? Theme.colours.keycapBorderSelected : Theme.colours.keycapBorder
     }
 
     HoverHandler {

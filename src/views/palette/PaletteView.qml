@@ -7,10 +7,14 @@ FocusScope {
 
     required property PaletteViewAdapter palette
 
+    // What the window is cut out by, and drawn along, where it cannot be transparent.
+    readonly property real cornerRadius: backdrop.cornerRadius
+    readonly property color edge: backdrop.edge
+
     signal moveWanted()
 
-    implicitWidth: 680
-    implicitHeight: 460
+    implicitWidth: Theme.palette.width
+    implicitHeight: Theme.palette.height
     focus: true
 
     SpokenRow {
@@ -38,6 +42,8 @@ FocusScope {
     }
 
     PaletteBackground {
+        id: backdrop
+
         anchors.fill: parent
     }
     WindowDragArea {
@@ -49,19 +55,19 @@ FocusScope {
         id: header
 
         anchors.left: parent.left
-        anchors.leftMargin: 22
+        anchors.leftMargin: Theme.palette.headerInset
         anchors.right: parent.right
-        anchors.rightMargin: 22
+        anchors.rightMargin: Theme.palette.headerInset
         anchors.top: parent.top
         anchors.topMargin: 18
-        height: 48
+        height: Theme.palette.fieldHeight
 
         Item {
             id: icon
 
             anchors.verticalCenter: parent.verticalCenter
-            width: 36
-            height: 36
+            width: Theme.palette.applicationIcon
+            height: Theme.palette.applicationIcon
 
             Image {
                 id: appIcon
@@ -69,8 +75,8 @@ FocusScope {
                 anchors.fill: parent
                 visible: appIcon.status === Image.Ready
                 source: view.palette.appIconSource
-                sourceSize.width: 36
-                sourceSize.height: 36
+                sourceSize.width: Theme.palette.applicationIcon
+                sourceSize.height: Theme.palette.applicationIcon
                 fillMode: Image.PreserveAspectFit
                 Accessible.ignored: true
             }
@@ -78,7 +84,7 @@ FocusScope {
                 anchors.centerIn: parent
                 visible: !appIcon.visible
                 name: "magnifyingglass"
-                colour: "#19c8b9"
+                colour: Theme.colours.accent
                 size: 28
             }
         }
@@ -90,10 +96,10 @@ FocusScope {
             anchors.leftMargin: 14
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            query: view.palette.query
+            text: view.palette.query
             appName: view.palette.appName
             onEdited: text => view.palette.query = text
-            onSubmitted: view.palette.executeSelection()
+            onAccepted: view.palette.executeSelection()
             onDismissed: view.palette.dismiss()
             onMoved: delta => view.palette.moveSelection(delta)
         }
@@ -104,9 +110,9 @@ FocusScope {
 
         objectName: "results"
         anchors.left: parent.left
-        anchors.leftMargin: 12
+        anchors.leftMargin: Theme.palette.listInset
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.palette.listInset
         anchors.top: header.bottom
         anchors.topMargin: 20
         anchors.bottom: parent.bottom
@@ -136,8 +142,8 @@ FocusScope {
         height: list.fadeAbove
         visible: list.visible && !list.atYBeginning
         gradient: Gradient {
-            GradientStop { position: 0; color: "#ffe2f6ed" }
-            GradientStop { position: 1; color: "#00e2f6ed" }
+            GradientStop { position: 0; color: Theme.colours.paletteFadeAbove }
+            GradientStop { position: 1; color: Qt.alpha(Theme.colours.paletteFadeAbove, 0) }
         }
     }
     Rectangle {
@@ -147,8 +153,8 @@ FocusScope {
         height: list.fadeBelow
         visible: list.visible && !list.atYEnd
         gradient: Gradient {
-            GradientStop { position: 0; color: "#00fff1d3" }
-            GradientStop { position: 1; color: "#fffff1d3" }
+            GradientStop { position: 0; color: Qt.alpha(Theme.colours.paletteFadeBelow, 0) }
+            GradientStop { position: 1; color: Theme.colours.paletteFadeBelow }
         }
     }
 

@@ -32,7 +32,7 @@ ListView {
             list.contentY = Math.min(last, bottom + list.fadeBelow - list.height);
     }
 
-    spacing: 4
+    spacing: Theme.palette.rowSpacing
     clip: true
     reuseItems: true
     // Rows beyond the edge would be made by and by, and Qt complains when there are fewer results before that.
@@ -59,9 +59,9 @@ ListView {
         y: row ? row.y : 0
         width: list.width
         height: row ? row.height : 0
-        from: "#19c8b9"
-        to: "#3dd4c6"
+        from: Theme.colours.accent
+        to: Theme.colours.accentLight
         isDiagonal: true
-        radius: 16
+        radius: Theme.radii.paletteRow
     }
 }

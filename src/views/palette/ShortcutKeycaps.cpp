@@ -1,8 +1,6 @@
 #include "views/palette/ShortcutKeycaps.h"
 
-#include <QFont>
 #include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QTextBoundaryFinder>
 #include <algorithm>
@@ -19,16 +17,6 @@ constexpr int minimumWidth = 23;
 constexpr int longTextInset = 6;
 constexpr int gap = 4;
 constexpr qreal strokeWidth = 1.5;
-constexpr qreal strokeOpacity = 0.26;
-constexpr qreal selectedStrokeOpacity = 0.42;
-constexpr QColor ink(0x6f, 0x62, 0x50);
-
-QFont keycapFont() {
-    QFont font = QGuiApplication::font();
-    font.setPixelSize(12);
-    font.setWeight(QFont::ExtraBold);
-    return font;
-}
 
 bool hasSeveralCharacters(const QString& text) {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
@@ -40,6 +28,7 @@ bool hasSeveralCharacters(const QString& text) {
 ShortcutKeycaps::ShortcutKeycaps(QQuickItem* parent) : QQuickPaintedItem(parent) {
     setAntialiasing(true);
     setImplicitHeight(itemHeight);
+    connect(this, &ShortcutKeycaps::coloursChanged, this, [this] { update(); });
 }
 
 void ShortcutKeycaps::setTexts(const QStringList& texts) {
@@ -51,20 +40,18 @@ void ShortcutKeycaps::setTexts(const QStringList& texts) {
     }
 }
 
-void ShortcutKeycaps::setSelected(bool isSelected) {
-    if (isSelected != isSelected_) {
-        isSelected_ = isSelected;
+void ShortcutKeycaps::setFont(const QFont& font) {
+    if (font != font_) {
+        font_ = font;
+        measure();
         update();
-        Q_EMIT isSelectedChanged();
+        Q_EMIT fontChanged();
     }
 }
 
 void ShortcutKeycaps::paint(QPainter* painter) {
-    const QFontMetricsF metrics(keycapFont());
-    QColor colour = isSelected_ ? QColor(Qt::white) : ink;
-    QColor stroke = colour;
-    stroke.setAlphaF(static_cast<float>(isSelected_ ? selectedStrokeOpacity : strokeOpacity));
-    painter->setFont(keycapFont());
+    const QFontMetricsF metrics(font_);
+    painter->setFont(font_);
     // Capital letters in the middle, whatever room the font keeps above and below them.
     const qreal scale = painter->device()->devicePixelRatio();
     const qreal baseline = std::round((capHeight + metrics.capHeight()) / 2 * scale) / scale;
@@ -73,9 +60,9 @@ void ShortcutKeycaps::paint(QPainter* painter) {
         const qreal width = widths_[static_cast<std::size_t>(i)];
         const QRectF outline(left + strokeWidth / 2, strokeWidth / 2, width - strokeWidth,
                              capHeight - strokeWidth);
-        painter->setPen(QPen(stroke, strokeWidth));
+        painter->setPen(QPen(borderColour_, strokeWidth));
         painter->drawRoundedRect(outline, outline.height() / 2, outline.height() / 2);
-        painter->setPen(colour);
+        painter->setPen(ink_);
         painter->drawText(QPointF(left + (width - metrics.horizontalAdvance(texts_[i])) / 2, baseline),
                           texts_[i]);
         left += width + gap;
@@ -83,7 +70,7 @@ void ShortcutKeycaps::paint(QPainter* painter) {
 }
 
 void ShortcutKeycaps::measure() {
-    const QFontMetricsF metrics(keycapFont());
+    const QFontMetricsF metrics(font_);
     widths_.clear();
     int total = 0;
     for (const QString& text : std::as_const(texts_)) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QQmlEngine>
 #include <QQuickPaintedItem>
 #include <QStringList>
@@ -14,27 +15,32 @@ class ShortcutKeycaps : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QList<QString> texts READ texts WRITE setTexts NOTIFY textsChanged FINAL)
-    Q_PROPERTY(bool isSelected READ isSelected WRITE setSelected NOTIFY isSelectedChanged FINAL)
+    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged FINAL)
+    Q_PROPERTY(QColor ink MEMBER ink_ NOTIFY coloursChanged FINAL)
+    Q_PROPERTY(QColor borderColour MEMBER borderColour_ NOTIFY coloursChanged FINAL)
 
   public:
     explicit ShortcutKeycaps(QQuickItem* parent = nullptr);
 
     [[nodiscard]] const QStringList& texts() const { return texts_; }
     void setTexts(const QStringList& texts);
-    [[nodiscard]] bool isSelected() const { return isSelected_; }
-    void setSelected(bool isSelected);
+    [[nodiscard]] const QFont& font() const { return font_; }
+    void setFont(const QFont& font);
 
     void paint(QPainter* painter) override;
 
   Q_SIGNALS:
     void textsChanged();
-    void isSelectedChanged();
+    void fontChanged();
+    void coloursChanged();
 
   private:
     void measure();
 
     QStringList texts_;
-    bool isSelected_ = false;
+    QFont font_;
+    QColor ink_;
+    QColor borderColour_;
     std::vector<int> widths_;
     int contentWidth_ = 0;
 };

@@ -6,9 +6,9 @@ Item {
     RoundedBox {
         anchors.fill: parent
         isDiagonal: true
-        from: "#dff6ef"
-        via: "#f4f6e6"
-        to: "#fff1d3"
+        from: Theme.colours.backdropStart
+        via: Theme.colours.settingsBackdropMiddle
+        to: Theme.colours.backdropEnd
     }
     Item {
         anchors.fill: parent
@@ -18,7 +18,7 @@ Item {
             x: parent.width - 220
             y: -48
             name: "leaf.fill"
-            colour: "#19c8b9"
+            colour: Theme.colours.accent
             size: 240
             opacity: 0.1
         }

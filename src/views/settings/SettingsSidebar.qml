@@ -7,10 +7,10 @@ RoundedBox {
 
     required property SettingsViewAdapter settings
 
-    radius: 22
-    from: "#a6ffffff"
+    radius: Theme.radii.sidebar
+    from: Theme.colours.sidebar
     borderWidth: 1
-    borderColour: "#33806b4a"
+    borderColour: Theme.colours.sidebarBorder
 
     Image {
         id: appIcon
@@ -35,32 +35,30 @@ RoundedBox {
         Text {
             width: parent.width
             text: "Tovrel"
-            color: SettingsTheme.ink
-            font.pixelSize: 19
-            font.weight: Font.ExtraBold
+            color: Theme.colours.ink
+            font: Theme.fonts.programName
             elide: Text.ElideRight
         }
         Text {
             width: parent.width
             text: qsTr("Settings")
-            color: SettingsTheme.quiet
-            font.pixelSize: 13
-            font.weight: Font.Medium
+            color: Theme.colours.quiet
+            font: Theme.fonts.smallBody
             elide: Text.ElideRight
         }
     }
     SidebarEntries {
         id: list
 
-        x: 12
+        x: Theme.settings.sidebarInset
         y: 86
-        width: parent.width - 24
-        spacing: 6
+        width: parent.width - 2 * Theme.settings.sidebarInset
+        spacing: Theme.settings.rowSpacing
         settings: sidebar.settings
         onMoved: index => {
-            const button = tabs.itemAt(index);
+            const button = entries.itemAt(index);
             if (button) {
-                sidebar.settings.selectTab(index);
+                sidebar.settings.selectPage(index);
                 button.forceActiveFocus(Qt.OtherFocusReason);
             }
         }
@@ -69,28 +67,28 @@ RoundedBox {
         Accessible.name: qsTr("Settings")
 
         Repeater {
-            id: tabs
+            id: entries
 
-            model: sidebar.settings.tabs
+            model: sidebar.settings.pages
 
             delegate: SettingsSidebarButton {
                 required property int index
-                readonly property SidebarEntries entries: parent as SidebarEntries
+                readonly property SidebarEntries column: parent as SidebarEntries
 
-                width: entries ? entries.width : 0
-                isSelected: entries !== null && index === entries.settings.selectedTab
-                onPressed: entries.settings.selectTab(index)
-                Keys.onUpPressed: entries.moved(index - 1)
-                Keys.onDownPressed: entries.moved(index + 1)
+                width: column ? column.width : 0
+                isSelected: column !== null && index === column.settings.selectedPage
+                onPressed: column.settings.selectPage(index)
+                Keys.onUpPressed: column.moved(index - 1)
+                Keys.onDownPressed: column.moved(index + 1)
             }
         }
     }
     IslandButton {
         objectName: "refresh"
-        x: 12
+        x: Theme.settings.sidebarInset
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 12
-        width: parent.width - 24
+        anchors.bottomMargin: Theme.settings.sidebarInset
+        width: parent.width - 2 * Theme.settings.sidebarInset
         text: qsTr("Refresh")
         symbol: "arrow.clockwise"
         onPressed: sidebar.settings.refresh()

@@ -9,7 +9,7 @@ IslandPressable {
     required property string symbol
     required property bool isSelected
 
-    implicitHeight: 42
+    implicitHeight: Theme.settings.sidebarEntryHeight
 
     Accessible.role: Accessible.PageTab
     Accessible.name: button.title
@@ -18,15 +18,15 @@ IslandPressable {
 
     FocusRing {
         control: button
-        controlRadius: 14
+        controlRadius: Theme.radii.button
     }
     RoundedBox {
         anchors.fill: parent
         visible: button.isSelected || button.isHovered
-        radius: 14
+        radius: Theme.radii.button
         isDiagonal: true
-        from: button.isSelected ? "#17bcae" : "#99ffffff"
-        to: button.isSelected ? "#35cdbf" : "#99ffffff"
+        from: button.isSelected ? Theme.colours.chosen : Theme.colours.sidebarEntryHovered
+        to: button.isSelected ? Theme.colours.chosenLight : Theme.colours.sidebarEntryHovered
     }
     Symbol {
         id: icon
@@ -34,8 +34,8 @@ IslandPressable {
         x: 12
         anchors.verticalCenter: parent.verticalCenter
         name: button.symbol
-        colour: button.isSelected ? "white" : SettingsTheme.accentInk
-        size: 20
+        colour: button.isSelected ? Theme.colours.textOnAccent : Theme.colours.accentInk
+        size: Theme.settings.symbol
     }
     Text {
         anchors.left: icon.right
@@ -44,9 +44,8 @@ IslandPressable {
         anchors.rightMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         text: button.title
-        color: button.isSelected ? "white" : SettingsTheme.ink
-        font.pixelSize: 14
-        font.weight: Font.Bold
+        color: button.isSelected ? Theme.colours.textOnAccent : Theme.colours.ink
+        font: Theme.fonts.name
         elide: Text.ElideRight
         textFormat: Text.PlainText
         Accessible.ignored: true

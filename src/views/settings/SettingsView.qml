@@ -7,19 +7,20 @@ FocusScope {
 
     required property SettingsViewAdapter settings
 
-    readonly property list<string> pages: ["GeneralTab", "AppRulesTab", "MenuFilterTab", "CommandsTab", "HistoryTab"]
+    // Where the sidebar ends, and what belongs to the page begins.
+    readonly property int pageStart: Theme.settings.sidebarInset + Theme.settings.sidebarWidth
 
     function showPage() {
-        page.setSource(view.pages[view.settings.selectedTab] + ".qml", {"settings": view.settings});
+        page.setSource(view.settings.pageFile, {"settings": view.settings});
     }
 
     function chooseApplication(button: Item) {
-        view.settings.appRules.loadApplications();
-        dialog.setSource("ChooseApplicationDialog.qml", {"rules": view.settings.appRules, "opener": button});
+        view.settings.apps.loadApplications();
+        dialog.setSource("ChooseApplicationDialog.qml", {"rules": view.settings.apps, "opener": button});
     }
 
-    implicitWidth: 920
-    implicitHeight: 620
+    implicitWidth: Theme.settings.width
+    implicitHeight: Theme.settings.height
     focus: true
 
     Component.onCompleted: view.showPage()
@@ -27,7 +28,7 @@ FocusScope {
     Connections {
         target: view.settings
 
-        function onSelectedTabChanged() {
+        function onSelectedPageChanged() {
             view.showPage();
         }
     }
@@ -40,43 +41,41 @@ FocusScope {
         enabled: dialog.status === Loader.Null
 
         SettingsSidebar {
-            x: 12
-            y: 12
-            width: 208
-            height: parent.height - 24
+            x: Theme.settings.sidebarInset
+            y: Theme.settings.sidebarInset
+            width: Theme.settings.sidebarWidth
+            height: parent.height - 2 * Theme.settings.sidebarInset
             settings: view.settings
         }
         Item {
             id: header
 
-            x: 220 + SettingsTheme.outer
+            x: view.pageStart + Theme.settings.outer
             y: 20
-            width: view.width - header.x - SettingsTheme.outer
-            height: 58
+            width: view.width - header.x - Theme.settings.outer
+            height: Theme.settings.headerHeight
 
             Column {
                 anchors.left: parent.left
                 anchors.right: badge.left
-                anchors.rightMargin: SettingsTheme.gap
+                anchors.rightMargin: Theme.settings.gap
                 anchors.verticalCenter: parent.verticalCenter
 
                 Text {
                     objectName: "header"
                     width: parent.width
-                    text: view.settings.tabLabel
-                    color: SettingsTheme.ink
-                    font.pixelSize: 24
-                    font.weight: Font.ExtraBold
+                    text: view.settings.pageTitle
+                    color: Theme.colours.ink
+                    font: Theme.fonts.pageTitle
                     elide: Text.ElideRight
                     Accessible.role: Accessible.Heading
                     Accessible.name: text
                 }
                 Text {
                     width: parent.width
-                    text: view.settings.tabSubtitle
-                    color: SettingsTheme.quiet
-                    font.pixelSize: 14
-                    font.weight: Font.Medium
+                    text: view.settings.pageSubtitle
+                    color: Theme.colours.quiet
+                    font: Theme.fonts.body
                     elide: Text.ElideRight
                 }
             }
@@ -86,18 +85,17 @@ FocusScope {
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 width: Math.ceil(badgeLabel.implicitWidth) + 26
-                height: 28
-                radius: 14
-                from: SettingsTheme.accentTint
+                height: Theme.settings.badgeHeight
+                radius: badge.height / 2
+                from: Theme.colours.accentTint
 
                 Text {
                     id: badgeLabel
 
                     anchors.centerIn: parent
-                    text: view.settings.tabBadge
-                    color: SettingsTheme.accentInk
-                    font.pixelSize: 13
-                    font.weight: Font.Bold
+                    text: view.settings.pageBadge
+                    color: Theme.colours.accentInk
+                    font: Theme.fonts.tag
                 }
             }
         }
@@ -116,7 +114,7 @@ FocusScope {
         Loader {
             id: page
 
-            x: 220
+            x: view.pageStart
             anchors.top: notice.visible ? notice.bottom : header.bottom
             anchors.topMargin: 10
             anchors.bottom: parent.bottom
@@ -124,7 +122,7 @@ FocusScope {
         }
     }
     Connections {
-        target: page.item as AppRulesTab
+        target: page.item as AppsPage
 
         function onChoiceWanted(button: Item) {
             view.chooseApplication(button);

@@ -9,34 +9,37 @@ namespace tovrel {
 SettingsViewAdapter::SettingsViewAdapter(SettingsViewState& state, RecorderAdapter& recorder,
                                          const Surroundings& surroundings, QObject* parent)
     : QObject(parent), state_(&state), general_(state, recorder, surroundings.openURL),
-      appRules_(state, surroundings.workspace, surroundings.textServices), menuFilter_(state),
-      commands_(state), history_(state),
-      tabSelection_(state.selectedTab.subscribe([this] { Q_EMIT selectedTabChanged(); })),
+      apps_(state, surroundings.workspace, surroundings.textServices), menuFilter_(state), commands_(state),
+      history_(state), pageSelection_(state.selectedTab.subscribe([this] { Q_EMIT selectedPageChanged(); })),
       unstoredChange_(
           state.viewModel().unstoredChange().subscribe([this] { Q_EMIT unstoredChangeChanged(); })) {
-    std::vector<SettingsRow> tabs;
-    for (const SettingsTab tab : allSettingsTabs) {
-        const QString label = settings_labels::label(tab);
-        tabs.push_back(
-            {.id = label, .title = label, .symbol = QString::fromLatin1(settings_labels::symbol(tab))});
+    std::vector<SettingsRow> rows;
+    for (const SettingsPageEntry& page : settingsPages()) {
+        rows.push_back({.id = QString::fromLatin1(page.file),
+                        .title = translatedPageText(page.title),
+                        .symbol = QString::fromLatin1(page.symbol)});
     }
-    tabs_.assign(std::move(tabs));
+    pages_.assign(std::move(rows));
 }
 
-int SettingsViewAdapter::selectedTab() const {
+int SettingsViewAdapter::selectedPage() const {
     return static_cast<int>(state_->selectedTab.get());
 }
 
-QString SettingsViewAdapter::tabLabel() const {
-    return settings_labels::label(state_->selectedTab.get());
+QString SettingsViewAdapter::pageFile() const {
+    return QString::fromLatin1(page().file);
 }
 
-QString SettingsViewAdapter::tabSubtitle() const {
-    return settings_labels::subtitle(state_->selectedTab.get());
+QString SettingsViewAdapter::pageTitle() const {
+    return translatedPageText(page().title);
 }
 
-QString SettingsViewAdapter::tabBadge() const {
-    return settings_labels::badge(state_->selectedTab.get());
+QString SettingsViewAdapter::pageSubtitle() const {
+    return translatedPageText(page().subtitle);
+}
+
+QString SettingsViewAdapter::pageBadge() const {
+    return translatedPageText(page().badge);
 }
 
 QString SettingsViewAdapter::unstoredChange() const {
@@ -44,9 +47,10 @@ QString SettingsViewAdapter::unstoredChange() const {
     return failure ? settings_labels::sentence(*failure) : QString();
 }
 
-void SettingsViewAdapter::selectTab(int index) {
-    if (const auto tab = settings_labels::choiceAt(allSettingsTabs, index)) {
-        state_->selectedTab.set(*tab);
+void SettingsViewAdapter::selectPage(int index) {
+    const auto pages = settingsPages();
+    if (index >= 0 && static_cast<std::size_t>(index) < pages.size()) {
+        state_->selectedTab.set(pages[static_cast<std::size_t>(index)].tab);
     }
 }
 

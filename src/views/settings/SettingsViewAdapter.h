@@ -7,8 +7,9 @@
 #include "platform/Workspace.h"
 #include "settings/SettingsViewState.h"
 #include "support/TextServices.h"
-#include "views/settings/pages/AppRulesSettings.h"
-#include "views/settings/pages/CustomCommandsSettings.h"
+#include "views/settings/SettingsPages.h"
+#include "views/settings/pages/AppsSettings.h"
+#include "views/settings/pages/CommandsSettings.h"
 #include "views/settings/pages/GeneralSettings.h"
 #include "views/settings/pages/HistorySettings.h"
 #include "views/settings/pages/MenuFilterSettings.h"
@@ -22,16 +23,17 @@ class SettingsViewAdapter : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The settings' window makes it.")
-    Q_PROPERTY(tovrel::SettingsRowsModel* tabs READ tabs CONSTANT FINAL)
-    Q_PROPERTY(int selectedTab READ selectedTab NOTIFY selectedTabChanged FINAL)
-    Q_PROPERTY(QString tabLabel READ tabLabel NOTIFY selectedTabChanged FINAL)
-    Q_PROPERTY(QString tabSubtitle READ tabSubtitle NOTIFY selectedTabChanged FINAL)
-    Q_PROPERTY(QString tabBadge READ tabBadge NOTIFY selectedTabChanged FINAL)
+    Q_PROPERTY(tovrel::SettingsRowsModel* pages READ pages CONSTANT FINAL)
+    Q_PROPERTY(int selectedPage READ selectedPage NOTIFY selectedPageChanged FINAL)
+    Q_PROPERTY(QString pageFile READ pageFile NOTIFY selectedPageChanged FINAL)
+    Q_PROPERTY(QString pageTitle READ pageTitle NOTIFY selectedPageChanged FINAL)
+    Q_PROPERTY(QString pageSubtitle READ pageSubtitle NOTIFY selectedPageChanged FINAL)
+    Q_PROPERTY(QString pageBadge READ pageBadge NOTIFY selectedPageChanged FINAL)
     Q_PROPERTY(QString unstoredChange READ unstoredChange NOTIFY unstoredChangeChanged FINAL)
     Q_PROPERTY(tovrel::GeneralSettings* general READ general CONSTANT FINAL)
-    Q_PROPERTY(tovrel::AppRulesSettings* appRules READ appRules CONSTANT FINAL)
+    Q_PROPERTY(tovrel::AppsSettings* apps READ apps CONSTANT FINAL)
     Q_PROPERTY(tovrel::MenuFilterSettings* menuFilter READ menuFilter CONSTANT FINAL)
-    Q_PROPERTY(tovrel::CustomCommandsSettings* commands READ commands CONSTANT FINAL)
+    Q_PROPERTY(tovrel::CommandsSettings* commands READ commands CONSTANT FINAL)
     Q_PROPERTY(tovrel::HistorySettings* history READ history CONSTANT FINAL)
 
   public:
@@ -46,36 +48,40 @@ class SettingsViewAdapter : public QObject {
                         QObject* parent = nullptr);
 
     /// In the order of the sidebar.
-    [[nodiscard]] SettingsRowsModel* tabs() { return &tabs_; }
-    /// The place among `tabs`.
-    [[nodiscard]] int selectedTab() const;
-    [[nodiscard]] QString tabLabel() const;
-    [[nodiscard]] QString tabSubtitle() const;
-    [[nodiscard]] QString tabBadge() const;
+    [[nodiscard]] SettingsRowsModel* pages() { return &pages_; }
+    /// The place among `pages`.
+    [[nodiscard]] int selectedPage() const;
+    /// Of the module Tovrel.Views.
+    [[nodiscard]] QString pageFile() const;
+    [[nodiscard]] QString pageTitle() const;
+    [[nodiscard]] QString pageSubtitle() const;
+    [[nodiscard]] QString pageBadge() const;
     /// Why the last change could not be stored, as a sentence; empty when it could.
     [[nodiscard]] QString unstoredChange() const;
     [[nodiscard]] GeneralSettings* general() { return &general_; }
-    [[nodiscard]] AppRulesSettings* appRules() { return &appRules_; }
+    [[nodiscard]] AppsSettings* apps() { return &apps_; }
     [[nodiscard]] MenuFilterSettings* menuFilter() { return &menuFilter_; }
-    [[nodiscard]] CustomCommandsSettings* commands() { return &commands_; }
+    [[nodiscard]] CommandsSettings* commands() { return &commands_; }
     [[nodiscard]] HistorySettings* history() { return &history_; }
 
-    Q_INVOKABLE void selectTab(int index);
+    Q_INVOKABLE void selectPage(int index);
     Q_INVOKABLE void refresh();
 
   Q_SIGNALS:
-    void selectedTabChanged();
+    void selectedPageChanged();
     void unstoredChangeChanged();
 
   private:
+    [[nodiscard]] const SettingsPageEntry& page() const { return settingsPage(state_->selectedTab.get()); }
+
     SettingsViewState* state_;
-    SettingsRowsModel tabs_;
+    SettingsRowsModel pages_;
     GeneralSettings general_;
-    AppRulesSettings appRules_;
+    AppsSettings apps_;
     MenuFilterSettings menuFilter_;
-    CustomCommandsSettings commands_;
+    CommandsSettings commands_;
     HistorySettings history_;
-    Subscription tabSelection_;
+    Subscription pageSelection_;
     Subscription unstoredChange_;
 };
 

@@ -7,10 +7,14 @@ FocusScope {
 
     required property AlertQuestion question
 
+    // What the window is cut out by, and drawn along, where it cannot be transparent.
+    readonly property real cornerRadius: backdrop.cornerRadius
+    readonly property color edge: backdrop.edge
+
     signal moveWanted()
 
-    implicitWidth: 464
-    implicitHeight: texts.y + texts.height + 24 + first.implicitHeight + 24
+    implicitWidth: Theme.alert.width
+    implicitHeight: texts.y + texts.height + first.implicitHeight + 2 * Theme.alert.inset
     focus: true
 
     Keys.onEscapePressed: view.question.dismiss()
@@ -20,6 +24,8 @@ FocusScope {
     Accessible.description: view.question.informativeText
 
     PaletteBackground {
+        id: backdrop
+
         anchors.fill: parent
         hasLeaf: false
     }
@@ -31,17 +37,17 @@ FocusScope {
     Rectangle {
         id: badge
 
-        x: 24
-        y: 24
-        width: 48
-        height: 48
-        radius: 18
-        color: "#fff2ca"
+        x: Theme.alert.inset
+        y: Theme.alert.inset
+        width: Theme.alert.badge
+        height: Theme.alert.badge
+        radius: Theme.radii.badge48
+        color: Theme.colours.alertSignTint
 
         Symbol {
             anchors.centerIn: parent
             name: "exclamationmark.triangle"
-            colour: "#e0a127"
+            colour: Theme.colours.alertSign
             size: 28
         }
     }
@@ -51,16 +57,15 @@ FocusScope {
         anchors.left: badge.right
         anchors.leftMargin: 16
         anchors.right: parent.right
-        anchors.rightMargin: 24
+        anchors.rightMargin: Theme.alert.inset
         y: 26
         spacing: 6
 
         Text {
             width: texts.width
             text: view.question.messageText
-            color: "#40382c"
-            font.pixelSize: 18
-            font.weight: Font.ExtraBold
+            color: Theme.colours.ink
+            font: Theme.fonts.heading
             wrapMode: Text.Wrap
             maximumLineCount: 4
             elide: Text.ElideRight
@@ -69,9 +74,8 @@ FocusScope {
         Text {
             width: texts.width
             text: view.question.informativeText
-            color: "#7a6c58"
-            font.pixelSize: 14
-            font.weight: Font.Medium
+            color: Theme.colours.quiet
+            font: Theme.fonts.body
             lineHeight: 1.15
             wrapMode: Text.Wrap
             maximumLineCount: 8
@@ -80,7 +84,7 @@ FocusScope {
         }
     }
 
-    AlertButton {
+    IslandButton {
         id: second
 
         anchors.right: first.left
@@ -88,18 +92,19 @@ FocusScope {
         anchors.bottom: first.bottom
         visible: second.text !== ""
         text: view.question.secondButton
-        isDefault: false
+        look: Theme.buttons.answer
         onPressed: view.question.answer(false)
         KeyNavigation.right: first
     }
-    AlertButton {
+    IslandButton {
         id: first
 
         anchors.right: parent.right
-        anchors.rightMargin: 24
+        anchors.rightMargin: Theme.alert.inset
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 24
+        anchors.bottomMargin: Theme.alert.inset
         text: view.question.firstButton
+        look: Theme.buttons.defaultAnswer
         isDefault: true
         focus: true
         onPressed: view.question.answer(true)

@@ -6,12 +6,13 @@ RoundedBox {
     id: ring
 
     required property Item control
-    property real controlRadius: 12
+    required property real controlRadius
+    property int distance: 3
 
     anchors.fill: parent
-    anchors.margins: -3
+    anchors.margins: -ring.distance
     visible: ring.control.activeFocus
-    radius: ring.controlRadius + 3
+    radius: ring.controlRadius + ring.distance
     borderWidth: 2
-    borderColour: "#b319c8b9"
+    borderColour: Theme.colours.focusRing
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Tovrel.Views
 
 // Shows how far something is scrolled, while there is anything to scroll, and scrolls it when dragged.
 Item {
@@ -21,8 +22,8 @@ Item {
         width: 5
         height: Math.max(28, bar.height * bar.flickable.height
                              / Math.max(1, bar.flickable.contentHeight + bar.flickable.bottomMargin))
-        radius: 2.5
-        color: area.containsMouse || area.pressed ? "#8c8a7b66" : "#598a7b66"
+        radius: knob.width / 2
+        color: area.containsMouse || area.pressed ? Theme.colours.scrollKnobHovered : Theme.colours.scrollKnob
     }
     MouseArea {
         id: area

@@ -12,7 +12,7 @@ Item {
         anchors.margins: -1
         anchors.bottomMargin: -4
         radius: shadow.radius + 1
-        from: "#0c40382c"
+        from: Theme.colours.shadowInner
     }
     RoundedBox {
         anchors.fill: parent
@@ -20,7 +20,7 @@ Item {
         anchors.topMargin: -1
         anchors.bottomMargin: -8
         radius: shadow.radius + 3
-        from: "#0a40382c"
+        from: Theme.colours.shadowMiddle
     }
     RoundedBox {
         anchors.fill: parent
@@ -28,6 +28,6 @@ Item {
         anchors.topMargin: -2
         anchors.bottomMargin: -13
         radius: shadow.radius + 6
-        from: "#0840382c"
+        from: Theme.colours.shadowOuter
     }
 }

@@ -5,8 +5,8 @@ Image {
     id: symbol
 
     required property string name
-    property color colour: "black"
-    property int size: 20
+    required property color colour
+    required property int size
 
     width: symbol.size
     height: symbol.size

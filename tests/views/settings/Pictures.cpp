@@ -8,6 +8,7 @@
 
 #include "SettingsStage.h"
 #include "views/PictureProgram.h"
+#include "views/settings/SettingsPages.h"
 
 namespace tovrel {
 namespace {
@@ -56,8 +57,8 @@ class Pictures {
 
     void drawEmptyPages() {
         stage_.isTrusted = false;
-        for (std::size_t i = 0; i < allSettingsTabs.size(); ++i) {
-            stage_.show(allSettingsTabs[i]);
+        for (std::size_t i = 0; i < settingsPages().size(); ++i) {
+            stage_.show(settingsPages()[i].tab);
             save(QStringLiteral("empty-%1").arg(i));
         }
         stage_.isTrusted = true;
@@ -117,9 +118,10 @@ class Pictures {
     }
 
     void drawFilledPages(const char* name) {
-        for (std::size_t i = 0; i < allSettingsTabs.size(); ++i) {
-            stage_.show(allSettingsTabs[i]);
-            switch (allSettingsTabs[i]) {
+        for (std::size_t i = 0; i < settingsPages().size(); ++i) {
+            const SettingsTab tab = settingsPages()[i].tab;
+            stage_.show(tab);
+            switch (tab) {
             case SettingsTab::menuRules:
                 stage_.state().selectedMenuCandidateID.set(stage_.model().menuRuleCandidates().get()[9].id);
                 break;

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "SettingsStage.h"
+#include "views/settings/SettingsPages.h"
 #include "views/settings/pages/RecorderAdapter.h"
 #include "views/settings/pages/SettingsLabels.h"
 #include "views/shared/SymbolImages.h"
@@ -118,6 +119,14 @@ TEST_F(SettingsViewTest, EmptyPagesSaySo) {
     click("refresh");
     EXPECT_FALSE(isSeen("noMenuCommands"));
     EXPECT_TRUE(isSeen("save"));
+}
+
+TEST_F(SettingsViewTest, EveryPageOfTheTableOpens) {
+    for (const SettingsPageEntry& page : settingsPages()) {
+        stage_.show(page.tab);
+        EXPECT_EQ(textOf("header"), page.title);
+        EXPECT_TRUE(isSeen("page")) << page.file;
+    }
 }
 
 TEST_F(SettingsViewTest, AChangeThatCannotBeStoredIsToldOverEveryPage) {
@@ -586,8 +595,8 @@ TEST(SettingsLabelsTest, EveryChoiceHasItsLabelAndSymbol) {
                                    "chevron.up.chevron.down",
                                    "xmark.circle.fill",
                                    "star.fill"};
-    for (const SettingsTab tab : allSettingsTabs) {
-        names.emplace_back(settings_labels::symbol(tab));
+    for (const SettingsPageEntry& page : settingsPages()) {
+        names.emplace_back(page.symbol);
     }
     for (const CustomCommandKind kind : allCustomCommandKinds) {
         names.emplace_back(settings_labels::symbol(kind));

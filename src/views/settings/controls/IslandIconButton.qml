@@ -1,35 +1,34 @@
 import QtQuick
 import Tovrel.Views
 
-// A button of a row that is only an icon; `text` is what it is called.
+// A button of a row that is only a symbol, of one of the kinds in Theme.buttons; `text` is what it is called.
 IslandPressable {
     id: button
 
     required property string text
     required property string symbol
-    property string role: "secondary"
+    property ButtonLook look: Theme.buttons.icon
 
-    implicitWidth: 32
-    implicitHeight: 32
+    implicitWidth: button.look.shape.height
+    implicitHeight: button.look.shape.height
     opacity: button.enabled ? 1 : 0.45
 
     Accessible.name: button.text
 
     FocusRing {
         control: button
-        controlRadius: 11
+        controlRadius: button.look.shape.radius
     }
     RoundedBox {
         anchors.fill: parent
-        radius: 11
-        from: button.role === "danger" ? (button.isHovered ? "#fbdcd2" : SettingsTheme.dangerTint)
-                                       : (button.isHovered ? "white" : "#f1ead8")
-        opacity: button.isDown ? 0.75 : 1
+        radius: button.look.shape.radius
+        from: button.isHovered ? button.look.hoveredFrom : button.look.from
+        opacity: button.isDown ? button.look.shape.pressedOpacity : 1
     }
     Symbol {
         anchors.centerIn: parent
         name: button.symbol
-        colour: button.role === "danger" ? SettingsTheme.danger : SettingsTheme.quiet
+        colour: button.look.ink
         size: 17
     }
 }

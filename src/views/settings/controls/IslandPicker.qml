@@ -28,8 +28,8 @@ IslandPressable {
             picker.forceActiveFocus(Qt.PopupFocusReason);
     }
 
-    implicitWidth: Math.min(250, Math.ceil(label.implicitWidth) + 46)
-    implicitHeight: picker.compact ? 32 : 38
+    implicitWidth: Math.min(Theme.settings.pickerWidth, Math.ceil(label.implicitWidth) + 46)
+    implicitHeight: picker.compact ? Theme.settings.compactControlHeight : Theme.settings.controlHeight
 
     Accessible.role: Accessible.ComboBox
     Accessible.name: picker.name
@@ -41,14 +41,15 @@ IslandPressable {
 
     FocusRing {
         control: picker
-        controlRadius: 13
+        controlRadius: Theme.radii.field
     }
     RoundedBox {
         anchors.fill: parent
-        radius: 13
-        from: "white"
+        radius: Theme.radii.field
+        from: Theme.colours.field
         borderWidth: 1
-        borderColour: picker.isOpen ? SettingsTheme.accent : picker.isHovered ? "#668a7b66" : SettingsTheme.line
+        borderColour: picker.isOpen ? Theme.colours.accent
+                    : picker.isHovered ? Theme.colours.lineHovered : Theme.colours.line
     }
     Text {
         id: label
@@ -59,9 +60,8 @@ IslandPressable {
         anchors.rightMargin: 6
         anchors.verticalCenter: parent.verticalCenter
         text: picker.text === "" ? picker.placeholder : picker.text
-        color: picker.text === "" ? SettingsTheme.faint : SettingsTheme.ink
-        font.pixelSize: picker.compact ? 13 : 14
-        font.weight: Font.DemiBold
+        color: picker.text === "" ? Theme.colours.faint : Theme.colours.ink
+        font: picker.compact ? Theme.fonts.smallLabel : Theme.fonts.label
         elide: picker.isSearchable ? Text.ElideMiddle : Text.ElideRight
         textFormat: Text.PlainText
         Accessible.ignored: true
@@ -73,8 +73,8 @@ IslandPressable {
         anchors.rightMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.up.chevron.down"
-        colour: SettingsTheme.accentInk
-        size: 16
+        colour: Theme.colours.accentInk
+        size: Theme.settings.controlSymbol
     }
     Loader {
         id: popup

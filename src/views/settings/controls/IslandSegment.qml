@@ -21,16 +21,16 @@ Item {
     RoundedBox {
         anchors.fill: parent
         visible: segment.isSelected
-        radius: 11
+        radius: Theme.radii.choice
         isDiagonal: true
-        from: "#17bcae"
-        to: "#35cdbf"
+        from: Theme.colours.chosen
+        to: Theme.colours.chosenLight
     }
     RoundedBox {
         anchors.fill: parent
         visible: hover.hovered && !segment.isSelected
-        radius: 11
-        from: "#b3ffffff"
+        radius: Theme.radii.choice
+        from: Theme.colours.segmentHovered
     }
     Text {
         id: label
@@ -38,9 +38,8 @@ Item {
         anchors.centerIn: parent
         width: Math.min(implicitWidth, segment.width - 12)
         text: segment.text
-        color: segment.isSelected ? "white" : SettingsTheme.quiet
-        font.pixelSize: 13
-        font.weight: Font.Bold
+        color: segment.isSelected ? Theme.colours.textOnAccent : Theme.colours.quiet
+        font: Theme.fonts.tag
         elide: Text.ElideRight
         textFormat: Text.PlainText
         Accessible.ignored: true

@@ -18,7 +18,7 @@ FocusScope {
     }
 
     implicitWidth: Math.min(picker.maximumWidth, segments.count * Math.ceil(track.widest) + 6)
-    implicitHeight: 38
+    implicitHeight: Theme.settings.controlHeight
     activeFocusOnTab: true
 
     Accessible.role: Accessible.Grouping
@@ -33,12 +33,12 @@ FocusScope {
 
     FocusRing {
         control: picker
-        controlRadius: 14
+        controlRadius: Theme.radii.button
     }
     RoundedBox {
         anchors.fill: parent
-        radius: 14
-        from: "#f1ead8"
+        radius: Theme.radii.button
+        from: Theme.colours.trough
     }
     SegmentTrack {
         id: track

@@ -10,7 +10,7 @@ IslandPressable {
 
     signal toggled(bool isOn)
 
-    implicitHeight: Math.max(48, label.height + 24)
+    implicitHeight: Math.max(Theme.settings.toggleHeight, label.height + 24)
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: toggle.title
@@ -22,25 +22,24 @@ IslandPressable {
 
     FocusRing {
         control: toggle
-        controlRadius: 14
+        controlRadius: Theme.radii.row
     }
     RoundedBox {
         anchors.fill: parent
-        radius: 14
-        from: toggle.isHovered ? "#f7efdb" : SettingsTheme.row
+        radius: Theme.radii.row
+        from: toggle.isHovered ? Theme.colours.rowHovered : Theme.colours.row
     }
     Text {
         id: label
 
         anchors.left: parent.left
-        anchors.leftMargin: 14
+        anchors.leftMargin: Theme.settings.rowPadding
         anchors.right: track.left
-        anchors.rightMargin: SettingsTheme.gap
+        anchors.rightMargin: Theme.settings.gap
         anchors.verticalCenter: parent.verticalCenter
         text: toggle.title
-        color: SettingsTheme.ink
-        font.pixelSize: 14
-        font.weight: Font.DemiBold
+        color: Theme.colours.ink
+        font: Theme.fonts.label
         wrapMode: Text.Wrap
         maximumLineCount: 3
         elide: Text.ElideRight
@@ -51,22 +50,22 @@ IslandPressable {
         id: track
 
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: Theme.settings.rowPadding
         anchors.verticalCenter: parent.verticalCenter
         width: 42
         height: 24
-        radius: 12
+        radius: track.height / 2
         isDiagonal: true
-        from: toggle.isOn ? "#17bcae" : "#d9cfba"
-        to: toggle.isOn ? "#35cdbf" : "#d9cfba"
+        from: toggle.isOn ? Theme.colours.chosen : Theme.colours.toggleOff
+        to: toggle.isOn ? Theme.colours.chosenLight : Theme.colours.toggleOff
 
         RoundedBox {
             anchors.verticalCenter: parent.verticalCenter
             x: toggle.isOn ? parent.width - width - 3 : 3
             width: 18
             height: 18
-            radius: 9
-            from: "white"
+            radius: height / 2
+            from: Theme.colours.toggleKnob
         }
     }
 }

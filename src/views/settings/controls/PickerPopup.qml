@@ -7,7 +7,7 @@ FocusScope {
 
     required property IslandPicker picker
 
-    readonly property int rowHeight: 34
+    readonly property int rowHeight: Theme.settings.choiceHeight
     readonly property int mostRows: 8
 
     function place() {
@@ -94,10 +94,10 @@ FocusScope {
         width: popup.picker.isSearchable ? Math.max(popup.picker.width, 360)
                                          : Math.max(popup.picker.width, 130, list.widest + 66)
         height: list.y + list.height + 6
-        radius: 16
-        from: SettingsTheme.card
+        radius: Theme.radii.popup
+        from: Theme.colours.card
         borderWidth: 1
-        borderColour: SettingsTheme.line
+        borderColour: Theme.colours.line
 
         MouseArea {
             anchors.fill: parent
@@ -126,9 +126,8 @@ FocusScope {
             anchors.centerIn: list
             visible: list.count === 0
             text: qsTr("No matches")
-            color: SettingsTheme.quiet
-            font.pixelSize: 13
-            font.weight: Font.Medium
+            color: Theme.colours.quiet
+            font: Theme.fonts.smallBody
         }
         PickerChoices {
             id: list

@@ -25,17 +25,17 @@ Item {
     RoundedBox {
         anchors.fill: parent
         visible: row.isCurrent || hover.hovered
-        radius: 11
+        radius: Theme.radii.choice
         isDiagonal: true
-        from: row.isCurrent ? "#17bcae" : "#f7efdb"
-        to: row.isCurrent ? "#35cdbf" : "#f7efdb"
+        from: row.isCurrent ? Theme.colours.chosen : Theme.colours.rowHovered
+        to: row.isCurrent ? Theme.colours.chosenLight : Theme.colours.rowHovered
     }
     Symbol {
         x: 10
         anchors.verticalCenter: parent.verticalCenter
         visible: row.isChosen
         name: "checkmark"
-        colour: row.isCurrent ? "white" : SettingsTheme.accentInk
+        colour: row.isCurrent ? Theme.colours.textOnAccent : Theme.colours.accentInk
         size: 13
     }
     Text {
@@ -47,9 +47,8 @@ Item {
         anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         text: row.title
-        color: row.isCurrent ? "white" : SettingsTheme.ink
-        font.pixelSize: 13
-        font.weight: Font.DemiBold
+        color: row.isCurrent ? Theme.colours.textOnAccent : Theme.colours.ink
+        font: Theme.fonts.smallLabel
         elide: row.elidesMiddle ? Text.ElideMiddle : Text.ElideRight
         textFormat: Text.PlainText
         Accessible.ignored: true

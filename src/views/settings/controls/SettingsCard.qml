@@ -10,11 +10,11 @@ RoundedBox {
     required property string text
     default property alias content: holder.data
 
-    implicitHeight: holder.y + holder.height + 18
-    radius: 20
-    from: SettingsTheme.card
+    implicitHeight: holder.y + holder.height + Theme.settings.cardPadding
+    radius: Theme.radii.card
+    from: Theme.colours.card
     borderWidth: 1
-    borderColour: SettingsTheme.cardBorder
+    borderColour: Theme.colours.cardBorder
 
     Accessible.role: Accessible.Grouping
     Accessible.name: card.title
@@ -23,43 +23,41 @@ RoundedBox {
     SettingsIcon {
         id: icon
 
-        x: 18
-        y: 18
+        x: Theme.settings.cardPadding
+        y: Theme.settings.cardPadding
         name: card.symbol
     }
     Column {
         id: texts
 
         anchors.left: icon.right
-        anchors.leftMargin: SettingsTheme.gap
+        anchors.leftMargin: Theme.settings.gap
         anchors.right: parent.right
-        anchors.rightMargin: 18
-        y: 18 + Math.max(0, (icon.height - texts.height) / 2)
+        anchors.rightMargin: Theme.settings.cardPadding
+        y: Theme.settings.cardPadding + Math.max(0, (icon.height - texts.height) / 2)
         spacing: 1
 
         Text {
             width: texts.width
             text: card.title
-            color: SettingsTheme.ink
-            font.pixelSize: 16
-            font.weight: Font.ExtraBold
+            color: Theme.colours.ink
+            font: Theme.fonts.title
             wrapMode: Text.Wrap
         }
         Text {
             width: texts.width
             text: card.text
-            color: SettingsTheme.quiet
-            font.pixelSize: 13
-            font.weight: Font.Medium
+            color: Theme.colours.quiet
+            font: Theme.fonts.smallBody
             wrapMode: Text.Wrap
         }
     }
     Column {
         id: holder
 
-        x: 18
+        x: Theme.settings.cardPadding
         y: Math.max(icon.y + icon.height, texts.y + texts.height) + 14
-        width: card.width - 36
-        spacing: SettingsTheme.gap
+        width: card.width - 2 * Theme.settings.cardPadding
+        spacing: Theme.settings.gap
     }
 }

@@ -17,18 +17,17 @@ Column {
 
     SettingsIcon {
         anchors.horizontalCenter: parent.horizontalCenter
-        width: 52
-        height: 52
-        radius: 19
+        width: Theme.settings.largeIcon
+        height: Theme.settings.largeIcon
+        radius: Theme.radii.badge52
         name: empty.symbol
     }
     Text {
         width: empty.width
         horizontalAlignment: Text.AlignHCenter
         text: empty.text
-        color: SettingsTheme.quiet
-        font.pixelSize: 14
-        font.weight: Font.DemiBold
+        color: Theme.colours.quiet
+        font: Theme.fonts.label
         wrapMode: Text.Wrap
         Accessible.ignored: true
     }

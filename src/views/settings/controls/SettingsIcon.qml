@@ -6,18 +6,18 @@ RoundedBox {
     id: icon
 
     required property string name
-    property color colour: SettingsTheme.accentInk
-    property color tint: SettingsTheme.accentTint
+    property color colour: Theme.colours.accentInk
+    property color tint: Theme.colours.accentTint
 
-    implicitWidth: 36
-    implicitHeight: 36
-    radius: 13
+    implicitWidth: Theme.settings.icon
+    implicitHeight: Theme.settings.icon
+    radius: Theme.radii.badge36
     from: icon.tint
 
     Symbol {
         anchors.centerIn: parent
         name: icon.name
         colour: icon.colour
-        size: 20
+        size: Theme.settings.symbol
     }
 }

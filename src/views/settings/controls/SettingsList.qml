@@ -10,13 +10,13 @@ ListView {
     required property SettingsViewAdapter settings
     // Whether the rows have nothing the keyboard reaches, so that it goes through the rows themselves.
     property bool isReadByKeyboard: false
-    property int mostHeight: 6 * 58 - 6
+    property int mostHeight: 6 * (Theme.settings.rowHeight + list.spacing) - list.spacing
 
     readonly property bool isScrolled: list.contentHeight > list.mostHeight
     readonly property real rowWidth: list.width - (list.isScrolled ? 14 : 0)
 
     height: Math.min(list.contentHeight, list.mostHeight)
-    spacing: 6
+    spacing: Theme.settings.rowSpacing
     clip: list.isScrolled
     interactive: list.isScrolled
     boundsBehavior: Flickable.StopAtBounds

@@ -13,9 +13,9 @@ RoundedBox {
     required property url icon
     default property alias controls: holder.data
 
-    implicitHeight: 52
-    radius: 14
-    from: SettingsTheme.row
+    implicitHeight: Theme.settings.rowHeight
+    radius: Theme.radii.row
+    from: Theme.colours.row
 
     Accessible.role: Accessible.ListItem
     Accessible.name: row.title
@@ -24,18 +24,18 @@ RoundedBox {
     RoundedBox {
         id: badge
 
-        x: 12
+        x: Theme.settings.rowStart
         anchors.verticalCenter: parent.verticalCenter
         visible: row.symbol !== ""
-        width: visible ? 32 : 0
-        height: 32
-        radius: 12
-        from: SettingsTheme.accentTint
+        width: visible ? Theme.settings.badge : 0
+        height: Theme.settings.badge
+        radius: Theme.radii.badge32
+        from: Theme.colours.accentTint
 
         Symbol {
             anchors.centerIn: parent
             name: row.symbol
-            colour: SettingsTheme.accentInk
+            colour: Theme.colours.accentInk
             size: 19
         }
     }
@@ -43,15 +43,14 @@ RoundedBox {
         anchors.left: badge.right
         anchors.leftMargin: badge.visible ? 12 : 2
         anchors.right: holder.left
-        anchors.rightMargin: SettingsTheme.gap
+        anchors.rightMargin: Theme.settings.gap
         anchors.verticalCenter: parent.verticalCenter
 
         Text {
             width: parent.width
             text: row.title
-            color: SettingsTheme.ink
-            font.pixelSize: 14
-            font.weight: Font.Bold
+            color: Theme.colours.ink
+            font: Theme.fonts.name
             elide: Text.ElideMiddle
             textFormat: Text.PlainText
             Accessible.ignored: true
@@ -59,9 +58,8 @@ RoundedBox {
         Text {
             width: parent.width
             text: row.detail
-            color: SettingsTheme.quiet
-            font.pixelSize: 12
-            font.weight: Font.Medium
+            color: Theme.colours.quiet
+            font: Theme.fonts.detail
             elide: Text.ElideRight
             textFormat: Text.PlainText
             Accessible.ignored: true
@@ -71,7 +69,7 @@ RoundedBox {
         id: holder
 
         anchors.right: parent.right
-        anchors.rightMargin: 10
+        anchors.rightMargin: Theme.settings.rowEnd
         anchors.verticalCenter: parent.verticalCenter
         spacing: 8
     }

@@ -9,21 +9,21 @@ RoundedBox {
     required property string text
 
     implicitHeight: texts.height + 24
-    radius: 14
-    from: SettingsTheme.warningTint
+    radius: Theme.radii.row
+    from: Theme.colours.warningTint
     borderWidth: 1
-    borderColour: SettingsTheme.warningBorder
+    borderColour: Theme.colours.warningBorder
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: notice.title
     Accessible.description: notice.text
 
     Symbol {
-        x: 14
+        x: Theme.settings.rowPadding
         anchors.verticalCenter: parent.verticalCenter
         name: "exclamationmark.triangle"
-        colour: SettingsTheme.warning
-        size: 20
+        colour: Theme.colours.warning
+        size: Theme.settings.symbol
     }
     Column {
         id: texts
@@ -36,9 +36,8 @@ RoundedBox {
         Text {
             width: texts.width
             text: notice.title
-            color: SettingsTheme.ink
-            font.pixelSize: 14
-            font.weight: Font.Bold
+            color: Theme.colours.ink
+            font: Theme.fonts.name
             wrapMode: Text.Wrap
             textFormat: Text.PlainText
             Accessible.ignored: true
@@ -46,9 +45,8 @@ RoundedBox {
         Text {
             width: texts.width
             text: notice.text
-            color: SettingsTheme.ink
-            font.pixelSize: 13
-            font.weight: Font.Medium
+            color: Theme.colours.ink
+            font: Theme.fonts.smallBody
             wrapMode: Text.Wrap
             textFormat: Text.PlainText
             Accessible.role: Accessible.StaticText

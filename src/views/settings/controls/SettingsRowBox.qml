@@ -9,32 +9,31 @@ RoundedBox {
     required property string label
     default property alias control: holder.data
 
-    implicitHeight: Math.max(54, texts.height + 20, holder.childrenRect.height + 16)
-    radius: 14
-    from: SettingsTheme.row
+    implicitHeight: Math.max(Theme.settings.controlRowHeight, texts.height + 20, holder.childrenRect.height + 16)
+    radius: Theme.radii.row
+    from: Theme.colours.row
 
     Symbol {
         id: icon
 
-        x: 14
+        x: Theme.settings.rowPadding
         anchors.verticalCenter: parent.verticalCenter
         visible: row.symbol !== ""
         name: row.symbol
-        colour: SettingsTheme.accentInk
-        size: 20
+        colour: Theme.colours.accentInk
+        size: Theme.settings.symbol
     }
     Text {
         id: texts
 
         anchors.left: icon.visible ? icon.right : parent.left
-        anchors.leftMargin: icon.visible ? 10 : 14
+        anchors.leftMargin: icon.visible ? 10 : Theme.settings.rowPadding
         anchors.right: holder.left
-        anchors.rightMargin: SettingsTheme.gap
+        anchors.rightMargin: Theme.settings.gap
         anchors.verticalCenter: parent.verticalCenter
         text: row.label
-        color: SettingsTheme.ink
-        font.pixelSize: 14
-        font.weight: Font.DemiBold
+        color: Theme.colours.ink
+        font: Theme.fonts.label
         wrapMode: Text.Wrap
         maximumLineCount: 3
         elide: Text.ElideRight
@@ -43,7 +42,7 @@ RoundedBox {
         id: holder
 
         anchors.right: parent.right
-        anchors.rightMargin: 10
+        anchors.rightMargin: Theme.settings.rowEnd
         anchors.verticalCenter: parent.verticalCenter
         width: childrenRect.width
         height: childrenRect.height

@@ -10,9 +10,9 @@ RoundedBox {
     property bool isGood: true
 
     implicitWidth: Math.ceil(label.implicitWidth) + 42
-    implicitHeight: 30
-    radius: 15
-    from: pill.isGood ? SettingsTheme.accentTint : SettingsTheme.warningTint
+    implicitHeight: Theme.settings.pillHeight
+    radius: pill.height / 2
+    from: pill.isGood ? Theme.colours.accentTint : Theme.colours.warningTint
 
     Accessible.role: Accessible.StaticText
     Accessible.name: pill.text
@@ -21,8 +21,8 @@ RoundedBox {
         x: 10
         anchors.verticalCenter: parent.verticalCenter
         name: pill.symbol
-        colour: pill.isGood ? SettingsTheme.accentInk : SettingsTheme.warning
-        size: 16
+        colour: pill.isGood ? Theme.colours.accentInk : Theme.colours.warning
+        size: Theme.settings.controlSymbol
     }
     Text {
         id: label
@@ -30,9 +30,8 @@ RoundedBox {
         x: 31
         anchors.verticalCenter: parent.verticalCenter
         text: pill.text
-        color: pill.isGood ? SettingsTheme.accentInk : SettingsTheme.warning
-        font.pixelSize: 13
-        font.weight: Font.Bold
+        color: pill.isGood ? Theme.colours.accentInk : Theme.colours.warning
+        font: Theme.fonts.tag
         Accessible.ignored: true
     }
 }

@@ -6,7 +6,7 @@ Item {
     id: icon
 
     required property url source
-    property int size: 32
+    required property int size
 
     width: icon.size
     height: icon.size

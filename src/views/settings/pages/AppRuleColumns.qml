@@ -5,30 +5,33 @@ import Tovrel.Views
 Item {
     id: columns
 
+    readonly property real identifierStart: columns.width * Theme.settings.ruleIdentifierShare
+    readonly property real behaviorStart: columns.width - Theme.settings.ruleBehaviorWidth
+                                        - Theme.settings.ruleButtonWidth
+
     height: 20
 
     component Heading: Text {
         height: 20
         verticalAlignment: Text.AlignVCenter
-        color: SettingsTheme.quiet
-        font.pixelSize: 12
-        font.weight: Font.Bold
+        color: Theme.colours.quiet
+        font: Theme.fonts.columnHeading
         elide: Text.ElideRight
     }
 
     Heading {
-        x: 54
-        width: columns.width * 0.36 - 66
+        x: Theme.settings.ruleNameStart
+        width: columns.identifierStart - Theme.settings.ruleNameStart - Theme.settings.gap
         text: qsTr("Name")
     }
     Heading {
-        x: columns.width * 0.36
-        width: columns.width * 0.64 - 208
+        x: columns.identifierStart
+        width: columns.behaviorStart - columns.identifierStart - Theme.settings.gap
         text: qsTr("Bundle ID")
     }
     Heading {
-        x: columns.width - 196
-        width: 140
+        x: columns.behaviorStart
+        width: Theme.settings.ruleBehaviorWidth
         text: qsTr("Behavior")
     }
 }

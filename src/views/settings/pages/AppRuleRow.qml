@@ -10,53 +10,55 @@ RoundedBox {
     required property string title
     required property url icon
     required property string value
-    required property AppRulesSettings rules
+    required property AppsSettings rules
+
+    readonly property real identifierStart: row.width * Theme.settings.ruleIdentifierShare
+    readonly property real behaviorStart: row.width - Theme.settings.ruleBehaviorWidth
+                                        - Theme.settings.ruleButtonWidth
 
     signal reached()
 
-    implicitHeight: 52
-    radius: 14
-    from: SettingsTheme.row
+    implicitHeight: Theme.settings.rowHeight
+    radius: Theme.radii.row
+    from: Theme.colours.row
 
     Accessible.role: Accessible.ListItem
     Accessible.name: row.title
     Accessible.description: row.value
 
     AppIcon {
-        x: 12
+        x: Theme.settings.rowStart
         anchors.verticalCenter: parent.verticalCenter
         source: row.icon
-        size: 30
+        size: Theme.settings.rowIcon
     }
     Text {
-        x: 54
+        x: Theme.settings.ruleNameStart
         anchors.verticalCenter: parent.verticalCenter
-        width: row.width * 0.36 - 66
+        width: row.identifierStart - Theme.settings.ruleNameStart - Theme.settings.gap
         text: row.title
-        color: SettingsTheme.ink
-        font.pixelSize: 14
-        font.weight: Font.Bold
+        color: Theme.colours.ink
+        font: Theme.fonts.name
         elide: Text.ElideRight
         textFormat: Text.PlainText
         Accessible.ignored: true
     }
     Text {
-        x: row.width * 0.36
+        x: row.identifierStart
         anchors.verticalCenter: parent.verticalCenter
-        width: row.width * 0.64 - 208
+        width: row.behaviorStart - row.identifierStart - Theme.settings.gap
         text: row.rowID
-        color: SettingsTheme.quiet
-        font.pixelSize: 12
-        font.weight: Font.Medium
+        color: Theme.colours.quiet
+        font: Theme.fonts.detail
         elide: Text.ElideMiddle
         textFormat: Text.PlainText
         Accessible.ignored: true
     }
     IslandPicker {
         objectName: "behavior"
-        x: row.width - 196
+        x: row.behaviorStart
         anchors.verticalCenter: parent.verticalCenter
-        width: 140
+        width: Theme.settings.ruleBehaviorWidth
         compact: true
         name: qsTr("Behavior of %1").arg(row.title)
         choices: row.rules ? row.rules.behaviors : null
@@ -71,9 +73,9 @@ RoundedBox {
     IslandIconButton {
         objectName: "remove"
         anchors.right: parent.right
-        anchors.rightMargin: 10
+        anchors.rightMargin: Theme.settings.rowEnd
         anchors.verticalCenter: parent.verticalCenter
-        role: "danger"
+        look: Theme.buttons.dangerIcon
         symbol: "trash"
         text: qsTr("Remove %1").arg(row.title)
         onPressed: row.rules.removeRule(row.rowID)

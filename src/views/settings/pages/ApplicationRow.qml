@@ -14,7 +14,7 @@ Item {
     signal selected()
     signal chosen()
 
-    height: 46
+    height: Theme.settings.applicationRowHeight
 
     Accessible.role: Accessible.ListItem
     Accessible.name: row.title
@@ -26,10 +26,10 @@ Item {
     RoundedBox {
         anchors.fill: parent
         visible: row.isCurrent || hover.hovered
-        radius: 13
+        radius: Theme.radii.applicationRow
         isDiagonal: true
-        from: row.isCurrent ? "#17bcae" : "#f7efdb"
-        to: row.isCurrent ? "#35cdbf" : "#f7efdb"
+        from: row.isCurrent ? Theme.colours.chosen : Theme.colours.rowHovered
+        to: row.isCurrent ? Theme.colours.chosenLight : Theme.colours.rowHovered
     }
     AppIcon {
         id: picture
@@ -37,7 +37,7 @@ Item {
         x: 10
         anchors.verticalCenter: parent.verticalCenter
         source: row.icon
-        size: 30
+        size: Theme.settings.rowIcon
     }
     Column {
         anchors.left: picture.right
@@ -49,9 +49,8 @@ Item {
         Text {
             width: parent.width
             text: row.title
-            color: row.isCurrent ? "white" : SettingsTheme.ink
-            font.pixelSize: 14
-            font.weight: Font.Bold
+            color: row.isCurrent ? Theme.colours.textOnAccent : Theme.colours.ink
+            font: Theme.fonts.name
             elide: Text.ElideRight
             textFormat: Text.PlainText
             Accessible.ignored: true
@@ -59,9 +58,8 @@ Item {
         Text {
             width: parent.width
             text: row.detail
-            color: row.isCurrent ? "#e6ffffff" : SettingsTheme.quiet
-            font.pixelSize: 11
-            font.weight: Font.Medium
+            color: row.isCurrent ? Theme.colours.quietTextOnChosen : Theme.colours.quiet
+            font: Theme.fonts.smallDetail
             elide: Text.ElideMiddle
             textFormat: Text.PlainText
             Accessible.ignored: true

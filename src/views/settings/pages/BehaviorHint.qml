@@ -7,7 +7,7 @@ Flow {
 
     default property alias picker: holder.data
 
-    spacing: SettingsTheme.inner
+    spacing: Theme.settings.inner
 
     Item {
         id: holder
@@ -16,13 +16,12 @@ Flow {
         height: childrenRect.height
     }
     Text {
-        width: Math.min(330, Math.max(200, hint.width - holder.width - SettingsTheme.inner))
+        width: Math.min(330, Math.max(200, hint.width - holder.width - Theme.settings.inner))
         height: Math.max(implicitHeight, holder.height)
         verticalAlignment: Text.AlignVCenter
         text: qsTr("Enabled opens Tovrel in this app. Disabled ignores the hotkey in this app.")
-        color: SettingsTheme.quiet
-        font.pixelSize: 13
-        font.weight: Font.Medium
+        color: Theme.colours.quiet
+        font: Theme.fonts.smallBody
         wrapMode: Text.Wrap
         Accessible.role: Accessible.StaticText
         Accessible.name: text

@@ -5,7 +5,7 @@ import Tovrel.Views
 FocusScope {
     id: dialog
 
-    required property AppRulesSettings rules
+    required property AppsSettings rules
     required property Item opener
 
     signal closed(opener: Item)
@@ -32,7 +32,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        color: "#5940382c"
+        color: Theme.colours.veil
 
         MouseArea {
             anchors.fill: parent
@@ -61,32 +61,31 @@ FocusScope {
         id: box
 
         anchors.centerIn: parent
-        width: Math.min(460, dialog.width - 24)
-        height: Math.min(500, dialog.height - 24)
-        radius: 24
-        from: SettingsTheme.card
+        width: Math.min(460, dialog.width - Theme.settings.outer)
+        height: Math.min(500, dialog.height - Theme.settings.outer)
+        radius: Theme.radii.window
+        from: Theme.colours.card
         borderWidth: 1
-        borderColour: SettingsTheme.line
+        borderColour: Theme.colours.line
 
         Text {
             id: title
 
-            x: 24
+            x: Theme.settings.outer
             y: 22
-            width: box.width - 48
+            width: box.width - 2 * Theme.settings.outer
             text: qsTr("Choose Application")
-            color: SettingsTheme.ink
-            font.pixelSize: 18
-            font.weight: Font.ExtraBold
+            color: Theme.colours.ink
+            font: Theme.fonts.heading
             elide: Text.ElideRight
         }
         IslandTextField {
             id: search
 
             objectName: "search"
-            x: 24
+            x: Theme.settings.outer
             y: title.y + title.height + 14
-            width: box.width - 48
+            width: box.width - 2 * Theme.settings.outer
             symbol: "magnifyingglass"
             text: ""
             placeholder: qsTr("Search")
@@ -101,20 +100,19 @@ FocusScope {
             anchors.centerIn: list
             visible: list.count === 0
             text: qsTr("No matches")
-            color: SettingsTheme.quiet
-            font.pixelSize: 14
-            font.weight: Font.DemiBold
+            color: Theme.colours.quiet
+            font: Theme.fonts.label
         }
         ApplicationList {
             id: list
 
             objectName: "applications"
-            x: 24
+            x: Theme.settings.outer
             anchors.top: search.bottom
             anchors.topMargin: 12
             anchors.bottom: add.top
             anchors.bottomMargin: 16
-            width: box.width - 48
+            width: box.width - 2 * Theme.settings.outer
             clip: true
             spacing: 2
             model: rows
@@ -154,7 +152,7 @@ FocusScope {
         IslandButton {
             objectName: "cancel"
             anchors.right: add.left
-            anchors.rightMargin: SettingsTheme.gap
+            anchors.rightMargin: Theme.settings.gap
             anchors.bottom: add.bottom
             text: qsTr("Cancel")
             onPressed: dialog.closed(dialog.opener)
@@ -164,10 +162,10 @@ FocusScope {
 
             objectName: "add"
             anchors.right: parent.right
-            anchors.rightMargin: 24
+            anchors.rightMargin: Theme.settings.outer
             anchors.bottom: parent.bottom
-            anchors.bottomMargin: 24
-            role: "primary"
+            anchors.bottomMargin: Theme.settings.outer
+            look: Theme.buttons.primary
             text: qsTr("Add")
             enabled: list.currentIndex >= 0 && list.count > 0
             onPressed: dialog.add()

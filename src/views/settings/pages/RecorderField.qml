@@ -9,18 +9,18 @@ Item {
     required property string name
 
     implicitWidth: Math.max(130, Math.ceil(Math.max(label.implicitWidth, hint.implicitWidth)) + 56)
-    implicitHeight: 34
+    implicitHeight: Theme.settings.recorderHeight
 
     FocusRing {
         control: input
-        controlRadius: 13
+        controlRadius: Theme.radii.field
     }
     RoundedBox {
         anchors.fill: parent
-        radius: 13
-        from: field.recorder.isRecording ? "#f0fbf9" : "white"
+        radius: Theme.radii.field
+        from: field.recorder.isRecording ? Theme.colours.fieldRecording : Theme.colours.field
         borderWidth: field.recorder.isRecording ? 2 : 1
-        borderColour: field.recorder.isRecording ? SettingsTheme.accent : SettingsTheme.line
+        borderColour: field.recorder.isRecording ? Theme.colours.accent : Theme.colours.line
     }
     RecorderInput {
         id: input
@@ -42,9 +42,8 @@ Item {
         anchors.centerIn: parent
         width: Math.min(implicitWidth, field.width - 52)
         text: field.recorder.text
-        color: SettingsTheme.ink
-        font.pixelSize: 14
-        font.weight: Font.Bold
+        color: Theme.colours.ink
+        font: Theme.fonts.name
         elide: Text.ElideRight
         textFormat: Text.PlainText
         Accessible.ignored: true
@@ -56,9 +55,8 @@ Item {
         width: Math.min(implicitWidth, field.width - 24)
         visible: field.recorder.text === ""
         text: field.recorder.placeholder
-        color: field.recorder.isRecording ? SettingsTheme.accentInk : SettingsTheme.quiet
-        font.pixelSize: 13
-        font.weight: Font.Medium
+        color: field.recorder.isRecording ? Theme.colours.accentInk : Theme.colours.quiet
+        font: Theme.fonts.smallBody
         elide: Text.ElideRight
         textFormat: Text.PlainText
         Accessible.ignored: true
@@ -79,8 +77,8 @@ Item {
         Symbol {
             anchors.centerIn: parent
             name: "xmark.circle.fill"
-            colour: hover.hovered ? SettingsTheme.quiet : "#b9ac96"
-            size: 16
+            colour: hover.hovered ? Theme.colours.quiet : Theme.colours.fieldClearer
+            size: Theme.settings.controlSymbol
         }
         HoverHandler {
             id: hover

@@ -8,31 +8,6 @@
 namespace tovrel::settings_labels {
 namespace {
 
-struct TabTexts {
-    const char* label;
-    const char* symbol;
-    const char* subtitle;
-    const char* badge;
-};
-
-/// In declaration order of SettingsTab.
-constexpr std::array<TabTexts, allSettingsTabs.size()> tabTexts{{
-    {QT_TRANSLATE_NOOP("SettingsLabels", "General"), "gearshape.fill",
-     QT_TRANSLATE_NOOP("SettingsLabels", "Palette shortcuts and display"),
-     QT_TRANSLATE_NOOP("SettingsLabels", "Palette")},
-    {QT_TRANSLATE_NOOP("SettingsLabels", "Apps"), "macwindow",
-     QT_TRANSLATE_NOOP("SettingsLabels", "Per-app behavior rules"),
-     QT_TRANSLATE_NOOP("SettingsLabels", "Rules")},
-    {QT_TRANSLATE_NOOP("SettingsLabels", "Menu Filter"), "line.3.horizontal.decrease.circle.fill",
-     QT_TRANSLATE_NOOP("SettingsLabels", "Hide noisy menu commands"),
-     QT_TRANSLATE_NOOP("SettingsLabels", "Clean Up")},
-    {QT_TRANSLATE_NOOP("SettingsLabels", "Commands"), "terminal.fill",
-     QT_TRANSLATE_NOOP("SettingsLabels", "Local custom actions"),
-     QT_TRANSLATE_NOOP("SettingsLabels", "Local")},
-    {QT_TRANSLATE_NOOP("SettingsLabels", "History"), "clock.arrow.circlepath",
-     QT_TRANSLATE_NOOP("SettingsLabels", "Usage and ranking"), QT_TRANSLATE_NOOP("SettingsLabels", "Local")},
-}};
-
 struct KindTexts {
     const char* symbol;
     const char* label;
@@ -95,18 +70,6 @@ QString label(CustomCommandKind kind) {
     return translated(of(kindTexts, kind).label);
 }
 
-QString label(SettingsTab tab) {
-    return translated(of(tabTexts, tab).label);
-}
-
-QString subtitle(SettingsTab tab) {
-    return translated(of(tabTexts, tab).subtitle);
-}
-
-QString badge(SettingsTab tab) {
-    return translated(of(tabTexts, tab).badge);
-}
-
 QString sentence(const PreferencesFailure& failure) {
     const auto index = static_cast<std::size_t>(failure.obstacle);
     return index < obstacleSentences.size() ? translated(obstacleSentences[index])
@@ -115,10 +78,6 @@ QString sentence(const PreferencesFailure& failure) {
 
 const char* symbol(CustomCommandKind kind) {
     return of(kindTexts, kind).symbol;
-}
-
-const char* symbol(SettingsTab tab) {
-    return of(tabTexts, tab).symbol;
 }
 
 QString payloadPlaceholder(CustomCommandKind kind) {

@@ -10,7 +10,6 @@
 #include "model/CustomCommand.h"
 #include "model/Rules.h"
 #include "platform/PreferencesDomain.h"
-#include "settings/SettingsTab.h"
 #include "views/settings/pages/SettingsRowsModel.h"
 
 /// How the settings name what there is to choose from, in the user's language.
@@ -19,15 +18,11 @@ namespace tovrel::settings_labels {
 QString label(AppBehaviorRule rule);
 QString label(MenuBlacklistMode mode);
 QString label(CustomCommandKind kind);
-QString label(SettingsTab tab);
-QString subtitle(SettingsTab tab);
-QString badge(SettingsTab tab);
 
 /// Why a change could not be stored; what nobody thought of is said in the system's words.
 QString sentence(const PreferencesFailure& failure);
 
 const char* symbol(CustomCommandKind kind);
-const char* symbol(SettingsTab tab);
 
 /// What the field for the payload of such a command asks for.
 QString payloadPlaceholder(CustomCommandKind kind);

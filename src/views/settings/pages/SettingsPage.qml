@@ -47,10 +47,10 @@ FocusScope {
         Column {
             id: column
 
-            x: SettingsTheme.outer
-            width: page.width - 2 * SettingsTheme.outer
-            bottomPadding: SettingsTheme.outer
-            spacing: SettingsTheme.inner
+            x: Theme.settings.outer
+            width: page.width - 2 * Theme.settings.outer
+            bottomPadding: Theme.settings.outer
+            spacing: Theme.settings.inner
         }
     }
     // The cards fade out where they are scrolled away.
@@ -60,8 +60,8 @@ FocusScope {
         height: 14
         visible: flickable.contentY > 0
         gradient: Gradient {
-            GradientStop { position: 0; color: "#fff1f5e6" }
-            GradientStop { position: 1; color: "#00f1f5e6" }
+            GradientStop { position: 0; color: Theme.colours.settingsFadeAbove }
+            GradientStop { position: 1; color: Qt.alpha(Theme.colours.settingsFadeAbove, 0) }
         }
     }
     SlimScrollBar {

@@ -9,17 +9,17 @@ RoundedBox {
 
     visible: notice.recorder.problem !== ""
     implicitHeight: message.height + 20
-    radius: 13
-    from: SettingsTheme.warningTint
+    radius: Theme.radii.field
+    from: Theme.colours.warningTint
 
     Accessible.role: Accessible.StaticText
     Accessible.name: message.text
 
     Symbol {
-        x: 14
+        x: Theme.settings.rowPadding
         anchors.verticalCenter: parent.verticalCenter
         name: "exclamationmark.triangle"
-        colour: SettingsTheme.warning
+        colour: Theme.colours.warning
         size: 18
     }
     Text {
@@ -28,12 +28,11 @@ RoundedBox {
         anchors.left: parent.left
         anchors.leftMargin: 42
         anchors.right: parent.right
-        anchors.rightMargin: 14
+        anchors.rightMargin: Theme.settings.rowPadding
         anchors.verticalCenter: parent.verticalCenter
         text: qsTr("Not available: %1 Choose another one, or set it free there and refresh.").arg(notice.recorder.problem)
-        color: SettingsTheme.warning
-        font.pixelSize: 13
-        font.weight: Font.DemiBold
+        color: Theme.colours.warning
+        font: Theme.fonts.smallLabel
         lineHeight: 1.1
         wrapMode: Text.Wrap
         textFormat: Text.PlainText

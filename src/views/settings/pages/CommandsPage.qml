@@ -3,19 +3,19 @@ import Tovrel.Views
 
 // The page "Commands".
 SettingsPage {
-    id: tab
+    id: page
 
     required property SettingsViewAdapter settings
 
-    readonly property CustomCommandsSettings commands: tab.settings.commands
+    readonly property CommandsSettings commands: page.settings.commands
 
     SettingsCard {
         id: form
 
         objectName: "form"
         width: parent.width
-        symbol: tab.commands.isEditing ? "pencil" : "plus"
-        title: tab.commands.isEditing ? qsTr("Edit Command") : qsTr("Add Command")
+        symbol: page.commands.isEditing ? "pencil" : "plus"
+        title: page.commands.isEditing ? qsTr("Edit Command") : qsTr("Add Command")
         text: qsTr("Create local commands that appear beside app menu commands.")
 
         IslandTextField {
@@ -23,65 +23,65 @@ SettingsPage {
 
             objectName: "title"
             width: Math.min(430, parent.width)
-            text: tab.commands.title
+            text: page.commands.title
             placeholder: qsTr("Title")
-            onEdited: text => tab.commands.title = text
+            onEdited: text => page.commands.title = text
         }
         IslandSegmentedPicker {
             objectName: "kind"
             name: qsTr("Kind")
-            labels: tab.commands.kindLabels
-            selection: tab.commands.kind
+            labels: page.commands.kindLabels
+            selection: page.commands.kind
             maximumWidth: parent.width
-            onChosen: index => tab.commands.kind = index
+            onChosen: index => page.commands.kind = index
         }
         IslandTextField {
             objectName: "payload"
             width: parent.width
-            text: tab.commands.payload
-            placeholder: tab.commands.payloadPlaceholder
-            onEdited: text => tab.commands.payload = text
+            text: page.commands.payload
+            placeholder: page.commands.payloadPlaceholder
+            onEdited: text => page.commands.payload = text
         }
         IslandTextField {
             objectName: "aliases"
             width: parent.width
-            text: tab.commands.aliases
+            text: page.commands.aliases
             placeholder: qsTr("Aliases separated by commas")
-            onEdited: text => tab.commands.aliases = text
+            onEdited: text => page.commands.aliases = text
         }
         IslandToggle {
             objectName: "usesCurrentApp"
             width: parent.width
-            title: tab.commands.usesCurrentAppLabel
-            isOn: tab.commands.usesCurrentApp
-            onToggled: isOn => tab.commands.usesCurrentApp = isOn
+            title: page.commands.usesCurrentAppLabel
+            isOn: page.commands.usesCurrentApp
+            onToggled: isOn => page.commands.usesCurrentApp = isOn
         }
         IslandToggle {
             objectName: "isEnabled"
             width: parent.width
             title: qsTr("Enabled")
-            isOn: tab.commands.isEnabled
-            onToggled: isOn => tab.commands.isEnabled = isOn
+            isOn: page.commands.isEnabled
+            onToggled: isOn => page.commands.isEnabled = isOn
         }
         Row {
-            spacing: SettingsTheme.gap
+            spacing: Theme.settings.gap
 
             IslandButton {
                 id: save
 
                 objectName: "save"
-                role: "primary"
-                text: tab.commands.isEditing ? qsTr("Save Changes") : qsTr("Add Command")
-                symbol: tab.commands.isEditing ? "checkmark" : "plus"
-                onPressed: tab.commands.save()
+                look: Theme.buttons.primary
+                text: page.commands.isEditing ? qsTr("Save Changes") : qsTr("Add Command")
+                symbol: page.commands.isEditing ? "checkmark" : "plus"
+                onPressed: page.commands.save()
             }
             IslandButton {
                 objectName: "cancel"
-                visible: tab.commands.isEditing
+                visible: page.commands.isEditing
                 text: qsTr("Cancel")
                 onPressed: {
                     save.forceActiveFocus(Qt.OtherFocusReason);
-                    tab.commands.cancel();
+                    page.commands.cancel();
                 }
             }
         }
@@ -95,17 +95,17 @@ SettingsPage {
         SettingsEmptyState {
             objectName: "noCommands"
             width: parent.width
-            visible: tab.commands.commands.count === 0
+            visible: page.commands.commands.count === 0
             symbol: "terminal"
             text: qsTr("No custom commands")
         }
         SettingsList {
             objectName: "commands"
             width: parent.width
-            visible: tab.commands.commands.count > 0
+            visible: page.commands.commands.count > 0
             name: qsTr("Custom Commands")
-            model: tab.commands.commands
-            settings: tab.settings
+            model: page.commands.commands
+            settings: page.settings
             // The form is filled where the user is to go on.
             onActedOn: titleField.textInput.forceActiveFocus(Qt.OtherFocusReason)
 
@@ -131,7 +131,7 @@ SettingsPage {
                 }
                 IslandIconButton {
                     objectName: "remove"
-                    role: "danger"
+                    look: Theme.buttons.dangerIcon
                     symbol: "trash"
                     text: qsTr("Delete %1").arg(row.title)
                     onPressed: row.list.settings.commands.remove(row.rowID)

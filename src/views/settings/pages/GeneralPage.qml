@@ -3,11 +3,11 @@ import Tovrel.Views
 
 // The page "General".
 SettingsPage {
-    id: tab
+    id: page
 
     required property SettingsViewAdapter settings
 
-    readonly property GeneralSettings general: tab.settings.general
+    readonly property GeneralSettings general: page.settings.general
 
     SettingsCard {
         width: parent.width
@@ -21,15 +21,15 @@ SettingsPage {
 
             StatusPill {
                 objectName: "access"
-                symbol: tab.general.isAccessibilityTrusted ? "checkmark.seal.fill" : "lock.shield"
-                text: tab.general.isAccessibilityTrusted ? qsTr("Ready") : qsTr("Needs Permission")
-                isGood: tab.general.isAccessibilityTrusted
+                symbol: page.general.isAccessibilityTrusted ? "checkmark.seal.fill" : "lock.shield"
+                text: page.general.isAccessibilityTrusted ? qsTr("Ready") : qsTr("Needs Permission")
+                isGood: page.general.isAccessibilityTrusted
             }
         }
         Item {
             width: parent.width
             height: Math.max(advice.height, open.height)
-            visible: !tab.general.isAccessibilityTrusted
+            visible: !page.general.isAccessibilityTrusted
 
             Text {
                 id: advice
@@ -37,12 +37,11 @@ SettingsPage {
                 anchors.left: parent.left
                 anchors.leftMargin: 2
                 anchors.right: open.left
-                anchors.rightMargin: SettingsTheme.inner
+                anchors.rightMargin: Theme.settings.inner
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Turn on Tovrel in System Settings > Privacy & Security > Accessibility, then return and refresh.")
-                color: SettingsTheme.quiet
-                font.pixelSize: 13
-                font.weight: Font.Medium
+                color: Theme.colours.quiet
+                font: Theme.fonts.smallBody
                 lineHeight: 1.1
                 wrapMode: Text.Wrap
                 textFormat: Text.PlainText
@@ -54,13 +53,13 @@ SettingsPage {
 
                 objectName: "openPrivacySettings"
                 anchors.right: parent.right
-                anchors.rightMargin: 10
+                anchors.rightMargin: Theme.settings.rowEnd
                 anchors.verticalCenter: parent.verticalCenter
-                width: 38
-                height: 38
+                width: Theme.settings.controlHeight
+                height: Theme.settings.controlHeight
                 text: qsTr("Accessibility")
                 symbol: "arrow.up.forward.app"
-                onPressed: tab.general.openPrivacySettings()
+                onPressed: page.general.openPrivacySettings()
             }
         }
     }
@@ -76,13 +75,13 @@ SettingsPage {
             label: qsTr("Command Palette")
 
             RecorderField {
-                recorder: tab.general.recorder
+                recorder: page.general.recorder
                 name: qsTr("Command Palette")
             }
         }
         ShortcutProblem {
             width: parent.width
-            recorder: tab.general.recorder
+            recorder: page.general.recorder
         }
     }
     SettingsCard {
@@ -95,8 +94,8 @@ SettingsPage {
             objectName: "showCheckedStatus"
             width: parent.width
             title: qsTr("Show checked status of menu items")
-            isOn: tab.general.showCheckedStatus
-            onToggled: isOn => tab.general.showCheckedStatus = isOn
+            isOn: page.general.showCheckedStatus
+            onToggled: isOn => page.general.showCheckedStatus = isOn
         }
     }
     SettingsCard {
@@ -109,8 +108,8 @@ SettingsPage {
             objectName: "notifiesOfCommandFailures"
             width: parent.width
             title: qsTr("Notify when a custom command fails")
-            isOn: tab.general.notifiesOfCommandFailures
-            onToggled: isOn => tab.general.notifiesOfCommandFailures = isOn
+            isOn: page.general.notifiesOfCommandFailures
+            onToggled: isOn => page.general.notifiesOfCommandFailures = isOn
         }
     }
 }

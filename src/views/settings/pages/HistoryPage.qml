@@ -3,12 +3,12 @@ import Tovrel.Views
 
 // The page "History".
 SettingsPage {
-    id: tab
+    id: page
 
     required property SettingsViewAdapter settings
 
-    readonly property HistorySettings history: tab.settings.history
-    readonly property bool hasMenuCommands: tab.history.menuCommands.count > 0
+    readonly property HistorySettings history: page.settings.history
+    readonly property bool hasMenuCommands: page.history.menuCommands.count > 0
 
     SettingsCard {
         width: parent.width
@@ -19,51 +19,51 @@ SettingsPage {
         SettingsEmptyState {
             objectName: "noMenuCommands"
             width: parent.width
-            visible: !tab.hasMenuCommands
+            visible: !page.hasMenuCommands
             symbol: "macwindow"
             text: qsTr("No menu commands detected. Open the app you want to tune, then refresh.")
         }
         SettingsRowBox {
             width: parent.width
-            visible: tab.hasMenuCommands
+            visible: page.hasMenuCommands
             symbol: "macwindow"
             label: qsTr("Menu Command")
 
             IslandPicker {
                 objectName: "menuCommand"
-                width: 250
+                width: Theme.settings.pickerWidth
                 name: qsTr("Menu Command")
                 placeholder: qsTr("Menu Command")
-                choices: tab.history.menuCommands
-                selectedID: tab.history.selectedID
-                text: tab.history.selectedTitle
+                choices: page.history.menuCommands
+                selectedID: page.history.selectedID
+                text: page.history.selectedTitle
                 isSearchable: true
-                onChosen: id => tab.history.select(id)
+                onChosen: id => page.history.select(id)
             }
         }
         IslandTextField {
             objectName: "aliases"
             width: parent.width
-            visible: tab.hasMenuCommands
-            text: tab.history.aliases
+            visible: page.hasMenuCommands
+            text: page.history.aliases
             placeholder: qsTr("Aliases separated by commas")
-            onEdited: text => tab.history.aliases = text
+            onEdited: text => page.history.aliases = text
         }
         IslandToggle {
             objectName: "favorite"
             width: parent.width
-            visible: tab.hasMenuCommands
+            visible: page.hasMenuCommands
             title: qsTr("Favorite")
-            isOn: tab.history.isFavorite
-            onToggled: isOn => tab.history.isFavorite = isOn
+            isOn: page.history.isFavorite
+            onToggled: isOn => page.history.isFavorite = isOn
         }
         IslandButton {
             objectName: "save"
-            visible: tab.hasMenuCommands
-            role: "primary"
+            visible: page.hasMenuCommands
+            look: Theme.buttons.primary
             text: qsTr("Save Search Rule")
             symbol: "checkmark"
-            onPressed: tab.history.save()
+            onPressed: page.history.save()
         }
     }
     SettingsCard {
@@ -75,17 +75,17 @@ SettingsPage {
         SettingsEmptyState {
             objectName: "noEntries"
             width: parent.width
-            visible: tab.history.entries.count === 0
+            visible: page.history.entries.count === 0
             symbol: "clock"
             text: qsTr("No command usage recorded yet")
         }
         SettingsList {
             objectName: "entries"
             width: parent.width
-            visible: tab.history.entries.count > 0
+            visible: page.history.entries.count > 0
             name: qsTr("Saved Ranking Data")
-            model: tab.history.entries
-            settings: tab.settings
+            model: page.history.entries
+            settings: page.settings
             isReadByKeyboard: true
 
             delegate: SettingsListRow {
@@ -107,8 +107,8 @@ SettingsPage {
                 FocusRing {
                     parent: row
                     control: row
-                    controlRadius: 11
                     anchors.margins: 1
+                    controlRadius: row.radius - distance
                 }
             }
         }
@@ -121,10 +121,10 @@ SettingsPage {
 
         IslandButton {
             objectName: "clear"
-            role: "danger"
+            look: Theme.buttons.danger
             text: qsTr("Clear History Records")
             symbol: "trash"
-            onPressed: tab.history.clear()
+            onPressed: page.history.clear()
         }
     }
 }

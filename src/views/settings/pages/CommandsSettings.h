@@ -14,7 +14,7 @@
 namespace tovrel {
 
 /// What the page "Commands" binds to. The form's fields are written as the user types.
-class CustomCommandsSettings : public QObject {
+class CommandsSettings : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The settings' window makes it.")
@@ -32,7 +32,7 @@ class CustomCommandsSettings : public QObject {
 
   public:
     /// `state` outlives the object.
-    explicit CustomCommandsSettings(SettingsViewState& state, QObject* parent = nullptr);
+    explicit CommandsSettings(SettingsViewState& state, QObject* parent = nullptr);
 
     [[nodiscard]] bool isEditing() const { return form().editingID.has_value(); }
     [[nodiscard]] QString title() const;

@@ -1,25 +1,30 @@
 import QtQuick
 import Tovrel.Views
 
-// A field for one line of text. What it is for is its placeholder, and its name.
+// A field for one line of text, of one of the kinds in Theme.fields. What it is for is its placeholder, and its name.
+// What is put into it stands at its end.
 RoundedBox {
     id: field
 
     required property string text
     required property string placeholder
+    property string description: ""
+    property FieldLook look: Theme.fields.form
     property string symbol: ""
+    default property alias ending: holder.data
 
+    readonly property int endingGap: 12
     readonly property alias textInput: input
 
     signal edited(string text)
     signal accepted()
 
     implicitWidth: 240
-    implicitHeight: 38
-    radius: 13
-    from: "white"
+    implicitHeight: field.look.height
+    radius: field.look.radius
+    from: input.activeFocus ? field.look.fill : field.look.fillAtRest
     borderWidth: input.activeFocus ? 2 : 1
-    borderColour: input.activeFocus ? SettingsTheme.accent : SettingsTheme.line
+    borderColour: input.activeFocus ? Theme.colours.accent : Theme.colours.line
 
     MouseArea {
         anchors.fill: parent
@@ -32,27 +37,26 @@ RoundedBox {
     Symbol {
         id: icon
 
-        x: 12
+        x: field.look.inset
         anchors.verticalCenter: parent.verticalCenter
         visible: field.symbol !== ""
         name: field.symbol
-        colour: SettingsTheme.faint
-        size: 16
+        colour: Theme.colours.faint
+        size: Theme.settings.controlSymbol
     }
     TextInput {
         id: input
 
         anchors.left: parent.left
-        anchors.leftMargin: icon.visible ? 36 : 12
-        anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.leftMargin: icon.visible ? icon.x + icon.width + 8 : field.look.inset
+        anchors.right: holder.left
+        anchors.rightMargin: holder.width > 0 ? field.endingGap : field.look.inset
         anchors.verticalCenter: parent.verticalCenter
         text: field.text
-        color: SettingsTheme.ink
-        font.pixelSize: 14
-        font.weight: Font.Medium
-        selectionColor: SettingsTheme.accent
-        selectedTextColor: "white"
+        color: Theme.colours.ink
+        font: field.look.font
+        selectionColor: Theme.colours.accent
+        selectedTextColor: Theme.colours.textOnAccent
         selectByMouse: true
         activeFocusOnTab: true
         // Room for the cursor before the first character.
@@ -65,8 +69,8 @@ RoundedBox {
             readonly property TextInput field: cursor.parent as TextInput
 
             width: 2
-            radius: 1
-            color: SettingsTheme.accent
+            radius: cursor.width / 2
+            color: Theme.colours.accent
             visible: cursor.field !== null && cursor.field.cursorVisible
         }
 
@@ -78,17 +82,27 @@ RoundedBox {
 
         Accessible.role: Accessible.EditableText
         Accessible.name: field.placeholder
+        Accessible.description: field.description
 
         Text {
             anchors.fill: parent
-            anchors.leftMargin: 4
+            anchors.leftMargin: field.look.placeholderInset
             visible: input.text === "" && input.preeditText === ""
             text: field.placeholder
-            color: SettingsTheme.faint
+            color: field.look.placeholder
             font: input.font
             elide: Text.ElideRight
             textFormat: Text.PlainText
             Accessible.ignored: true
         }
+    }
+    Item {
+        id: holder
+
+        anchors.right: parent.right
+        anchors.rightMargin: holder.width > 0 ? field.endingGap : 0
+        anchors.verticalCenter: parent.verticalCenter
+        width: childrenRect.width
+        height: childrenRect.height
     }
 }

@@ -18,7 +18,7 @@
 namespace tovrel {
 
 /// What the page "Apps" binds to. A behaviour is given by its place among `behaviorLabels`.
-class AppRulesSettings : public QObject {
+class AppsSettings : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The settings' window makes it.")
@@ -36,8 +36,8 @@ class AppRulesSettings : public QObject {
 
   public:
     /// Everything referred to outlives the object.
-    AppRulesSettings(SettingsViewState& state, Workspace& workspace, const TextServices& textServices,
-                     QObject* parent = nullptr);
+    AppsSettings(SettingsViewState& state, Workspace& workspace, const TextServices& textServices,
+                 QObject* parent = nullptr);
 
     [[nodiscard]] QStringList behaviorLabels() const;
     /// The same as choices of a picker.

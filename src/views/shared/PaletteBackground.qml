@@ -1,19 +1,24 @@
 import QtQuick
 import Tovrel.Views
 
-// The backdrop of the panel: a light gradient with a faded leaf, and an edge that is to be seen on any desktop.
+// The backdrop of the panel and of questions: a gradient, perhaps with a faded leaf, and an edge that is to be seen on
+// any desktop.
 Item {
     id: background
 
     property bool hasLeaf: true
+    readonly property alias cornerRadius: box.radius
+    readonly property alias edge: box.borderColour
 
     RoundedBox {
+        id: box
+
         anchors.fill: parent
-        radius: 24
-        from: "#dff6ef"
-        via: "#f1f6e3"
-        to: "#fff1d3"
-        borderColour: "#c3d2c4"
+        radius: Theme.radii.window
+        from: Theme.colours.backdropStart
+        via: Theme.colours.paletteBackdropMiddle
+        to: Theme.colours.backdropEnd
+        borderColour: Theme.colours.windowEdge
         borderWidth: 1
     }
 
@@ -28,7 +33,7 @@ Item {
             x: parent.width - 196
             y: -26
             name: "leaf.fill"
-            colour: "#19c8b9"
+            colour: Theme.colours.accent
             size: 176
             opacity: 0.12
         }

@@ -1,4 +1,4 @@
-#include "views/settings/pages/CustomCommandsSettings.h"
+#include "views/settings/pages/CommandsSettings.h"
 
 #include <utility>
 
@@ -7,7 +7,7 @@
 
 namespace tovrel {
 
-CustomCommandsSettings::CustomCommandsSettings(SettingsViewState& state, QObject* parent)
+CommandsSettings::CommandsSettings(SettingsViewState& state, QObject* parent)
     : QObject(parent), state_(&state) {
     const SettingsViewModel& model = state.viewModel();
     subscriptions_.push_back(state.customCommand.subscribe([this] { Q_EMIT changed(); }));
@@ -16,81 +16,81 @@ CustomCommandsSettings::CustomCommandsSettings(SettingsViewState& state, QObject
     showCommands();
 }
 
-QString CustomCommandsSettings::title() const {
+QString CommandsSettings::title() const {
     return qtString(form().title);
 }
 
-void CustomCommandsSettings::setTitle(const QString& title) {
+void CommandsSettings::setTitle(const QString& title) {
     change([&](CustomCommandForm& form) { form.title = textFrom(title); });
 }
 
-QStringList CustomCommandsSettings::kindLabels() const {
+QStringList CommandsSettings::kindLabels() const {
     return settings_labels::labels(allCustomCommandKinds);
 }
 
-void CustomCommandsSettings::setKind(int index) {
+void CommandsSettings::setKind(int index) {
     if (const auto kind = settings_labels::choiceAt(allCustomCommandKinds, index)) {
         change([&](CustomCommandForm& form) { form.kind = *kind; });
     }
 }
 
-QString CustomCommandsSettings::payload() const {
+QString CommandsSettings::payload() const {
     return qtString(form().payload);
 }
 
-void CustomCommandsSettings::setPayload(const QString& payload) {
+void CommandsSettings::setPayload(const QString& payload) {
     change([&](CustomCommandForm& form) { form.payload = textFrom(payload); });
 }
 
-QString CustomCommandsSettings::payloadPlaceholder() const {
+QString CommandsSettings::payloadPlaceholder() const {
     return settings_labels::payloadPlaceholder(form().kind);
 }
 
-QString CustomCommandsSettings::aliases() const {
+QString CommandsSettings::aliases() const {
     return qtString(form().aliases);
 }
 
-void CustomCommandsSettings::setAliases(const QString& aliases) {
+void CommandsSettings::setAliases(const QString& aliases) {
     change([&](CustomCommandForm& form) { form.aliases = textFrom(aliases); });
 }
 
-void CustomCommandsSettings::setUsesCurrentApp(bool isUsed) {
+void CommandsSettings::setUsesCurrentApp(bool isUsed) {
     change([&](CustomCommandForm& form) { form.usesCurrentApp = isUsed; });
 }
 
-QString CustomCommandsSettings::usesCurrentAppLabel() const {
+QString CommandsSettings::usesCurrentAppLabel() const {
     const auto& application = state_->viewModel().currentApplication().get();
     return application ? tr("Only show in %1").arg(qtString(application->name))
                        : tr("Only show for current app");
 }
 
-void CustomCommandsSettings::setEnabled(bool isEnabled) {
+void CommandsSettings::setEnabled(bool isEnabled) {
     change([&](CustomCommandForm& form) { form.isEnabled = isEnabled; });
 }
 
-void CustomCommandsSettings::save() {
+void CommandsSettings::save() {
     state_->saveCustomCommand();
 }
 
-void CustomCommandsSettings::cancel() {
+void CommandsSettings::cancel() {
     state_->clearCustomCommandForm();
 }
 
-void CustomCommandsSettings::edit(const QString& id) {
+void CommandsSettings::edit(const QString& id) {
     state_->editCustomCommand(textFrom(id));
 }
 
-void CustomCommandsSettings::remove(const QString& id) {
+void CommandsSettings::remove(const QString& id) {
     state_->deleteCustomCommand(textFrom(id));
 }
 
-void CustomCommandsSettings::change(const std::function<void(CustomCommandForm&)>& edit) {
+void CommandsSettings::change(const std::function<void(CustomCommandForm&)>& edit) {
     CustomCommandForm changed = form();
     edit(changed);
     state_->customCommand.set(std::move(changed));
 }
 
-void CustomCommandsSettings::showCommands() {
+void CommandsSettings::showCommands() {
     std::vector<SettingsRow> rows;
     for (const CustomCommand& command : state_->viewModel().customCommands().get()) {
         rows.push_back({.id = qtString(command.id),

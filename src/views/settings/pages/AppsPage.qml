@@ -3,11 +3,11 @@ import Tovrel.Views
 
 // The page "Apps".
 SettingsPage {
-    id: tab
+    id: page
 
     required property SettingsViewAdapter settings
 
-    readonly property AppRulesSettings rules: tab.settings.appRules
+    readonly property AppsSettings rules: page.settings.apps
 
     // An application is to be chosen; the button is where the keyboard focus comes back to.
     signal choiceWanted(button: Item)
@@ -24,10 +24,10 @@ SettingsPage {
             IslandSegmentedPicker {
                 objectName: "defaultBehavior"
                 name: qsTr("Default Behavior")
-                labels: tab.rules.behaviorLabels
-                selection: tab.rules.defaultBehavior
-                maximumWidth: 396
-                onChosen: index => tab.rules.setDefaultBehavior(index)
+                labels: page.rules.behaviorLabels
+                selection: page.rules.defaultBehavior
+                maximumWidth: Theme.settings.segmentsWidth
+                onChosen: index => page.rules.setDefaultBehavior(index)
             }
         }
     }
@@ -40,41 +40,39 @@ SettingsPage {
         Item {
             width: parent.width
             height: 44
-            visible: tab.rules.hasCurrentApplication
+            visible: page.rules.hasCurrentApplication
 
             Accessible.role: Accessible.StaticText
-            Accessible.name: tab.rules.currentName
-            Accessible.description: tab.rules.currentBundleID
+            Accessible.name: page.rules.currentName
+            Accessible.description: page.rules.currentBundleID
 
             AppIcon {
                 id: currentIcon
 
                 anchors.verticalCenter: parent.verticalCenter
-                source: tab.rules.currentIcon
-                size: 36
+                source: page.rules.currentIcon
+                size: Theme.settings.icon
             }
             Column {
                 anchors.left: currentIcon.right
-                anchors.leftMargin: SettingsTheme.gap
+                anchors.leftMargin: Theme.settings.gap
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
 
                 Text {
                     objectName: "currentName"
                     width: parent.width
-                    text: tab.rules.currentName
-                    color: SettingsTheme.ink
-                    font.pixelSize: 15
-                    font.weight: Font.Bold
+                    text: page.rules.currentName
+                    color: Theme.colours.ink
+                    font: Theme.fonts.applicationName
                     elide: Text.ElideRight
                     textFormat: Text.PlainText
                 }
                 Text {
                     width: parent.width
-                    text: tab.rules.currentBundleID
-                    color: SettingsTheme.quiet
-                    font.pixelSize: 12
-                    font.weight: Font.Medium
+                    text: page.rules.currentBundleID
+                    color: Theme.colours.quiet
+                    font: Theme.fonts.detail
                     elide: Text.ElideMiddle
                     textFormat: Text.PlainText
                 }
@@ -82,21 +80,21 @@ SettingsPage {
         }
         BehaviorHint {
             width: parent.width
-            visible: tab.rules.hasCurrentApplication
+            visible: page.rules.hasCurrentApplication
 
             IslandSegmentedPicker {
                 objectName: "currentBehavior"
                 name: qsTr("Current Application")
-                labels: tab.rules.behaviorLabels
-                selection: tab.rules.currentBehavior
-                maximumWidth: 396
-                onChosen: index => tab.rules.setCurrentBehavior(index)
+                labels: page.rules.behaviorLabels
+                selection: page.rules.currentBehavior
+                maximumWidth: Theme.settings.segmentsWidth
+                onChosen: index => page.rules.setCurrentBehavior(index)
             }
         }
         SettingsEmptyState {
             objectName: "noCurrentApplication"
             width: parent.width
-            visible: !tab.rules.hasCurrentApplication
+            visible: !page.rules.hasCurrentApplication
             symbol: "macwindow"
             text: qsTr("No frontmost app found")
         }
@@ -113,20 +111,20 @@ SettingsPage {
             IslandSegmentedPicker {
                 objectName: "newBehavior"
                 name: qsTr("Add App Rule")
-                labels: tab.rules.behaviorLabels
-                selection: tab.rules.newBehavior
-                maximumWidth: 396
-                onChosen: index => tab.rules.setNewBehavior(index)
+                labels: page.rules.behaviorLabels
+                selection: page.rules.newBehavior
+                maximumWidth: Theme.settings.segmentsWidth
+                onChosen: index => page.rules.setNewBehavior(index)
             }
         }
         IslandButton {
             id: choose
 
             objectName: "chooseApplication"
-            role: "primary"
+            look: Theme.buttons.primary
             text: qsTr("Choose Application")
             symbol: "plus"
-            onPressed: tab.choiceWanted(choose)
+            onPressed: page.choiceWanted(choose)
         }
     }
     SettingsCard {
@@ -138,14 +136,14 @@ SettingsPage {
         SettingsEmptyState {
             objectName: "noRules"
             width: parent.width
-            visible: tab.rules.rules.count === 0
+            visible: page.rules.rules.count === 0
             symbol: "tray"
             text: qsTr("No saved app rules")
         }
         Column {
             width: parent.width
-            visible: tab.rules.rules.count > 0
-            spacing: 6
+            visible: page.rules.rules.count > 0
+            spacing: Theme.settings.rowSpacing
 
             AppRuleColumns {
                 width: list.rowWidth
@@ -156,14 +154,14 @@ SettingsPage {
                 objectName: "rules"
                 width: parent.width
                 name: qsTr("Saved App Rules")
-                model: tab.rules.rules
-                settings: tab.settings
+                model: page.rules.rules
+                settings: page.settings
 
                 delegate: AppRuleRow {
                     readonly property SettingsList list: ListView.view as SettingsList
 
                     width: list ? list.rowWidth : 0
-                    rules: list ? list.settings.appRules : null
+                    rules: list ? list.settings.apps : null
                     onReached: list.show(index)
                 }
             }

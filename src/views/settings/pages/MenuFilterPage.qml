@@ -3,11 +3,11 @@ import Tovrel.Views
 
 // The page "Menu Filter".
 SettingsPage {
-    id: tab
+    id: page
 
     required property SettingsViewAdapter settings
 
-    readonly property MenuFilterSettings filter: tab.settings.menuFilter
+    readonly property MenuFilterSettings filter: page.settings.menuFilter
 
     SettingsCard {
         width: parent.width
@@ -18,51 +18,51 @@ SettingsPage {
         SettingsEmptyState {
             objectName: "noCandidates"
             width: parent.width
-            visible: tab.filter.candidates.count === 0
+            visible: page.filter.candidates.count === 0
             symbol: "macwindow"
             text: qsTr("No menu commands detected. Open the app you want to tune, then refresh.")
         }
         SettingsRowBox {
             width: parent.width
-            visible: tab.filter.candidates.count > 0
+            visible: page.filter.candidates.count > 0
             symbol: "macwindow"
             label: qsTr("Menu Item")
 
             IslandPicker {
                 objectName: "candidate"
-                width: 250
+                width: Theme.settings.pickerWidth
                 name: qsTr("Menu Item")
                 placeholder: qsTr("Menu Item")
-                choices: tab.filter.candidates
-                selectedID: tab.filter.selectedID
-                text: tab.filter.selectedTitle
+                choices: page.filter.candidates
+                selectedID: page.filter.selectedID
+                text: page.filter.selectedTitle
                 isSearchable: true
-                onChosen: id => tab.filter.select(id)
+                onChosen: id => page.filter.select(id)
             }
         }
         SettingsRowBox {
             width: parent.width
-            visible: tab.filter.candidates.count > 0
+            visible: page.filter.candidates.count > 0
             symbol: "eye.slash"
             label: qsTr("Hide")
 
             IslandPicker {
                 objectName: "mode"
-                width: 250
+                width: Theme.settings.pickerWidth
                 name: qsTr("Hide")
-                choices: tab.filter.modes
-                selectedID: tab.filter.modeID
-                text: tab.filter.modeLabel
-                onChosen: id => tab.filter.setMode(id)
+                choices: page.filter.modes
+                selectedID: page.filter.modeID
+                text: page.filter.modeLabel
+                onChosen: id => page.filter.setMode(id)
             }
         }
         IslandButton {
             objectName: "hideSelected"
-            visible: tab.filter.candidates.count > 0
-            role: "primary"
+            visible: page.filter.candidates.count > 0
+            look: Theme.buttons.primary
             text: qsTr("Hide Selected Item")
             symbol: "plus"
-            onPressed: tab.filter.hideSelected()
+            onPressed: page.filter.hideSelected()
         }
     }
     SettingsCard {
@@ -74,17 +74,17 @@ SettingsPage {
         SettingsEmptyState {
             objectName: "noRules"
             width: parent.width
-            visible: tab.filter.rules.count === 0
+            visible: page.filter.rules.count === 0
             symbol: "line.3.horizontal.decrease.circle"
             text: qsTr("No hidden menu items")
         }
         SettingsList {
             objectName: "rules"
             width: parent.width
-            visible: tab.filter.rules.count > 0
+            visible: page.filter.rules.count > 0
             name: qsTr("Hidden Menu Items")
-            model: tab.filter.rules
-            settings: tab.settings
+            model: page.filter.rules
+            settings: page.settings
 
             delegate: SettingsListRow {
                 id: row
@@ -95,7 +95,7 @@ SettingsPage {
 
                 IslandIconButton {
                     objectName: "remove"
-                    role: "danger"
+                    look: Theme.buttons.dangerIcon
                     symbol: "trash"
                     text: qsTr("Remove %1").arg(row.title)
                     onPressed: row.list.settings.menuFilter.removeRule(row.rowID)

@@ -1,4 +1,4 @@
-#include "views/settings/pages/AppRulesSettings.h"
+#include "views/settings/pages/AppsSettings.h"
 
 #include <algorithm>
 #include <utility>
@@ -16,8 +16,8 @@ QUrl iconOf(const std::optional<InstalledApplication>& application) {
 
 } // namespace
 
-AppRulesSettings::AppRulesSettings(SettingsViewState& state, Workspace& workspace,
-                                   const TextServices& textServices, QObject* parent)
+AppsSettings::AppsSettings(SettingsViewState& state, Workspace& workspace, const TextServices& textServices,
+                           QObject* parent)
     : QObject(parent), state_(&state), workspace_(&workspace), textServices_(&textServices) {
     behaviors_.assign(settings_labels::choices(allAppBehaviorRules));
     const SettingsViewModel& model = state.viewModel();
@@ -29,70 +29,70 @@ AppRulesSettings::AppRulesSettings(SettingsViewState& state, Workspace& workspac
     showRules();
 }
 
-QStringList AppRulesSettings::behaviorLabels() const {
+QStringList AppsSettings::behaviorLabels() const {
     return settings_labels::labels(allAppBehaviorRules);
 }
 
-int AppRulesSettings::defaultBehavior() const {
+int AppsSettings::defaultBehavior() const {
     return static_cast<int>(state_->viewModel().defaultBehavior().get());
 }
 
-bool AppRulesSettings::hasCurrentApplication() const {
+bool AppsSettings::hasCurrentApplication() const {
     return state_->viewModel().currentApplication().get().has_value();
 }
 
-QString AppRulesSettings::currentName() const {
+QString AppsSettings::currentName() const {
     const auto& application = state_->viewModel().currentApplication().get();
     return application ? qtString(application->name) : QString();
 }
 
-QString AppRulesSettings::currentBundleID() const {
+QString AppsSettings::currentBundleID() const {
     const auto& application = state_->viewModel().currentApplication().get();
     return application ? qtString(application->bundleID) : QString();
 }
 
-QUrl AppRulesSettings::currentIcon() const {
+QUrl AppsSettings::currentIcon() const {
     const auto& application = state_->viewModel().currentApplication().get();
     return application ? iconOf(installed(application->bundleID)) : QUrl();
 }
 
-int AppRulesSettings::currentBehavior() const {
+int AppsSettings::currentBehavior() const {
     return static_cast<int>(state_->viewModel().currentBehavior().get());
 }
 
-int AppRulesSettings::newBehavior() const {
+int AppsSettings::newBehavior() const {
     return static_cast<int>(state_->newAppBehavior.get());
 }
 
-void AppRulesSettings::setDefaultBehavior(int index) {
+void AppsSettings::setDefaultBehavior(int index) {
     if (const auto rule = settings_labels::choiceAt(allAppBehaviorRules, index)) {
         state_->viewModel().setDefaultBehavior(*rule);
     }
 }
 
-void AppRulesSettings::setCurrentBehavior(int index) {
+void AppsSettings::setCurrentBehavior(int index) {
     if (const auto rule = settings_labels::choiceAt(allAppBehaviorRules, index)) {
         state_->viewModel().setCurrentBehavior(*rule);
     }
 }
 
-void AppRulesSettings::setNewBehavior(int index) {
+void AppsSettings::setNewBehavior(int index) {
     if (const auto rule = settings_labels::choiceAt(allAppBehaviorRules, index)) {
         state_->newAppBehavior.set(*rule);
     }
 }
 
-void AppRulesSettings::setBehavior(const QString& bundleID, const QString& behaviorID) {
+void AppsSettings::setBehavior(const QString& bundleID, const QString& behaviorID) {
     if (const auto rule = settings_labels::choiceNamed(allAppBehaviorRules, behaviorID)) {
         state_->viewModel().setAppBehavior(*rule, textFrom(bundleID));
     }
 }
 
-void AppRulesSettings::removeRule(const QString& bundleID) {
+void AppsSettings::removeRule(const QString& bundleID) {
     state_->viewModel().removeAppBehavior(textFrom(bundleID));
 }
 
-void AppRulesSettings::loadApplications() {
+void AppsSettings::loadApplications() {
     std::vector<InstalledApplication> applications = workspace_->installedApplications();
     std::stable_sort(applications.begin(), applications.end(), [this](const auto& left, const auto& right) {
         return textServices_->isOrderedBefore(left.name, right.name);
@@ -108,11 +108,11 @@ void AppRulesSettings::loadApplications() {
     applications_.assign(std::move(rows));
 }
 
-void AppRulesSettings::addRule(const QString& bundleID) {
+void AppsSettings::addRule(const QString& bundleID) {
     state_->addAppRule(textFrom(bundleID));
 }
 
-void AppRulesSettings::showRules() {
+void AppsSettings::showRules() {
     std::vector<SettingsRow> rows;
     for (const AppBehaviorSetting& setting : state_->viewModel().appBehaviorSettings().get()) {
         const std::optional<InstalledApplication>& application = installed(setting.bundleID);
@@ -125,7 +125,7 @@ void AppRulesSettings::showRules() {
     rules_.assign(std::move(rows));
 }
 
-const std::optional<InstalledApplication>& AppRulesSettings::installed(const Text& bundleID) const {
+const std::optional<InstalledApplication>& AppsSettings::installed(const Text& bundleID) const {
     const auto found = installed_.find(bundleID);
     return found != installed_.end()
                ? found->second

@@ -1,0 +1,9 @@
+import QtQuick
+
+// Measures of a question, in pixels. Its height is what its texts need.
+QtObject {
+    readonly property int width: 464
+    readonly property int inset: 24
+    readonly property int badge: 48
+    readonly property int answerHeight: 40
+}
