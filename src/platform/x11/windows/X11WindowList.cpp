@@ -5,6 +5,7 @@
 #include <charconv>
 #include <iterator>
 #include <string_view>
+#include <system_error>
 #include <tuple>
 #include <unistd.h>
 #include <utility>
@@ -53,6 +54,14 @@ std::optional<GtkMenuAddress> gtkMenusIn(const X11Properties& properties) {
     return GtkMenuAddress{std::move(*busName), std::move(*menuBar),
                           properties.bytes("_GTK_APPLICATION_OBJECT_PATH").value_or(""),
                           properties.bytes("_GTK_WINDOW_OBJECT_PATH").value_or("")};
+}
+
+/// Absent for an identifier that no window of an X display has.
+std::optional<xcb_window_t> windowOf(const WindowIdentifier& identifier) {
+    xcb_window_t window = 0;
+    const char* const end = identifier.data() + identifier.size();
+    const auto [stop, error] = std::from_chars(identifier.data(), end, window);
+    return error == std::errc() && stop == end && window != 0 ? std::optional(window) : std::nullopt;
 }
 
 } // namespace
