@@ -14,6 +14,7 @@
 #include "windows/FloatingWindow.h"
 #include "windows/MainScreen.h"
 #include "windows/QtStatusItem.h"
+#include "windows/QtWindowSystem.h"
 #include "windows/ScreenCoordinates.h"
 
 namespace tovrel {
@@ -22,7 +23,7 @@ namespace {
 bool hasFocusedWindow(const WindowSystem& windowSystem) {
     const auto windows = QGuiApplication::topLevelWindows();
     return std::any_of(windows.begin(), windows.end(), [&](const QWindow* window) {
-        return window->isVisible() && windowSystem.hasInputFocus(*window);
+        return window->isVisible() && windowSystem.hasInputFocus(ownWindow(*window));
     });
 }
 
@@ -54,9 +55,9 @@ QPoint centred(QSize size, const QWindow* owner, const QRect& screen) {
 
 } // namespace
 
-QtUserInterface::QtUserInterface(ViewEngine& engine, WindowSystem windowSystem)
-    : engine_(&engine), windowSystem_(std::move(windowSystem)),
-      focusLoss_([this] { return hasFocusedWindow(windowSystem_); }, [this] { resignActive_.notify(); }) {
+QtUserInterface::QtUserInterface(ViewEngine& engine, WindowSystem& windowSystem)
+    : engine_(&engine), windowSystem_(&windowSystem),
+      focusLoss_([this] { return hasFocusedWindow(*windowSystem_); }, [this] { resignActive_.notify(); }) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
                      [this](auto state) { focusLoss_.activeChanged(state == Qt::ApplicationActive); });
@@ -86,7 +87,7 @@ Subscription QtUserInterface::onResignActive(std::function<void()> observer) {
 }
 
 std::optional<Rect> QtUserInterface::mainScreenVisibleFrame() {
-    const QScreen* screen = mainScreen(windowSystem_);
+    const QScreen* screen = mainScreen(*windowSystem_);
     const QScreen* primary = QGuiApplication::primaryScreen();
     if (screen == nullptr || primary == nullptr) {
         return std::nullopt;
@@ -103,7 +104,7 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
     question.informativeText = qtString(alert.informativeText);
     question.firstButton = qtString(alert.firstButton);
     question.secondButton = qtString(alert.secondButton);
-    FloatingWindow window(*engine_, windowSystem_,
+    FloatingWindow window(*engine_, *windowSystem_,
                           {.view = QStringLiteral("AlertView"),
                            .properties = {{QStringLiteral("question"), QVariant::fromValue(&question)}},
                            .title = QStringLiteral("Tovrel"),
@@ -111,7 +112,7 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
     QWindow* owner = windowInUse();
     window.view().setTransientParent(owner);
     window.view().setModality(Qt::ApplicationModal);
-    if (const QScreen* screen = owner == nullptr ? mainScreen(windowSystem_) : owner->screen()) {
+    if (const QScreen* screen = owner == nullptr ? mainScreen(*windowSystem_) : owner->screen()) {
         window.view().setPosition(centred(window.view().size(), owner, screen->availableGeometry()));
     }
     const QScopedValueRollback isAsking(alert_, &static_cast<QWindow&>(window.view()));
@@ -136,7 +137,8 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
 
 std::unique_ptr<StatusItem> QtUserInterface::makeStatusItem(StatusItemDescription description) {
     return std::make_unique<QtStatusItem>(
-        std::move(description), [tracking = menuTracking_](bool isOpen) { tracking->notify(isOpen); });
+        std::move(description), *windowSystem_,
+        [tracking = menuTracking_](bool isOpen) { tracking->notify(isOpen); });
 }
 
 Subscription QtUserInterface::onMenuTracking(std::function<void(bool)> observer) {

@@ -12,6 +12,7 @@
 
 #include "qt/QtMainQueue.h"
 #include "windows/QtStatusItem.h"
+#include "windows/QtWindowSystem.h"
 #include "windows/ScreenCoordinates.h"
 
 namespace tovrel {
@@ -40,7 +41,8 @@ class QtUserInterfaceTest : public testing::Test {
     }
 
     ViewEngine engine_;
-    QtUserInterface userInterface_{engine_, {}};
+    QtWindowSystem windowSystem_;
+    QtUserInterface userInterface_{engine_, windowSystem_};
 };
 
 TEST_F(QtUserInterfaceTest, AlertsAreAnsweredByKeysAndClicks) {
