@@ -11,8 +11,6 @@
 namespace tovrel {
 namespace {
 
-constexpr std::uint32_t evdevOffset = 8;
-
 std::optional<std::uint32_t> keyCodeByMeaning(int key) {
     switch (key) {
     case Qt::Key_Return:
@@ -30,14 +28,12 @@ std::optional<std::uint32_t> keyCodeByMeaning(int key) {
     }
 }
 
-std::uint32_t keyCodeOf(const QKeyEvent& event, const KeyCodeFromEvdev& keyCodeFromEvdev) {
+std::uint32_t keyCodeOf(const QKeyEvent& event, const KeyCodeFromScanCode& keyCodeFromScanCode) {
     if (const auto byMeaning = keyCodeByMeaning(event.key())) {
         return *byMeaning;
     }
-    if (keyCodeFromEvdev && event.nativeScanCode() >= evdevOffset) {
-        return keyCodeFromEvdev(event.nativeScanCode() - evdevOffset).value_or(key_codes::unknown);
-    }
-    return key_codes::unknown;
+    return keyCodeFromScanCode ? keyCodeFromScanCode(event.nativeScanCode()).value_or(key_codes::unknown)
+                               : key_codes::unknown;
 }
 
 ModifierFlags flagsOf(Qt::KeyboardModifiers modifiers) {
@@ -104,9 +100,9 @@ std::optional<Text> charactersOf(const QKeyEvent& event) {
 
 } // namespace
 
-KeyEvent keyEventFrom(const QKeyEvent& event, const KeyCodeFromEvdev& keyCodeFromEvdev) {
+KeyEvent keyEventFrom(const QKeyEvent& event, const KeyCodeFromScanCode& keyCodeFromScanCode) {
     return {.type = event.type() == QEvent::KeyRelease ? KeyEventType::keyUp : KeyEventType::keyDown,
-            .keyCode = keyCodeOf(event, keyCodeFromEvdev),
+            .keyCode = keyCodeOf(event, keyCodeFromScanCode),
             .charactersIgnoringModifiers = charactersOf(event),
             .modifierFlags = flagsOf(event.modifiers())};
 }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "support/Fatal.h"
+#include "windows/QtWindowSystem.h"
 
 namespace tovrel {
 namespace {
@@ -20,9 +21,9 @@ QRegion roundedRegion(QSize size, qreal cornerRadius) {
 
 } // namespace
 
-FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, const Description& description)
-    : windowSystem_(std::move(windowSystem)), view_(&engine.qml(), nullptr),
-      activation_(view_, windowSystem_, WindowStay::brief) {
+FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem& windowSystem, const Description& description)
+    : windowSystem_(&windowSystem), view_(&engine.qml(), nullptr),
+      activation_(view_, windowSystem, WindowStay::brief) {
     view_.setFlags(description.type | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     view_.setTitle(description.title);
     view_.setColor(Qt::transparent);
@@ -42,6 +43,10 @@ FloatingWindow::FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, co
     view_.create();
 }
 
+bool FloatingWindow::hasInputFocus() const {
+    return windowSystem_->hasInputFocus(ownWindow(view_));
+}
+
 void FloatingWindow::show() {
     if (!view_.isVisible()) {
         shape();
@@ -51,18 +56,18 @@ void FloatingWindow::show() {
 
 bool FloatingWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonRelease && std::exchange(isMoveAskedFor_, false)) {
-        windowSystem_.endMove(view_);
+        windowSystem_->endMove(ownWindow(view_));
     }
     return QObject::eventFilter(watched, event);
 }
 
 void FloatingWindow::beginMove() {
     // The user may have let go by now, and a window manager would wait for that.
-    isMoveAskedFor_ = windowSystem_.isFirstButtonDown() && view_.startSystemMove();
+    isMoveAskedFor_ = windowSystem_->isFirstButtonDown() && view_.startSystemMove();
 }
 
 void FloatingWindow::shape() {
-    const bool isComposited = windowSystem_.isComposited();
+    const bool isComposited = windowSystem_->isComposited();
     const QQuickItem& root = *view_.rootObject();
     // Without a compositor what is transparent is black, so the corners are cut off, along an edge that has
     // the colour of the border.

@@ -4,9 +4,9 @@
 #include <QQuickView>
 #include <QVariantMap>
 
+#include "platform/WindowSystem.h"
 #include "windows/ViewEngine.h"
 #include "windows/WindowActivation.h"
-#include "windows/WindowSystem.h"
 
 namespace tovrel {
 
@@ -24,11 +24,12 @@ class FloatingWindow : public QObject {
         Qt::WindowType type = Qt::Tool;
     };
 
-    FloatingWindow(ViewEngine& engine, WindowSystem windowSystem, const Description& description);
+    /// `engine` and `windowSystem` outlive it.
+    FloatingWindow(ViewEngine& engine, WindowSystem& windowSystem, const Description& description);
 
     [[nodiscard]] QQuickView& view() { return view_; }
     [[nodiscard]] const QQuickView& view() const { return view_; }
-    [[nodiscard]] bool hasInputFocus() const { return windowSystem_.hasInputFocus(view_); }
+    [[nodiscard]] bool hasInputFocus() const;
 
     void show();
     /// Takes the keyboard focus; for a window that is shown.
@@ -44,7 +45,7 @@ class FloatingWindow : public QObject {
   private:
     void shape();
 
-    WindowSystem windowSystem_;
+    WindowSystem* windowSystem_;
     QQuickView view_;
     WindowActivation activation_;
     bool isMoveAskedFor_ = false;

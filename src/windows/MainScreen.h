@@ -2,7 +2,7 @@
 
 #include <QScreen>
 
-#include "windows/WindowSystem.h"
+#include "platform/WindowSystem.h"
 
 namespace tovrel {
 

@@ -11,11 +11,11 @@
 namespace tovrel {
 
 QtPalettePanel::QtPalettePanel(PaletteViewContext context, const TextServices& textServices,
-                               ViewEngine& engine, WindowSystem windowSystem,
-                               KeyCodeFromEvdev keyCodeFromEvdev)
+                               ViewEngine& engine, WindowSystem& windowSystem,
+                               KeyCodeFromScanCode keyCodeFromScanCode)
     : adapter_(std::make_unique<PaletteViewAdapter>(std::move(context), textServices)),
-      keyCodeFromEvdev_(std::move(keyCodeFromEvdev)),
-      window_(engine, std::move(windowSystem),
+      keyCodeFromScanCode_(std::move(keyCodeFromScanCode)),
+      window_(engine, windowSystem,
               {.view = QStringLiteral("PaletteView"),
                .properties = {{QStringLiteral("palette"), QVariant::fromValue(adapter_.get())}},
                .title = QStringLiteral("Tovrel")}),
@@ -77,7 +77,7 @@ bool QtPalettePanel::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::KeyPress) {
         const KeyHandler handler = keyHandler_; // it may take itself away
-        if (handler(keyEventFrom(*static_cast<QKeyEvent*>(event), keyCodeFromEvdev_))) {
+        if (handler(keyEventFrom(*static_cast<QKeyEvent*>(event), keyCodeFromScanCode_))) {
             event->accept();
             return true;
         }

@@ -7,11 +7,11 @@
 
 #include "palette/PalettePanel.h"
 #include "palette/PaletteWindowController.h"
+#include "platform/WindowSystem.h"
 #include "qt/QtKeyEvents.h"
 #include "windows/FloatingWindow.h"
 #include "windows/FocusLossWatch.h"
 #include "windows/ViewEngine.h"
-#include "windows/WindowSystem.h"
 
 namespace tovrel {
 
@@ -20,9 +20,9 @@ class PaletteViewAdapter;
 /// The palette's window. Its view is loaded at once, so that the first showing is as fast as any other.
 class QtPalettePanel final : public QObject, public PalettePanel {
   public:
-    /// `engine`, `textServices` and all that `context` refers to outlive the panel.
+    /// `engine`, `windowSystem`, `textServices` and all that `context` refers to outlive the panel.
     QtPalettePanel(PaletteViewContext context, const TextServices& textServices, ViewEngine& engine,
-                   WindowSystem windowSystem, KeyCodeFromEvdev keyCodeFromEvdev);
+                   WindowSystem& windowSystem, KeyCodeFromScanCode keyCodeFromScanCode);
     ~QtPalettePanel() override;
     QtPalettePanel(const QtPalettePanel&) = delete;
     QtPalettePanel& operator=(const QtPalettePanel&) = delete;
@@ -44,7 +44,7 @@ class QtPalettePanel final : public QObject, public PalettePanel {
 
   private:
     std::unique_ptr<PaletteViewAdapter> adapter_;
-    KeyCodeFromEvdev keyCodeFromEvdev_;
+    KeyCodeFromScanCode keyCodeFromScanCode_;
     KeyHandler keyHandler_;
     std::function<void()> resignKeyHandler_;
     FloatingWindow window_;

@@ -58,7 +58,7 @@ void QtSettingsWindow::setContent(std::unique_ptr<SettingsViewState> state) {
 void QtSettingsWindow::install(std::unique_ptr<SettingsViewState> state) {
     Content content{.state = std::move(state),
                     .recorder = std::make_unique<RecorderAdapter>(surroundings_.makeRecorder(),
-                                                                  surroundings_.keyCodeFromEvdev),
+                                                                  surroundings_.keyCodeFromScanCode),
                     .adapter = nullptr};
     content.adapter = std::make_unique<SettingsViewAdapter>(
         *content.state, *content.recorder,
@@ -133,7 +133,7 @@ bool QtSettingsWindow::handleKeyPress(const QKeyEvent& event) {
     if (content_.recorder->isRecording()) {
         return false;
     }
-    const KeyEvent key = keyEventFrom(event, surroundings_.keyCodeFromEvdev);
+    const KeyEvent key = keyEventFrom(event, surroundings_.keyCodeFromScanCode);
     if (key.modifierFlags != modifier_flags::command || !key.charactersIgnoringModifiers) {
         return false;
     }

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "KeyboardShortcuts/RecorderCocoa.h"
+#include "platform/WindowSystem.h"
 #include "platform/Workspace.h"
 #include "qt/QtKeyEvents.h"
 #include "settings/SettingsViewState.h"
@@ -16,7 +17,6 @@
 #include "support/TextServices.h"
 #include "windows/ViewEngine.h"
 #include "windows/WindowActivation.h"
-#include "windows/WindowSystem.h"
 
 namespace tovrel {
 
@@ -29,12 +29,12 @@ class QtSettingsWindow final : public QObject, public SettingsWindow {
   public:
     struct Surroundings {
         ViewEngine& engine;
-        WindowSystem windowSystem;
+        WindowSystem& windowSystem;
         /// Makes the recorder of a new view.
         std::function<std::unique_ptr<RecorderCocoa>()> makeRecorder;
         Workspace& workspace;
         const TextServices& textServices;
-        KeyCodeFromEvdev keyCodeFromEvdev;
+        KeyCodeFromScanCode keyCodeFromScanCode;
         std::function<void(const Text& url)> openURL;
         /// The user asked for an item of the window's menu. Closing is done already.
         std::function<void(window_menu::Action)> onMenuAction;

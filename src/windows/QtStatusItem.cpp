@@ -30,8 +30,9 @@ QIcon symbolIcon(const Text& name, const QColor& colour) {
 
 } // namespace
 
-QtStatusItem::QtStatusItem(StatusItemDescription description, const std::function<void(bool)>& onMenuTracking)
-    : description_(std::move(description)), wait_([this] { show(); }) {
+QtStatusItem::QtStatusItem(StatusItemDescription description, const WindowSystem& windowSystem,
+                           const std::function<void(bool)>& onMenuTracking)
+    : description_(std::move(description)), wait_(windowSystem, [this] { show(); }) {
     const QColor textColour = QGuiApplication::palette().color(QPalette::WindowText);
     for (const StatusMenuItem& item : description_.menu) {
         if (item.title.empty()) {

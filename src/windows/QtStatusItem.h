@@ -16,8 +16,9 @@ namespace tovrel {
 /// while that is open.
 class QtStatusItem final : public QObject, public StatusItem {
   public:
-    /// `onMenuTracking` is told when the menu opens (true) and closes.
-    QtStatusItem(StatusItemDescription description, const std::function<void(bool)>& onMenuTracking);
+    /// `windowSystem` outlives it. `onMenuTracking` is told when the menu opens (true) and closes.
+    QtStatusItem(StatusItemDescription description, const WindowSystem& windowSystem,
+                 const std::function<void(bool)>& onMenuTracking);
 
     void setToolTip(const Text& toolTip) override;
 

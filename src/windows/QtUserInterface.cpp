@@ -14,6 +14,7 @@
 #include "windows/FloatingWindow.h"
 #include "windows/MainScreen.h"
 #include "windows/QtStatusItem.h"
+#include "windows/QtWindowSystem.h"
 
 namespace tovrel {
 namespace {
@@ -21,7 +22,7 @@ namespace {
 bool hasFocusedWindow(const WindowSystem& windowSystem) {
     const auto windows = QGuiApplication::topLevelWindows();
     return std::any_of(windows.begin(), windows.end(), [&](const QWindow* window) {
-        return window->isVisible() && windowSystem.hasInputFocus(*window);
+        return window->isVisible() && windowSystem.hasInputFocus(ownWindow(*window));
     });
 }
 
@@ -53,9 +54,9 @@ QPoint centred(QSize size, const QWindow* owner, const QRect& screen) {
 
 } // namespace
 
-QtUserInterface::QtUserInterface(ViewEngine& engine, WindowSystem windowSystem)
-    : engine_(&engine), windowSystem_(std::move(windowSystem)),
-      focusLoss_([this] { return hasFocusedWindow(windowSystem_); }, [this] { resignActive_.notify(); }) {
+QtUserInterface::QtUserInterface(ViewEngine& engine, WindowSystem& windowSystem)
+    : engine_(&engine), windowSystem_(&windowSystem),
+      focusLoss_([this] { return hasFocusedWindow(*windowSystem_); }, [this] { resignActive_.notify(); }) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
                      [this](auto state) { focusLoss_.activeChanged(state == Qt::ApplicationActive); });
@@ -85,7 +86,7 @@ Subscription QtUserInterface::onResignActive(std::function<void()> observer) {
 }
 
 std::optional<Screen> QtUserInterface::mainScreen() {
-    const QScreen* screen = tovrel::mainScreen(windowSystem_);
+    const QScreen* screen = tovrel::mainScreen(*windowSystem_);
     if (screen == nullptr) {
         return std::nullopt;
     }
@@ -104,7 +105,7 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
     question.informativeText = qtString(alert.informativeText);
     question.firstButton = qtString(alert.firstButton);
     question.secondButton = qtString(alert.secondButton);
-    FloatingWindow window(*engine_, windowSystem_,
+    FloatingWindow window(*engine_, *windowSystem_,
                           {.view = QStringLiteral("AlertView"),
                            .properties = {{QStringLiteral("question"), QVariant::fromValue(&question)}},
                            .title = QStringLiteral("Tovrel"),
@@ -112,7 +113,7 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
     QWindow* owner = windowInUse();
     window.view().setTransientParent(owner);
     window.view().setModality(Qt::ApplicationModal);
-    if (const QScreen* screen = owner == nullptr ? tovrel::mainScreen(windowSystem_) : owner->screen()) {
+    if (const QScreen* screen = owner == nullptr ? tovrel::mainScreen(*windowSystem_) : owner->screen()) {
         window.view().setPosition(centred(window.view().size(), owner, screen->availableGeometry()));
     }
     const QScopedValueRollback isAsking(alert_, &static_cast<QWindow&>(window.view()));
@@ -138,7 +139,8 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
 
 std::unique_ptr<StatusItem> QtUserInterface::makeStatusItem(StatusItemDescription description) {
     return std::make_unique<QtStatusItem>(
-        std::move(description), [tracking = menuTracking_](bool isOpen) { tracking->notify(isOpen); });
+        std::move(description), *windowSystem_,
+        [tracking = menuTracking_](bool isOpen) { tracking->notify(isOpen); });
 }
 
 Subscription QtUserInterface::onMenuTracking(std::function<void(bool)> observer) {

@@ -5,9 +5,9 @@
 #include <memory>
 
 #include "platform/UserInterface.h"
+#include "platform/WindowSystem.h"
 #include "windows/FocusLossWatch.h"
 #include "windows/ViewEngine.h"
-#include "windows/WindowSystem.h"
 
 namespace tovrel {
 
@@ -15,8 +15,8 @@ namespace tovrel {
 /// window is closed.
 class QtUserInterface final : public QObject, public UserInterface {
   public:
-    /// `engine` outlives it.
-    QtUserInterface(ViewEngine& engine, WindowSystem windowSystem);
+    /// `engine` and `windowSystem` outlive it.
+    QtUserInterface(ViewEngine& engine, WindowSystem& windowSystem);
 
     /// Brings the windows forward that are shown, a question last. Without one there is nothing to do: each
     /// window takes the focus when it is shown.
@@ -34,7 +34,7 @@ class QtUserInterface final : public QObject, public UserInterface {
 
   private:
     ViewEngine* engine_;
-    WindowSystem windowSystem_;
+    WindowSystem* windowSystem_;
     ObserverList<> resignActive_;
     std::shared_ptr<ObserverList<bool>> menuTracking_ = std::make_shared<ObserverList<bool>>();
     FocusLossWatch focusLoss_;

@@ -8,19 +8,15 @@
 #include <QDBusVariant>
 #include <QMetaObject>
 #include <chrono>
-#include <optional>
+#include <string_view>
 #include <utility>
-
-#include <xcb/xcb.h>
-
-#include "windows/X11.h"
 
 namespace tovrel {
 namespace {
 
 using std::chrono_literals::operator""s;
 
-constexpr auto x11TrayPatience = 5s;
+constexpr auto trayPatience = 5s;
 
 // Names and paths of the StatusNotifierItem specification by KDE and freedesktop.org.
 const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
@@ -28,7 +24,8 @@ const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 
 } // namespace
 
-StatusBarWait::StatusBarWait(std::function<void()> onReady) : onReady_(std::move(onReady)) {
+StatusBarWait::StatusBarWait(const WindowSystem& windowSystem, std::function<void()> onReady)
+    : windowSystem_(&windowSystem), onReady_(std::move(onReady)) {
     QDBusConnection bus = QDBusConnection::sessionBus();
     watcher_.setConnection(bus);
     watcher_.setWatchMode(QDBusServiceWatcher::WatchForRegistration);
@@ -41,9 +38,9 @@ StatusBarWait::StatusBarWait(std::function<void()> onReady) : onReady_(std::move
     patience_.setSingleShot(true);
     connect(&patience_, &QTimer::timeout, this, [this] {
         QCoreApplication::instance()->installNativeEventFilter(this);
-        useX11TrayIfThere();
+        useTrayIfThere();
     });
-    patience_.start(x11TrayPatience);
+    patience_.start(trayPatience);
 }
 
 void StatusBarWait::askForStatusNotifierHost() {
@@ -63,19 +60,15 @@ void StatusBarWait::askForStatusNotifierHost() {
 }
 
 bool StatusBarWait::nativeEventFilter(const QByteArray& eventType, void* message, qintptr* /*result*/) {
-    if (eventType == "xcb_generic_event_t") {
-        const auto* event = static_cast<const xcb_generic_event_t*>(message);
-        // A tray that starts announces itself by such a message to the root window.
-        if ((event->response_type & 0x7FU) == XCB_CLIENT_MESSAGE) {
-            useX11TrayIfThere();
-        }
+    const std::string_view type(eventType.constData(), static_cast<std::size_t>(eventType.size()));
+    if (windowSystem_->mayAnnounceStatusBar(type, message)) {
+        useTrayIfThere();
     }
     return false;
 }
 
-void StatusBarWait::useX11TrayIfThere() {
-    const std::optional<X11> x11 = X11::ofQt();
-    if (x11 && x11->hasSystemTray()) {
+void StatusBarWait::useTrayIfThere() {
+    if (windowSystem_->hasStatusBar()) {
         becomeReady();
     }
 }

@@ -1,7 +1,8 @@
 #include "windows/WindowActivation.h"
 
 #include <chrono>
-#include <utility>
+
+#include "windows/QtWindowSystem.h"
 
 namespace tovrel {
 namespace {
@@ -13,8 +14,8 @@ constexpr auto activationPatience = 50ms;
 
 } // namespace
 
-WindowActivation::WindowActivation(QWindow& window, WindowSystem windowSystem, WindowStay stay)
-    : window_(&window), windowSystem_(std::move(windowSystem)), stay_(stay) {
+WindowActivation::WindowActivation(QWindow& window, WindowSystem& windowSystem, WindowStay stay)
+    : window_(&window), windowSystem_(&windowSystem), stay_(stay) {
     activation_.setSingleShot(true);
     activation_.setInterval(activationPatience);
     // Once granted, the focus may have gone on to where the user wants it.
@@ -25,29 +26,30 @@ WindowActivation::WindowActivation(QWindow& window, WindowSystem windowSystem, W
     });
     QObject::connect(&activation_, &QTimer::timeout, window_, [this] {
         if (window_->isVisible() && !window_->isActive()) {
-            windowSystem_.activate(*window_);
+            windowSystem_->activate(ownWindow(*window_));
         }
     });
 }
 
 void WindowActivation::show() {
     if (!window_->isVisible()) {
-        restoreFocus_ = windowSystem_.rememberFocus();
+        restoreFocus_ = windowSystem_->rememberFocus();
     }
     window_->show();
     window_->raise();
 }
 
 void WindowActivation::takeFocus() {
-    windowSystem_.takeFocus(*window_);
+    window_->requestActivate();
+    windowSystem_->giveFocus(ownWindow(*window_));
     activation_.start();
 }
 
 void WindowActivation::hide() {
     if (window_->isVisible()) {
         activation_.stop();
-        if (windowSystem_.hasInputFocus(*window_) &&
-            (stay_ == WindowStay::brief || !windowSystem_.isManaged())) {
+        if (windowSystem_->hasInputFocus(ownWindow(*window_)) &&
+            (stay_ == WindowStay::brief || !windowSystem_->isManaged())) {
             restoreFocus_();
         }
         window_->hide();

@@ -2,8 +2,9 @@
 
 #include <QTimer>
 #include <QWindow>
+#include <functional>
 
-#include "windows/WindowSystem.h"
+#include "platform/WindowSystem.h"
 
 namespace tovrel {
 
@@ -14,8 +15,8 @@ enum class WindowStay { brief, lasting };
 /// who may take it.
 class WindowActivation {
   public:
-    /// `window` outlives the object.
-    WindowActivation(QWindow& window, WindowSystem windowSystem, WindowStay stay);
+    /// `window` and `windowSystem` outlive the object.
+    WindowActivation(QWindow& window, WindowSystem& windowSystem, WindowStay stay);
 
     /// Above the others, as yet without the focus.
     void show();
@@ -27,7 +28,7 @@ class WindowActivation {
 
   private:
     QWindow* window_;
-    WindowSystem windowSystem_;
+    WindowSystem* windowSystem_;
     WindowStay stay_;
     QTimer activation_;
     std::function<void()> restoreFocus_;

@@ -50,9 +50,11 @@ class FrontApplicationTests(DesktopTestCase):
         editor, _ = self.open_text("mousepad", "one\n")
         without = {name: value for name, value in self.desktop.environment.items() if name != "DISPLAY"}
         unreachable = {**without, "DISPLAY": ":987654"}
-        for environment in (without, unreachable):
-            self.assert_fails_in_one_line(self.tovrel.run("menus", environment=environment),
-                                          mentioning="display")
+        wayland = {**without, "WAYLAND_DISPLAY": "wayland-0"}
+        for environment, said in ((without, "no X display"), (unreachable, "no X display"), (wayland, "Wayland")):
+            for arguments in (["menus"], []):
+                self.assert_fails_in_one_line(self.tovrel.run(*arguments, environment=environment),
+                                              mentioning=said)
             # A process that is named needs no display to be read.
             self.tovrel.expect("menus", "--pid", editor.pid, environment=environment)
 

@@ -9,8 +9,8 @@ namespace tovrel {
 namespace {
 
 KeyEvent converted(int key, Qt::KeyboardModifiers modifiers, quint32 keysym = 0, quint32 scanCode = 0) {
-    const auto keyCodes = [](std::uint32_t evdev) {
-        return evdev == 25 ? std::optional<std::uint32_t>(35) : std::nullopt;
+    const auto keyCodes = [](std::uint32_t code) {
+        return code == 33 ? std::optional<std::uint32_t>(35) : std::nullopt;
     };
     return keyEventFrom(QKeyEvent(QEvent::KeyPress, key, modifiers, scanCode, keysym, 0), keyCodes);
 }

@@ -13,6 +13,7 @@
 #include "qt/QtMainQueue.h"
 #include "qt/QtText.h"
 #include "windows/QtStatusItem.h"
+#include "windows/QtWindowSystem.h"
 #include "windows/ScreenCoordinates.h"
 
 namespace tovrel {
@@ -41,7 +42,8 @@ class QtUserInterfaceTest : public testing::Test {
     }
 
     ViewEngine engine_;
-    QtUserInterface userInterface_{engine_, {}};
+    QtWindowSystem windowSystem_;
+    QtUserInterface userInterface_{engine_, windowSystem_};
 };
 
 TEST_F(QtUserInterfaceTest, AlertsAreAnsweredByKeysAndClicks) {

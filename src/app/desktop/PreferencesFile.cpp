@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "platform/linux/applications/XdgDirectories.h"
+#include "app/desktop/OpenDesktop.h"
 
 namespace tovrel {
 
@@ -15,7 +15,7 @@ std::filesystem::path preferencesFile(const std::optional<std::filesystem::path>
     if (fromEnvironment != nullptr && *fromEnvironment != '\0') {
         return fromEnvironment;
     }
-    return xdg::configHome() / "tovrel" / "preferences.sqlite";
+    return configurationDirectory() / "tovrel" / "preferences.sqlite";
 }
 
 } // namespace tovrel

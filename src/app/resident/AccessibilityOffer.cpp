@@ -29,7 +29,7 @@ Text toBeRestarted(const std::vector<Text>& names, const LocalizedString& locali
 } // namespace
 
 void AccessibilityOffer::show() {
-    if (accessibility_->isEnabled()) {
+    if (accessibility_.isEnabled()) {
         offerToTurnOff();
     } else {
         offerToTurnOn();
@@ -46,10 +46,10 @@ void AccessibilityOffer::offerToTurnOn() {
                        "applications publish what they show to every program of yours, as they do for a "
                        "screen reader. You can turn it off again in the same place.")
                  .utf8() +
-             toBeRestarted(accessibility_->applicationsToRestart(), localized).utf8()),
+             toBeRestarted(accessibility_.applicationsToRestart(), localized).utf8()),
          .firstButton = localized("AccessibilityOffer", "Turn On"),
          .secondButton = localized("AccessibilityOffer", "Cancel")});
-    if (answer == AlertAnswer::firstButton && !accessibility_->setEnabled(true)) {
+    if (answer == AlertAnswer::firstButton && !accessibility_.setEnabled(true)) {
         static_cast<void>(userInterface_->runAlert(
             {.messageText = localized("AccessibilityOffer", "Accessibility could not be turned on"),
              .informativeText = localized("AccessibilityOffer",
@@ -68,12 +68,12 @@ void AccessibilityOffer::offerToTurnOff() {
              Text(localized("AccessibilityOffer",
                             "It is on: Tovrel can read the menus of applications that were started since.")
                       .utf8() +
-                  toBeRestarted(accessibility_->applicationsToRestart(), localized).utf8() +
+                  toBeRestarted(accessibility_.applicationsToRestart(), localized).utf8() +
                   localized("AccessibilityOffer", " Without it, Tovrel cannot read any menus.").utf8()),
          .firstButton = localized("AccessibilityOffer", "Turn Off"),
          .secondButton = localized("AccessibilityOffer", "Keep On")});
     if (answer == AlertAnswer::firstButton) {
-        accessibility_->setEnabled(false);
+        accessibility_.setEnabled(false);
     }
 }
 

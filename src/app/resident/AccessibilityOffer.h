@@ -1,11 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 #include <utility>
 
+#include "app/desktop/Desktop.h"
 #include "platform/UserInterface.h"
-#include "platform/linux/applications/ToolkitAccessibility.h"
 #include "support/LocalizedString.h"
 
 namespace tovrel {
@@ -18,9 +17,10 @@ class AccessibilityOffer {
     static constexpr std::string_view address =
         "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
 
-    AccessibilityOffer(ToolkitAccessibility& accessibility, UserInterface& userInterface,
+    AccessibilityOffer(AccessibilitySwitch accessibility, UserInterface& userInterface,
                        LocalizedString localized)
-        : accessibility_(&accessibility), userInterface_(&userInterface), localized_(std::move(localized)) {}
+        : accessibility_(std::move(accessibility)), userInterface_(&userInterface),
+          localized_(std::move(localized)) {}
 
     /// Returns once the user has answered.
     void show();
@@ -29,7 +29,7 @@ class AccessibilityOffer {
     void offerToTurnOn();
     void offerToTurnOff();
 
-    ToolkitAccessibility* accessibility_;
+    AccessibilitySwitch accessibility_;
     UserInterface* userInterface_;
     LocalizedString localized_;
 };

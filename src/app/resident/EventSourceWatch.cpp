@@ -4,12 +4,12 @@
 
 namespace tovrel {
 
-EventSourceWatch::EventSourceWatch(EventSource& source, EventSource* before)
-    : source_(&source), before_(before) {
-    if (source.fileDescriptor() < 0) {
+EventSourceWatch::EventSourceWatch(const WatchedEvents& events) : events_(events) {
+    const int descriptor = events_.source->fileDescriptor();
+    if (descriptor < 0) {
         return;
     }
-    notifier_ = std::make_unique<QSocketNotifier>(source.fileDescriptor(), QSocketNotifier::Read);
+    notifier_ = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { dispatch(); });
     beforeSleep_ = QObject::connect(QAbstractEventDispatcher::instance(),
                                     &QAbstractEventDispatcher::aboutToBlock, [this] { dispatch(); });
@@ -20,11 +20,11 @@ EventSourceWatch::~EventSourceWatch() {
 }
 
 void EventSourceWatch::dispatch() {
-    if (before_ != nullptr) {
-        before_->dispatch();
+    if (events_.earlier != nullptr) {
+        events_.earlier->dispatch();
     }
-    source_->dispatch();
-    if (source_->fileDescriptor() < 0) {
+    events_.source->dispatch();
+    if (events_.source->fileDescriptor() < 0) {
         notifier_->setEnabled(false);
     }
 }

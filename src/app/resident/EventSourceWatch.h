@@ -4,7 +4,7 @@
 #include <QSocketNotifier>
 #include <memory>
 
-#include "platform/posix/EventSource.h"
+#include "app/desktop/Desktop.h"
 
 namespace tovrel {
 
@@ -12,9 +12,8 @@ namespace tovrel {
 /// goes to sleep, since a question asked over the same connection may have brought events into memory.
 class EventSourceWatch {
   public:
-    /// The sources must outlive the watch. `before`, if given, is always dispatched first: what came from
-    /// there earlier must not be taken for something later.
-    explicit EventSourceWatch(EventSource& source, EventSource* before = nullptr);
+    /// The sources must outlive the watch.
+    explicit EventSourceWatch(const WatchedEvents& events);
     ~EventSourceWatch();
     EventSourceWatch(const EventSourceWatch&) = delete;
     EventSourceWatch& operator=(const EventSourceWatch&) = delete;
@@ -22,8 +21,7 @@ class EventSourceWatch {
   private:
     void dispatch();
 
-    EventSource* source_;
-    EventSource* before_;
+    WatchedEvents events_;
     std::unique_ptr<QSocketNotifier> notifier_;
     QMetaObject::Connection beforeSleep_;
 };

@@ -9,6 +9,7 @@
 #include <thread>
 #include <unistd.h>
 
+#include "app/desktop/OpenDesktop.h"
 #include "app/resident/EndSignals.h"
 #include "app/resident/ResidentProgram.h"
 #include "app/resident/SeatLock.h"
@@ -17,7 +18,6 @@
 #include "app/seat/ResidentSeat.h"
 #include "app/terminal/DescriptorBuffer.h"
 #include "app/terminal/Failure.h"
-#include "platform/x11/server/X11Connection.h"
 #include "windows/ViewEngine.h"
 
 namespace tovrel {
@@ -77,8 +77,12 @@ class DroppingBuffer : public DescriptorBuffer {
 } // namespace
 
 int runResident(const command_line::Invocation& invocation, const Console& console) {
-    if (!X11Connection().isOpen()) {
-        throw Failure("there is no X display to show the palette on");
+    const std::shared_ptr<Desktop> desktop = openDesktop();
+    if (!desktop) {
+        throw Failure("there is no palette on this system yet; only recordings can be searched");
+    }
+    if (const auto problem = desktop->displayProblem()) {
+        throw Failure(*problem + " to show the palette on");
     }
     const auto seat = ResidentSeat::ofEnvironment();
     const auto lock = seat ? lockUnlessShown(*seat) : nullptr;
@@ -101,7 +105,7 @@ int runResident(const command_line::Invocation& invocation, const Console& conso
     DroppingBuffer buffer(STDOUT_FILENO);
     std::ostream output(&buffer);
     const Console lastingConsole{console.input, output, console.error, console.style};
-    ResidentProgram program(invocation, lastingConsole, seat);
+    ResidentProgram program(invocation, lastingConsole, seat, *desktop);
     if (!program.start()) {
         return 0;
     }

@@ -7,19 +7,14 @@
 #include "KeyboardShortcuts/HotKeyErrorText.h"
 #include "app/coordinator/ShortcutForPeople.h"
 #include "app/desktop/PreferencesFile.h"
+#include "app/resident/QtConnection.h"
 #include "app/seat/DBusNames.h"
 #include "app/seat/ResidentClient.h"
 #include "app/terminal/ErrorLine.h"
-#include "platform/linux/keyboard/VirtualKeyCodes.h"
+#include "windows/QtWindowSystem.h"
 
 namespace tovrel {
 namespace {
-
-/// X servers number the keys of the Linux input layer from 8 on.
-std::optional<std::uint32_t> keyCodeFromEvdev(std::uint32_t evdev) {
-    constexpr std::uint32_t firstKey = 8;
-    return virtualKeyCodeOfX11(evdev + firstKey);
-}
 
 bool fileExists(const Text& path) {
     std::error_code error;
@@ -29,36 +24,26 @@ bool fileExists(const Text& path) {
 } // namespace
 
 ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, const Console& console,
-                                 const std::optional<ResidentSeat>& seat)
-    : console_(&console), storedPreferences_(preferencesFile(invocation.preferencesFile), {},
-                                             SqlitePreferencesDomain::interactive),
-      preferences_(storedPreferences_), textServices_(invocation.localeIdentifier),
-      windows_(std::make_shared<X11WindowList>()),
-      accessibilityBus_(
-          std::make_shared<AtspiBus>([windows = windows_] { return windows->accessibilityBusAddress(); })),
-      workspace_(std::make_shared<LinuxWorkspace>(
-          windows_, accessibilityBus_, std::make_shared<DesktopEntries>(DesktopEntries::ofEnvironment()))),
-      accessibility_({accessibilityBus_, std::make_shared<SessionBus>()},
-                     [windows = windows_](std::int32_t processIdentifier) {
-                         return windows->windowsOf(processIdentifier);
-                     }),
-      toolkitAccessibility_(accessibilityBus_, workspace_),
-      hotKeys_(queue_, [this] { return keyDestination(); }), processRunner_(queue_),
-      translations_(invocation.localeIdentifier), userInterface_(views_, windowSystem()),
+                                 const std::optional<ResidentSeat>& seat, Desktop& desktop)
+    : console_(&console), desktop_(&desktop), storedPreferences_(preferencesFile(invocation.preferencesFile),
+                                                                 {}, SqlitePreferencesDomain::interactive),
+      preferences_(storedPreferences_), textServices_(invocation.localeIdentifier), seams_(makeSeams()),
+      translations_(invocation.localeIdentifier), userInterface_(views_, *seams_.windowSystem),
       notifications_(BusPresence::connectionName()),
-      accessibilityOffer_(toolkitAccessibility_, userInterface_, localizedByQt()),
-      shortcuts_(preferences_, hotKeys_, userInterface_, textServices_, console.output),
+      accessibilityOffer_(desktop.accessibilitySwitch(), userInterface_, localizedByQt()),
+      shortcuts_(preferences_, *seams_.hotKeys, userInterface_, textServices_, console.output),
       settingsWindowController_([this] { return makeSettingsWindow(); }),
       coordinator_(AppCoordinator::make(platform())),
       service_(coordinator_,
                {.shortcut = [this] { return coordinator_->toggleShortcutForPeople(); },
                 .problem = [this] { return shortcutProblem(); }},
                [] { QApplication::quit(); }),
-      busPresence_(service_), activationEvents_(windows_->activationEvents()),
-      // That the user has come back to an application is older than the hot key pressed there.
-      hotKeyEvents_(hotKeys_, &windows_->activationEvents()), processEnds_(processRunner_) {
+      busPresence_(service_) {
     if (seat) {
         seatServer_.emplace(*seat, service_);
+    }
+    for (const WatchedEvents& events : seams_.events) {
+        eventWatches_.emplace_back(events);
     }
 }
 
@@ -85,12 +70,12 @@ bool ResidentProgram::start() {
 }
 
 Platform ResidentProgram::platform() {
-    return {.accessibility = accessibility_,
-            .workspace = *workspace_,
-            .hotKeyCenter = hotKeys_,
-            .keyEventPoster = keyPoster_,
+    return {.accessibility = desktop_->accessibility(),
+            .workspace = desktop_->workspace(),
+            .hotKeyCenter = *seams_.hotKeys,
+            .keyEventPoster = *seams_.keyPoster,
             .mainQueue = queue_,
-            .processRunner = processRunner_,
+            .processRunner = *seams_.processRunner,
             .userInterface = userInterface_,
             .notifications = notifications_,
             .preferences = preferences_,
@@ -99,8 +84,9 @@ Platform ResidentProgram::platform() {
             .ownBundleIdentifier = Text(dbus_names::service),
             .makePalettePanel =
                 [this](PaletteViewContext context) {
-                    auto panel = std::make_unique<QtPalettePanel>(std::move(context), textServices_, views_,
-                                                                  windowSystem(), keyCodeFromEvdev);
+                    auto panel =
+                        std::make_unique<QtPalettePanel>(std::move(context), textServices_, views_,
+                                                         *seams_.windowSystem, keyCodeFromScanCode());
                     panel_ = panel.get();
                     return panel;
                 },
@@ -112,25 +98,34 @@ Platform ResidentProgram::platform() {
             .settingsWindowController = settingsWindowController_};
 }
 
-WindowSystem ResidentProgram::windowSystem() {
-    return makeWindowSystem([this] { return hotKeys_.lastPressTime(); });
+ResidentSeams ResidentProgram::makeSeams() {
+    ResidentSeams seams = desktop_->makeResidentSeams(
+        queue_, [this] { return keyDestination(); }, connectionOfQt());
+    if (!seams.windowSystem) {
+        seams.windowSystem = std::make_unique<QtWindowSystem>();
+    }
+    return seams;
+}
+
+KeyCodeFromScanCode ResidentProgram::keyCodeFromScanCode() const {
+    return [desktop = desktop_](std::uint32_t scanCode) { return desktop->keyCode(scanCode); };
 }
 
 KeyDestination ResidentProgram::keyDestination() const {
     if (panel_ == nullptr) {
         return {};
     }
-    return {static_cast<xcb_window_t>(panel_->window().winId()), panel_->isVisible()};
+    return {ownWindow(panel_->window()), panel_->isVisible()};
 }
 
 std::unique_ptr<SettingsWindow> ResidentProgram::makeSettingsWindow() {
     return std::make_unique<QtSettingsWindow>(
         QtSettingsWindow::Surroundings{.engine = views_,
-                                       .windowSystem = windowSystem(),
+                                       .windowSystem = *seams_.windowSystem,
                                        .makeRecorder = [this] { return makeRecorder(); },
-                                       .workspace = *workspace_,
+                                       .workspace = desktop_->workspace(),
                                        .textServices = textServices_,
-                                       .keyCodeFromEvdev = keyCodeFromEvdev,
+                                       .keyCodeFromScanCode = keyCodeFromScanCode(),
                                        .openURL = [this](const Text& url) { openURL(url); },
                                        .onMenuAction = [this](auto action) { performMenuAction(action); }});
 }
@@ -138,7 +133,7 @@ std::unique_ptr<SettingsWindow> ResidentProgram::makeSettingsWindow() {
 std::unique_ptr<RecorderCocoa> ResidentProgram::makeRecorder() {
     return std::make_unique<RecorderCocoa>(
         RecorderSurroundings{.shortcuts = shortcuts_,
-                             .hotKeyCenter = hotKeys_,
+                             .hotKeyCenter = *seams_.hotKeys,
                              .userInterface = userInterface_,
                              .localized = localizedByQt(),
                              .textOf = [this](const Shortcut& shortcut) { return forPeople(shortcut); },
@@ -167,12 +162,12 @@ void ResidentProgram::openURL(const Text& url) {
     if (url == Text(AccessibilityOffer::address)) {
         accessibilityOffer_.show();
     } else {
-        workspace_->open(url);
+        desktop_->workspace().open(url);
     }
 }
 
 CharacterForKeyCode ResidentProgram::characterForKeyCode() {
-    return [this](std::uint32_t keyCode) { return hotKeys_.characterForKeyCode(keyCode); };
+    return [this](std::uint32_t keyCode) { return seams_.hotKeys->characterForKeyCode(keyCode); };
 }
 
 Text ResidentProgram::forPeople(const Shortcut& shortcut) {

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <deque>
 #include <memory>
+#include <optional>
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "KeyboardShortcuts/RecorderCocoa.h"
 #include "app/coordinator/AppCoordinator.h"
+#include "app/desktop/Desktop.h"
 #include "app/resident/AccessibilityOffer.h"
 #include "app/resident/BusPresence.h"
 #include "app/resident/DBusService.h"
@@ -13,16 +16,7 @@
 #include "app/seat/ResidentSeat.h"
 #include "app/terminal/Console.h"
 #include "app/verbs/CommandLine.h"
-#include "platform/linux/applications/DesktopEntries.h"
-#include "platform/linux/applications/LinuxWorkspace.h"
-#include "platform/linux/applications/PosixProcessRunner.h"
-#include "platform/linux/applications/ToolkitAccessibility.h"
-#include "platform/linux/menus/LinuxAccessibility.h"
-#include "platform/linux/menus/accessibility/AtspiBus.h"
 #include "platform/preferences/SqlitePreferencesDomain.h"
-#include "platform/x11/hotkeys/X11HotKeyCenter.h"
-#include "platform/x11/keyboard/X11KeyEventPoster.h"
-#include "platform/x11/windows/X11WindowList.h"
 #include "qt/QtMainQueue.h"
 #include "settings/SettingsWindowController.h"
 #include "settings/WindowMenu.h"
@@ -37,13 +31,14 @@
 
 namespace tovrel {
 
-/// The resident program put together: the platform of an X11 desktop, the coordinator on it, and the service
-/// on D-Bus. Needs the application object, and is gone before that is.
+/// The resident program put together: what the desktop and Qt give, the coordinator on it, and the service on
+/// D-Bus. Needs the application object, and is gone before that is.
 class ResidentProgram {
   public:
-    /// `seat` is this process's own; without one it is only to be found on the session bus.
+    /// `seat` is this process's own; without one it is only to be found on the session bus. `console` and
+    /// `desktop` outlive it.
     ResidentProgram(const command_line::Invocation& invocation, const Console& console,
-                    const std::optional<ResidentSeat>& seat);
+                    const std::optional<ResidentSeat>& seat, Desktop& desktop);
     ~ResidentProgram() = default;
     ResidentProgram(const ResidentProgram&) = delete;
     ResidentProgram& operator=(const ResidentProgram&) = delete;
@@ -54,7 +49,8 @@ class ResidentProgram {
 
   private:
     [[nodiscard]] Platform platform();
-    [[nodiscard]] WindowSystem windowSystem();
+    [[nodiscard]] ResidentSeams makeSeams();
+    [[nodiscard]] KeyCodeFromScanCode keyCodeFromScanCode() const;
     [[nodiscard]] KeyDestination keyDestination() const;
     [[nodiscard]] std::unique_ptr<SettingsWindow> makeSettingsWindow();
     [[nodiscard]] std::unique_ptr<RecorderCocoa> makeRecorder();
@@ -66,18 +62,12 @@ class ResidentProgram {
 
     // In the order in which they need each other; they end in the opposite one.
     const Console* console_;
+    Desktop* desktop_;
     SqlitePreferencesDomain storedPreferences_;
     LastKnownPreferences preferences_;
     TextServices textServices_;
-    std::shared_ptr<X11WindowList> windows_;
-    std::shared_ptr<AtspiBus> accessibilityBus_;
-    std::shared_ptr<LinuxWorkspace> workspace_;
-    LinuxAccessibility accessibility_;
-    ToolkitAccessibility toolkitAccessibility_;
     QtMainQueue queue_;
-    X11HotKeyCenter hotKeys_;
-    X11KeyEventPoster keyPoster_;
-    PosixProcessRunner processRunner_;
+    ResidentSeams seams_;
     Translations translations_;
     ViewEngine views_;
     QtUserInterface userInterface_;
@@ -91,9 +81,7 @@ class ResidentProgram {
     // They go before what they offer.
     BusPresence busPresence_;
     std::optional<SeatServer> seatServer_;
-    EventSourceWatch activationEvents_;
-    EventSourceWatch hotKeyEvents_;
-    EventSourceWatch processEnds_;
+    std::deque<EventSourceWatch> eventWatches_;
 };
 
 } // namespace tovrel

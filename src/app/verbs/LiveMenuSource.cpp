@@ -1,146 +1,59 @@
 #include <chrono>
-#include <sstream>
 
+#include "app/desktop/OpenDesktop.h"
 #include "app/terminal/Failure.h"
 #include "app/verbs/MenuSource.h"
-#include "platform/linux/applications/LinuxWorkspace.h"
-#include "platform/linux/menus/LinuxAccessibility.h"
-#include "platform/linux/menus/MenuObstacle.h"
-#include "platform/x11/windows/X11WindowList.h"
 
 namespace tovrel {
 namespace {
 
 std::shared_ptr<RunningApplication> runningApplication(const command_line::MenuSourceOptions& options,
-                                                       LinuxWorkspace& workspace,
-                                                       const X11WindowList& windows) {
+                                                       Desktop& desktop) {
     if (options.processIdentifier) {
-        if (auto application = workspace.applicationWithProcessIdentifier(*options.processIdentifier)) {
+        if (auto application = desktop.applicationWithProcessIdentifier(*options.processIdentifier)) {
             return application;
         }
         throw Failure("there is no process " + std::to_string(*options.processIdentifier));
     }
     if (options.bundleIdentifier) {
-        const auto applications = workspace.applicationsWithIdentifier(Text(*options.bundleIdentifier));
+        const auto applications = desktop.applicationsWithIdentifier(Text(*options.bundleIdentifier));
         if (applications.empty()) {
             throw Failure("no running application has the identifier \"" + *options.bundleIdentifier + "\"");
         }
         return applications.front();
     }
-    if (!windows.isAvailable()) {
-        throw Failure("there is no X display to find the front application on; name one with --pid or --app");
+    if (const auto problem = desktop.displayProblem()) {
+        throw Failure(*problem + " to find the front application on; name one with --pid or --app");
     }
-    if (auto application = workspace.frontApplication()) {
+    if (auto application = desktop.workspace().frontApplication()) {
         return application;
     }
     throw Failure("no application is in front; name one with --pid or --app");
 }
 
-std::string nameOf(const RunningApplication& application) {
-    const std::optional<Text> name = application.localizedName();
-    return name ? name->utf8() : "process " + std::to_string(application.processIdentifier());
-}
-
-std::string inSeconds(std::chrono::milliseconds time) {
-    std::ostringstream text;
-    text << std::chrono::duration<double>(time).count() << " s";
-    return text.str();
-}
-
-/// Why an application gives no menus, and what its user can do, as the end of a sentence about it.
-std::string adviceOn(MenuObstacle obstacle, bool isRegistered, bool isEnabled) {
-    switch (obstacle) {
-    case MenuObstacle::switchedOff:
-        return "; restart it without NO_AT_BRIDGE and GTK_A11Y in its environment, which keep it off the "
-               "accessibility bus";
-    case MenuObstacle::browserEngine:
-        return "; it is built on a browser engine: if it has menus, they show when it is started with "
-               "--force-renderer-accessibility";
-    case MenuObstacle::java:
-        return "; it runs on Java: install libatk-wrapper-java-jni and start it with JAVA_TOOL_OPTIONS="
-               "\"-Xbootclasspath/a:/usr/share/java/java-atk-wrapper.jar "
-               "-Djavax.accessibility.assistive_technologies=org.GNOME.Accessibility.AtkWrapper\"";
-    case MenuObstacle::gtk2WithoutBridge:
-        return "; it uses GTK 2: install libatk-adaptor and log in again, or restart it with "
-               "GTK_MODULES=gail:atk-bridge";
-    case MenuObstacle::sandbox:
-        return "; it runs in a sandbox: allow it to talk to org.a11y.Bus and restart it";
-    case MenuObstacle::none:
-        break;
-    }
-    if (isRegistered) {
-        return "";
-    }
-    return isEnabled
-               ? "; restart it if it was started before accessibility was switched on"
-               : "; accessibility is switched off for toolkits: switch it on and restart the application";
-}
-
-std::optional<MenuReadShortfall> shortfallOf(const MenuReadReport& report,
-                                             const RunningApplication& application,
-                                             const MenuReadLimits& limits, bool isEnabled) {
-    const std::string name = nameOf(application);
-    const bool isPartial = report.nodes > 1; // more than the bar itself
-    switch (report.outcome) {
-    case MenuReadOutcome::completed:
-        return std::nullopt;
-    case MenuReadOutcome::applicationSilent:
-        return MenuReadShortfall{name + " did not answer within " + inSeconds(limits.silence), isPartial};
-    case MenuReadOutcome::tooSlow:
-        return MenuReadShortfall{name + " did not answer everything within " + inSeconds(limits.total),
-                                 isPartial};
-    case MenuReadOutcome::treeTooLarge:
-        return MenuReadShortfall{name + " has more menu items than are read at once", isPartial};
-    case MenuReadOutcome::applicationGone:
-        return MenuReadShortfall{name + " quit while its menus were read", isPartial};
-    case MenuReadOutcome::menusUnfilled:
-        return MenuReadShortfall{
-            name + " fills its menus only when they are opened: open each of them once, or, "
-                   "if the desktop's panel shows menus, set widget.gtk.global-menu.enabled "
-                   "in about:config",
-            false};
-    case MenuReadOutcome::noAccessibilityBus:
-        return MenuReadShortfall{"the accessibility bus cannot be reached", false};
-    case MenuReadOutcome::noMenuBar:
-    case MenuReadOutcome::notRegistered:
-        break;
-    }
-    const bool isRegistered = report.outcome == MenuReadOutcome::noMenuBar;
-    return MenuReadShortfall{
-        name + (isRegistered ? " shows no menu bar" : " is not on the accessibility bus") +
-            adviceOn(menuObstacleOf(application.processIdentifier()), isRegistered, isEnabled),
-        false};
-}
-
 } // namespace
 
 MenuSource liveMenuSource(const command_line::MenuSourceOptions& options) {
-    const auto windows = std::make_shared<X11WindowList>();
-    const auto bus = std::make_shared<AtspiBus>([windows] { return windows->accessibilityBusAddress(); });
-    const auto workspace = std::make_shared<LinuxWorkspace>(
-        windows, bus, std::make_shared<DesktopEntries>(DesktopEntries::ofEnvironment()));
-    const MenuReadLimits limits;
-    const auto accessibility = std::make_shared<LinuxAccessibility>(
-        MenuBuses{bus, std::make_shared<SessionBus>()},
-        [windows](std::int32_t processIdentifier) { return windows->windowsOf(processIdentifier); }, limits);
-    const std::shared_ptr<RunningApplication> application = runningApplication(options, *workspace, *windows);
-    return {
-        .application = application,
-        .accessibility = accessibility,
-        .isRecording = false,
-        .shortfall =
-            [=] {
-                const auto report = accessibility->lastReport();
-                return report ? shortfallOf(*report, *application, limits, bus->isEnabled()) : std::nullopt;
-            },
-        .bringToFront =
-            [=] {
-                constexpr std::chrono::milliseconds patience{500}; // a window manager takes a few
-                const auto front = workspace->frontApplication();
-                const bool isFront = front && front->processIdentifier() == application->processIdentifier();
-                return !isFront && workspace->activate(*application) &&
-                       workspace->waitUntilFront(*application, patience);
-            }};
+    const std::shared_ptr<Desktop> desktop = openDesktop();
+    if (!desktop) {
+        throw Failure("applications of this system cannot be read yet; name a recording with --recording");
+    }
+    const std::shared_ptr<RunningApplication> application = runningApplication(options, *desktop);
+    return {.application = application,
+            .accessibility = std::shared_ptr<Accessibility>(desktop, &desktop->accessibility()),
+            .isRecording = false,
+            .shortfall = [=] { return desktop->menuShortfall(*application); },
+            .bringToFront =
+                [=] {
+                    constexpr std::chrono::milliseconds patience{500}; // a window manager takes a few
+                    Workspace& workspace = desktop->workspace();
+                    const auto front = workspace.frontApplication();
+                    const bool isFront =
+                        front && front->processIdentifier() == application->processIdentifier();
+                    return !isFront && workspace.activate(*application) &&
+                           desktop->windows().waitUntilActive(application->processIdentifier(),
+                                                              std::chrono::steady_clock::now() + patience);
+                }};
 }
 
 } // namespace tovrel

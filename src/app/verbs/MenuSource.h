@@ -4,19 +4,13 @@
 #include <istream>
 #include <memory>
 #include <optional>
-#include <string>
 
+#include "app/desktop/Desktop.h"
 #include "app/verbs/CommandLine.h"
 #include "platform/Accessibility.h"
 #include "platform/RunningApplication.h"
 
 namespace tovrel {
-
-/// How the last read of an application's menus fell short.
-struct MenuReadShortfall {
-    std::string reason;      ///< A clause without a full stop: "mousepad did not answer within 0.3 s".
-    bool wasCutShort = true; ///< What was read is a part only; false when there was nothing to read.
-};
 
 /// Where the menus come from: an application and the door to it, be it live or recorded.
 struct MenuSource {

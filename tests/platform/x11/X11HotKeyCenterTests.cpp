@@ -209,7 +209,7 @@ TEST_F(X11HotKeyCenterTest, FiresUnderEveryCombinationOfLocksAndNoOtherModifier)
 }
 
 TEST_F(X11HotKeyCenterTest, RefusesWhatItCannotHaveAndKeepsNothingOfIt) {
-    const xcb_keycode_t p = x11KeyCode(keyP).value();
+    const xcb_keycode_t p = xkbKeyCode(keyP).value();
     const std::uint16_t modifiers = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_SHIFT;
     X11TestClient other(display_);
     const auto grabbed = [&](std::uint16_t locks) {
@@ -398,7 +398,7 @@ TEST_F(X11HotKeyCenterTest, TakesTheKeyboardFromEveryHotKey) {
     registered();
     X11TestClient other(display_);
     xcb_connection_t* connection = other.connection().handle();
-    xcb_grab_key(connection, 0, other.connection().root(), XCB_MOD_MASK_1, x11KeyCode(keyK).value(),
+    xcb_grab_key(connection, 0, other.connection().root(), XCB_MOD_MASK_1, xkbKeyCode(keyK).value(),
                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     xcb_flush(connection);
     front_.forget();

@@ -50,7 +50,7 @@ void X11TestClient::dispatch() {
         const unsigned type = event->response_type & 0x7FU;
         if (type == XCB_KEY_PRESS || type == XCB_KEY_RELEASE) {
             const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(*event);
-            keys_.push_back({virtualKeyCodeOfX11(key.detail).value_or(1000U + key.detail),
+            keys_.push_back({virtualKeyCodeOfXkb(key.detail).value_or(1000U + key.detail),
                              type == XCB_KEY_PRESS, static_cast<std::uint16_t>(key.state & 0xFFU)});
         } else if (type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT) {
             const auto& change = reinterpret_cast<const xcb_focus_in_event_t&>(*event);
@@ -111,7 +111,7 @@ std::vector<std::uint32_t> X11TestKeyboard::down() {
     const X11KeySet keys = keysDown(connection_.handle()).value();
     for (std::uint32_t key = 0; key < keys.size(); ++key) {
         if (keys[key]) {
-            codes.push_back(virtualKeyCodeOfX11(key).value_or(1000 + key));
+            codes.push_back(virtualKeyCodeOfXkb(key).value_or(1000 + key));
         }
     }
     return codes;
@@ -125,7 +125,7 @@ std::uint16_t X11TestKeyboard::modifiers() {
 
 void X11TestKeyboard::play(std::uint32_t keyCode, bool isPress) {
     const auto type = static_cast<std::uint8_t>(isPress ? pressType_ : pressType_ + 1);
-    xcb_test_fake_input(connection_.handle(), type, x11KeyCode(keyCode).value(), 0, XCB_NONE, 0, 0, device_);
+    xcb_test_fake_input(connection_.handle(), type, xkbKeyCode(keyCode).value(), 0, XCB_NONE, 0, 0, device_);
 }
 
 } // namespace tovrel

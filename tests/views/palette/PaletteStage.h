@@ -8,6 +8,7 @@
 #include "platform/memory/MemoryPreferencesDomain.h"
 #include "stores/PaletteSettingsStore.h"
 #include "windows/QtPalettePanel.h"
+#include "windows/QtWindowSystem.h"
 #include "windows/ViewEngine.h"
 
 namespace tovrel {
@@ -17,7 +18,7 @@ struct PaletteStage {
     PaletteStage()
         : panel({viewModel, settings, [this](const Command& command) { executed.push_back(command); },
                  [this] { ++dismissals; }},
-                textServices, engine, {}, nullptr) {}
+                textServices, engine, windowSystem, nullptr) {}
 
     /// Shows the commands and waits until the window is ready for keys.
     void show(std::vector<Command> commands, std::optional<Text> appName = std::nullopt,
@@ -30,6 +31,7 @@ struct PaletteStage {
     std::vector<Command> executed;
     int dismissals = 0;
     ViewEngine engine;
+    QtWindowSystem windowSystem;
     QtPalettePanel panel;
 };
 

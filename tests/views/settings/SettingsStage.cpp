@@ -10,9 +10,10 @@
 namespace tovrel {
 namespace {
 
-/// The virtual key code of an ANSI letter or function key by its evdev code, as far as the tests press them.
-std::optional<std::uint32_t> keyCodeFromEvdev(std::uint32_t evdev) {
-    switch (evdev) {
+/// The virtual key code of an ANSI letter or function key by the number a display has for it (evdev plus 8),
+/// as far as the tests press them.
+std::optional<std::uint32_t> keyCodeFromScanCode(std::uint32_t scanCode) {
+    switch (scanCode - 8) {
     case 14: // Backspace
         return 51;
     case 15: // Tab
@@ -49,11 +50,11 @@ QQuickItem* findVisible(QQuickItem* item, const QString& name) {
 SettingsStage::SettingsStage(const char* locale)
     : translations(locale), togglePalette(shortcuts.makeName("togglePalette", Shortcut{35, 768})),
       window({.engine = engine,
-              .windowSystem = {},
+              .windowSystem = windowSystem,
               .makeRecorder = [this] { return makeRecorder(); },
               .workspace = workspace,
               .textServices = textServices,
-              .keyCodeFromEvdev = keyCodeFromEvdev,
+              .keyCodeFromScanCode = keyCodeFromScanCode,
               .openURL = [this](const Text& url) { openedURLs.push_back(url); },
               .onMenuAction = [this](window_menu::Action action) { actions.push_back(action); }}) {}
 

@@ -16,6 +16,7 @@
 #include "settings/SettingsViewState.h"
 #include "stores/FailingPreferencesDomain.h"
 #include "windows/QtSettingsWindow.h"
+#include "windows/QtWindowSystem.h"
 #include "windows/Translations.h"
 #include "windows/ViewEngine.h"
 
@@ -78,6 +79,7 @@ class SettingsStage {
     std::vector<Text> openedURLs;
     std::vector<window_menu::Action> actions;
     ViewEngine engine;
+    QtWindowSystem windowSystem;
     QtSettingsWindow window;
 
   private:

@@ -63,12 +63,6 @@ void LinuxWorkspace::open(const Text& url) {
     startDetached({"xdg-open", std::string(url.utf8())});
 }
 
-bool LinuxWorkspace::waitUntilFront(const RunningApplication& application,
-                                    std::chrono::milliseconds patience) {
-    return windows_->waitUntilActive(application.processIdentifier(),
-                                     std::chrono::steady_clock::now() + patience);
-}
-
 std::shared_ptr<LinuxRunningApplication>
 LinuxWorkspace::applicationWithProcessIdentifier(std::int32_t processIdentifier) {
     if (!processStartTime(processIdentifier)) {

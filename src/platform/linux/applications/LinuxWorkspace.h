@@ -41,9 +41,6 @@ class LinuxWorkspace : public Workspace {
     /// Starts xdg-open and does not wait for it.
     void open(const Text& url) override;
 
-    /// Waits until a window of the application is active, as it soon is after `activate`.
-    bool waitUntilFront(const RunningApplication& application, std::chrono::milliseconds patience);
-
     /// Null when there is no such process.
     [[nodiscard]] std::shared_ptr<LinuxRunningApplication>
     applicationWithProcessIdentifier(std::int32_t processIdentifier);

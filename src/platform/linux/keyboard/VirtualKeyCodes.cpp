@@ -48,7 +48,7 @@ constexpr std::array<EvdevKey, 128> keys{
     KEY_RIGHT,      KEY_DOWN,       KEY_UP,         none, // 120
 };
 
-constexpr std::uint32_t x11Offset = 8;
+constexpr std::uint32_t xkbOffset = 8;
 
 } // namespace
 
@@ -64,15 +64,15 @@ std::optional<std::uint32_t> virtualKeyCode(EvdevKey key) {
                : std::nullopt;
 }
 
-std::optional<std::uint8_t> x11KeyCode(std::uint32_t virtualKeyCode) {
+std::optional<std::uint8_t> xkbKeyCode(std::uint32_t virtualKeyCode) {
     const auto key = evdevKey(virtualKeyCode);
-    return key ? std::optional(static_cast<std::uint8_t>(*key + x11Offset)) : std::nullopt;
+    return key ? std::optional(static_cast<std::uint8_t>(*key + xkbOffset)) : std::nullopt;
 }
 
-std::optional<std::uint32_t> virtualKeyCodeOfX11(std::uint32_t x11KeyCode) {
+std::optional<std::uint32_t> virtualKeyCodeOfXkb(std::uint32_t xkbKeyCode) {
     constexpr std::uint32_t last = 255;
-    return x11KeyCode >= x11Offset && x11KeyCode <= last
-               ? virtualKeyCode(static_cast<EvdevKey>(x11KeyCode - x11Offset))
+    return xkbKeyCode >= xkbOffset && xkbKeyCode <= last
+               ? virtualKeyCode(static_cast<EvdevKey>(xkbKeyCode - xkbOffset))
                : std::nullopt;
 }
 

@@ -18,8 +18,9 @@ using EvdevKey = std::uint16_t;
 [[nodiscard]] std::optional<EvdevKey> evdevKey(std::uint32_t virtualKeyCode);
 [[nodiscard]] std::optional<std::uint32_t> virtualKeyCode(EvdevKey key);
 
-/// An X server numbers the same keys from 8 on, 8 to 255 being the range the protocol leaves for them.
-[[nodiscard]] std::optional<std::uint8_t> x11KeyCode(std::uint32_t virtualKeyCode);
-[[nodiscard]] std::optional<std::uint32_t> virtualKeyCodeOfX11(std::uint32_t x11KeyCode);
+/// Displays number the same keys from 8 on, as keymaps of XKB do, and toolkits take their numbers over. None
+/// above 255 is known, which not every display can name.
+[[nodiscard]] std::optional<std::uint8_t> xkbKeyCode(std::uint32_t virtualKeyCode);
+[[nodiscard]] std::optional<std::uint32_t> virtualKeyCodeOfXkb(std::uint32_t xkbKeyCode);
 
 } // namespace tovrel

@@ -16,7 +16,8 @@ bool contains(const std::vector<xcb_window_t>& windows, xcb_window_t window) {
 
 void X11FocusWait::begin(const KeyDestination& destination) {
     end();
-    destination_ = destination;
+    destination_ = static_cast<xcb_window_t>(destination.window);
+    shouldHaveFocus_ = destination.shouldHaveFocus;
     isWaiting_ = true;
     selectEvents(true);
 }
@@ -29,7 +30,7 @@ void X11FocusWait::end() {
 }
 
 bool X11FocusWait::isReached() {
-    if (destination_.window == 0) {
+    if (destination_ == 0) {
         return true;
     }
     const xcb_window_t focused = focusedWindow();
@@ -37,14 +38,14 @@ bool X11FocusWait::isReached() {
         return false;
     }
     const std::vector<xcb_window_t> around = withAncestors(focused);
-    if (contains(around, destination_.window)) {
-        return destination_.shouldHaveFocus;
+    if (contains(around, destination_)) {
+        return shouldHaveFocus_;
     }
-    if (destination_.shouldHaveFocus) {
+    if (shouldHaveFocus_) {
         return false;
     }
     const auto active = connection_.activeWindow();
-    return active ? contains(around, *active) : !contains(withAncestors(destination_.window), focused);
+    return active ? contains(around, *active) : !contains(withAncestors(destination_), focused);
 }
 
 xcb_window_t X11FocusWait::focusedWindow() {
@@ -68,14 +69,14 @@ std::vector<xcb_window_t> X11FocusWait::withAncestors(xcb_window_t window) {
 }
 
 void X11FocusWait::selectEvents(bool isWanted) {
-    if (destination_.window == 0) {
+    if (destination_ == 0) {
         return;
     }
     const auto select = [this, isWanted](xcb_window_t window, std::uint32_t events) {
         const std::uint32_t mask = isWanted ? events : 0;
         xcb_change_window_attributes(connection_.handle(), window, XCB_CW_EVENT_MASK, &mask);
     };
-    select(destination_.window, XCB_EVENT_MASK_FOCUS_CHANGE);
+    select(destination_, XCB_EVENT_MASK_FOCUS_CHANGE);
     // The root window is told when the focus moves between it, or none, and any other window.
     select(connection_.root(), std::uint32_t{XCB_EVENT_MASK_FOCUS_CHANGE} | XCB_EVENT_MASK_PROPERTY_CHANGE);
 }

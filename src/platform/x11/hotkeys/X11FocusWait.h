@@ -2,16 +2,10 @@
 
 #include <vector>
 
+#include "platform/KeyDestination.h"
 #include "platform/x11/server/X11Connection.h"
 
 namespace tovrel {
-
-/// Where the keys typed after a hot key belong: to this window if it has been shown, to another one if it has
-/// been hidden.
-struct KeyDestination {
-    xcb_window_t window = 0; ///< 0: it does not matter.
-    bool shouldHaveFocus = false;
-};
 
 /// Waits by events until the keyboard focus of an X display is where keys are to go.
 class X11FocusWait {
@@ -41,7 +35,8 @@ class X11FocusWait {
     void selectEvents(bool isWanted);
 
     X11Connection& connection_;
-    KeyDestination destination_;
+    xcb_window_t destination_ = 0; ///< 0: it does not matter.
+    bool shouldHaveFocus_ = false;
     bool isWaiting_ = false;
 };
 

@@ -121,7 +121,7 @@ bool X11HotKeyCenter::isSystemShortcut(const Shortcut& shortcut) {
 }
 
 std::optional<Text> X11HotKeyCenter::characterForKeyCode(std::uint32_t keyCode) {
-    const auto key = x11KeyCode(keyCode);
+    const auto key = xkbKeyCode(keyCode);
     if (!key || !connection_.isOpen()) {
         return std::nullopt;
     }
@@ -146,7 +146,7 @@ std::variant<X11HotKeyGrab, HotKeyError> X11HotKeyCenter::grabFor(std::uint32_t 
     if (!keyMap_ || !connection_.isOpen() || !rawKeys_.isAvailable()) {
         return HotKeyError::noHotKeys;
     }
-    const auto key = x11KeyCode(keyCode);
+    const auto key = xkbKeyCode(keyCode);
     if (!key || !keyMap_->hasKey(*key)) {
         return HotKeyError::noSuchKey;
     }
@@ -254,13 +254,13 @@ void X11HotKeyCenter::handleTakenKey(const xcb_key_press_event_t& event, bool is
                                      KeyboardGuard::Hold hold) {
     KeyEvent key;
     key.type = isPress ? KeyEventType::keyDown : KeyEventType::keyUp;
-    key.keyCode = virtualKeyCodeOfX11(event.detail).value_or(key_codes::unknown);
+    key.keyCode = virtualKeyCodeOfXkb(event.detail).value_or(key_codes::unknown);
     key.modifierFlags = keyMap_->flagsFor(event.state & modifierBits);
     takenKeyboard_.handleKey(key, hold);
 }
 
 void X11HotKeyCenter::handleRawKey(const X11RawKeys::Key& key) {
-    const auto keyCode = virtualKeyCodeOfX11(key.keyCode);
+    const auto keyCode = virtualKeyCodeOfXkb(key.keyCode);
     if (rawHandler_ && keyCode && keyMap_) {
         const RawKeyHandler handler = rawHandler_; // it may replace itself
         KeyEvent event;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/HotKeyCenter.h"
+#include "platform/KeyDestination.h"
 #include "platform/MainQueue.h"
 #include "platform/posix/EventSource.h"
 #include "platform/x11/hotkeys/KeyboardGuard.h"

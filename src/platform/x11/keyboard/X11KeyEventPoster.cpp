@@ -82,7 +82,7 @@ X11KeyEventPoster::X11KeyEventPoster(const char* display) : connection_(display)
 }
 
 bool X11KeyEventPoster::postKeyPress(std::uint16_t keyCode, ModifierFlags flags) {
-    const auto key = x11KeyCode(keyCode);
+    const auto key = xkbKeyCode(keyCode);
     const auto keyMap = X11KeyMap::read(connection_.handle());
     if (!isAvailable_ || !key || !keyMap || !keyMap->hasKey(*key)) {
         return false;

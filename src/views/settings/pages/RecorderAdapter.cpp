@@ -7,9 +7,9 @@
 
 namespace tovrel {
 
-RecorderAdapter::RecorderAdapter(std::unique_ptr<RecorderCocoa> recorder, KeyCodeFromEvdev keyCodeFromEvdev,
-                                 QObject* parent)
-    : QObject(parent), recorder_(std::move(recorder)), keyCodeFromEvdev_(std::move(keyCodeFromEvdev)) {
+RecorderAdapter::RecorderAdapter(std::unique_ptr<RecorderCocoa> recorder,
+                                 KeyCodeFromScanCode keyCodeFromScanCode, QObject* parent)
+    : QObject(parent), recorder_(std::move(recorder)), keyCodeFromScanCode_(std::move(keyCodeFromScanCode)) {
     subscriptions_.push_back(recorder_->stringValue().subscribe([this] { Q_EMIT textChanged(); }));
     subscriptions_.push_back(recorder_->placeholder().subscribe([this] { Q_EMIT placeholderChanged(); }));
     subscriptions_.push_back(recorder_->problem().subscribe([this] { Q_EMIT problemChanged(); }));
@@ -37,7 +37,7 @@ QString RecorderAdapter::problem() const {
 }
 
 bool RecorderAdapter::handleKeyDown(const QKeyEvent& event) {
-    return recorder_->handleKeyDown(keyEventFrom(event, keyCodeFromEvdev_));
+    return recorder_->handleKeyDown(keyEventFrom(event, keyCodeFromScanCode_));
 }
 
 } // namespace tovrel

@@ -23,7 +23,7 @@ class RecorderAdapter : public QObject {
     Q_PROPERTY(bool isRecording READ isRecording NOTIFY isRecordingChanged FINAL)
 
   public:
-    RecorderAdapter(std::unique_ptr<RecorderCocoa> recorder, KeyCodeFromEvdev keyCodeFromEvdev,
+    RecorderAdapter(std::unique_ptr<RecorderCocoa> recorder, KeyCodeFromScanCode keyCodeFromScanCode,
                     QObject* parent = nullptr);
 
     /// The shortcut; empty when there is none.
@@ -56,7 +56,7 @@ class RecorderAdapter : public QObject {
 
   private:
     std::unique_ptr<RecorderCocoa> recorder_;
-    KeyCodeFromEvdev keyCodeFromEvdev_;
+    KeyCodeFromScanCode keyCodeFromScanCode_;
     std::vector<Subscription> subscriptions_;
 };
 

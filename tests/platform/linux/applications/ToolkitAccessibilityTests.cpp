@@ -10,42 +10,29 @@
 
 #include "platform/linux/ChildProcess.h"
 #include "platform/linux/menus/FakeAccessibility.h"
-#include "platform/x11/X11ServerFixture.h"
-#include "platform/x11/X11TestClient.h"
-#include "platform/x11/windows/X11WindowList.h"
+#include "platform/memory/MemoryWindowList.h"
 
 namespace tovrel {
 namespace {
 
-class ToolkitAccessibilityTest : public X11ServerTest {
+class ToolkitAccessibilityTest : public testing::Test {
   protected:
     /// A window of a process, with the class as its name.
     void addWindow(std::int32_t process, const std::string& name) {
-        auto client = std::make_unique<X11TestClient>(display_);
-        X11Connection& connection = client->connection();
-        const auto number = static_cast<std::uint32_t>(process);
-        const std::string windowClass = name + '\0' + name + '\0';
-        xcb_change_property(connection.handle(), XCB_PROP_MODE_REPLACE, client->window(),
-                            connection.atom("_NET_WM_PID"), XCB_ATOM_CARDINAL, 32, 1, &number);
-        xcb_change_property(connection.handle(), XCB_PROP_MODE_REPLACE, client->window(), XCB_ATOM_WM_CLASS,
-                            XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(windowClass.size()),
-                            windowClass.data());
-        windows_.push_back(client->window());
-        xcb_change_property(connection.handle(), XCB_PROP_MODE_REPLACE, connection.root(),
-                            connection.atom("_NET_CLIENT_LIST"), XCB_ATOM_WINDOW, 32,
-                            static_cast<std::uint32_t>(windows_.size()), windows_.data());
-        static_cast<void>(
-            connection.numbers(connection.root(), "_NET_CLIENT_LIST")); // Answered after it is done.
-        clients_.push_back(std::move(client));
+        ApplicationWindow window;
+        window.identifier = name + std::to_string(windows_->windows().size());
+        window.processIdentifier = process;
+        window.instanceName = name;
+        window.className = name;
+        windows_->open(std::move(window));
     }
 
     FakeAccessibility accessibility_;
-    std::vector<std::unique_ptr<X11TestClient>> clients_;
-    std::vector<std::uint32_t> windows_;
+    std::shared_ptr<MemoryWindowList> windows_ = std::make_shared<MemoryWindowList>();
     std::shared_ptr<AtspiBus> bus_ = std::make_shared<AtspiBus>();
     ToolkitAccessibility toolkits_{bus_,
                                    std::make_shared<LinuxWorkspace>(
-                                       std::make_shared<X11WindowList>(display_.c_str()), bus_,
+                                       windows_, bus_,
                                        std::make_shared<DesktopEntries>(std::vector<std::filesystem::path>(),
                                                                         std::string("C"), DesktopSession()))};
 };

@@ -10,7 +10,7 @@ namespace {
 
 TEST(VirtualKeyCodes, NameOnePositionEachInBothDirections) {
     EXPECT_EQ(evdevKey(35), KEY_P);
-    EXPECT_EQ(x11KeyCode(35), KEY_P + 8);
+    EXPECT_EQ(xkbKeyCode(35), KEY_P + 8);
     EXPECT_EQ(evdevKey(122), KEY_F1);
     EXPECT_EQ(evdevKey(90), KEY_F20);
     EXPECT_EQ(evdevKey(126), KEY_UP);
@@ -24,7 +24,7 @@ TEST(VirtualKeyCodes, NameOnePositionEachInBothDirections) {
         if (const auto key = evdevKey(code)) {
             EXPECT_TRUE(met.insert(*key).second) << code;
             EXPECT_EQ(virtualKeyCode(*key), code);
-            EXPECT_EQ(virtualKeyCodeOfX11(x11KeyCode(code).value()), code);
+            EXPECT_EQ(virtualKeyCodeOfXkb(xkbKeyCode(code).value()), code);
         }
     }
     // All letters, digits and function keys to F20.
@@ -38,8 +38,8 @@ TEST(VirtualKeyCodes, NameOnePositionEachInBothDirections) {
     EXPECT_EQ(evdevKey(63), std::nullopt) << "the Function key";
     EXPECT_EQ(virtualKeyCode(KEY_RESERVED), std::nullopt);
     EXPECT_EQ(virtualKeyCode(KEY_CAMERA), std::nullopt);
-    EXPECT_EQ(virtualKeyCodeOfX11(7), std::nullopt);
-    EXPECT_EQ(virtualKeyCodeOfX11(65536 + 8 + KEY_P), std::nullopt);
+    EXPECT_EQ(virtualKeyCodeOfXkb(7), std::nullopt);
+    EXPECT_EQ(virtualKeyCodeOfXkb(65536 + 8 + KEY_P), std::nullopt);
 }
 
 } // namespace

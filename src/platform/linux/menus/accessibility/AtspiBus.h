@@ -22,7 +22,7 @@ struct AtspiApplication {
 /// application is asked here, only the bus and the registry on it, so a hung application delays nothing.
 class AtspiBus {
   public:
-    /// `addressOnScreen` answers the address that the display's root window carries, which is the only source
+    /// `addressOnScreen` answers the address that the display carries, which is the only source
     /// left when the session bus is out of reach; it may be empty.
     explicit AtspiBus(std::function<std::optional<std::string>()> addressOnScreen = {});
 
