@@ -1,9 +1,9 @@
 #include "views/settings/pages/SettingsLabels.h"
 
 #include <QCoreApplication>
-#include <utility>
 
 #include "qt/QtText.h"
+#include "support/Fatal.h"
 
 namespace tovrel::settings_labels {
 namespace {
@@ -14,42 +14,72 @@ struct KindTexts {
     const char* payloadPlaceholder;
 };
 
-/// In declaration order of CustomCommandKind.
-constexpr std::array<KindTexts, allCustomCommandKinds.size()> kindTexts{{
-    {"terminal", QT_TRANSLATE_NOOP("SettingsLabels", "Shell"),
-     QT_TRANSLATE_NOOP("SettingsLabels", "Shell command or script path")},
-    {"scroll", QT_TRANSLATE_NOOP("SettingsLabels", "AppleScript"),
-     QT_TRANSLATE_NOOP("SettingsLabels", "AppleScript text or .scpt path")},
-    {"folder", QT_TRANSLATE_NOOP("SettingsLabels", "Open"),
-     QT_TRANSLATE_NOOP("SettingsLabels", "App, file, folder, or URL")},
-    {"bolt", QT_TRANSLATE_NOOP("SettingsLabels", "Shortcut"),
-     QT_TRANSLATE_NOOP("SettingsLabels", "Shortcut name or URL")},
-}};
+KindTexts textsOf(CustomCommandKind kind) {
+    switch (kind) {
+    case CustomCommandKind::shellScript:
+        return {"terminal", QT_TRANSLATE_NOOP("SettingsLabels", "Shell"),
+                QT_TRANSLATE_NOOP("SettingsLabels", "Shell command or script path")};
+    case CustomCommandKind::appleScript:
+        return {"scroll", QT_TRANSLATE_NOOP("SettingsLabels", "AppleScript"),
+                QT_TRANSLATE_NOOP("SettingsLabels", "AppleScript text or .scpt path")};
+    case CustomCommandKind::open:
+        return {"folder", QT_TRANSLATE_NOOP("SettingsLabels", "Open"),
+                QT_TRANSLATE_NOOP("SettingsLabels", "App, file, folder, or URL")};
+    case CustomCommandKind::shortcut:
+        return {"bolt", QT_TRANSLATE_NOOP("SettingsLabels", "Shortcut"),
+                QT_TRANSLATE_NOOP("SettingsLabels", "Shortcut name or URL")};
+    }
+    noSuchValue("CustomCommandKind");
+}
 
-/// In declaration order of AppBehaviorRule.
-constexpr std::array<const char*, allAppBehaviorRules.size()> behaviorLabels{
-    QT_TRANSLATE_NOOP("SettingsLabels", "Enabled"), QT_TRANSLATE_NOOP("SettingsLabels", "Disabled"),
-    QT_TRANSLATE_NOOP("SettingsLabels", "Auto")};
+const char* labelOf(AppBehaviorRule rule) {
+    switch (rule) {
+    case AppBehaviorRule::enabled:
+        return QT_TRANSLATE_NOOP("SettingsLabels", "Enabled");
+    case AppBehaviorRule::disabled:
+        return QT_TRANSLATE_NOOP("SettingsLabels", "Disabled");
+    case AppBehaviorRule::automatic:
+        return QT_TRANSLATE_NOOP("SettingsLabels", "Auto");
+    }
+    noSuchValue("AppBehaviorRule");
+}
 
-/// In declaration order of PreferencesObstacle, except for its last one.
-constexpr std::array<const char*, static_cast<std::size_t>(PreferencesObstacle::other)> obstacleSentences{
-    QT_TRANSLATE_NOOP("SettingsLabels", "Another program keeps the preferences locked. Try again."),
-    QT_TRANSLATE_NOOP("SettingsLabels", "There is no room left on the disk for the preferences."),
-    QT_TRANSLATE_NOOP("SettingsLabels", "You are not allowed to change the file of the preferences."),
-    QT_TRANSLATE_NOOP("SettingsLabels",
-                      "A later version of Tovrel wrote the preferences, so they are left alone."),
-    QT_TRANSLATE_NOOP("SettingsLabels", "Another program's file is in the place of the preferences."),
-    QT_TRANSLATE_NOOP("SettingsLabels", "Something that is no file is in the place of the preferences.")};
+const char* labelOf(MenuBlacklistMode mode) {
+    switch (mode) {
+    case MenuBlacklistMode::excludeSelf:
+        return QT_TRANSLATE_NOOP("SettingsLabels", "Hide Item Only");
+    case MenuBlacklistMode::excludeChildren:
+        return QT_TRANSLATE_NOOP("SettingsLabels", "Hide Submenus");
+    case MenuBlacklistMode::excludeSelfAndChildren:
+        return QT_TRANSLATE_NOOP("SettingsLabels", "Hide Item and Submenus");
+    }
+    noSuchValue("MenuBlacklistMode");
+}
 
-/// In declaration order of MenuBlacklistMode.
-constexpr std::array<const char*, allMenuBlacklistModes.size()> modeLabels{
-    QT_TRANSLATE_NOOP("SettingsLabels", "Hide Item Only"),
-    QT_TRANSLATE_NOOP("SettingsLabels", "Hide Submenus"),
-    QT_TRANSLATE_NOOP("SettingsLabels", "Hide Item and Submenus")};
-
-template <typename Texts, typename Value>
-const auto& of(const Texts& texts, Value value) {
-    return texts.at(static_cast<std::size_t>(value));
+/// Null where only the system has words for it.
+const char* sentenceOf(PreferencesObstacle obstacle) {
+    switch (obstacle) {
+    case PreferencesObstacle::locked:
+        return QT_TRANSLATE_NOOP("SettingsLabels",
+                                 "Another program keeps the preferences locked. Try again.");
+    case PreferencesObstacle::noRoom:
+        return QT_TRANSLATE_NOOP("SettingsLabels", "There is no room left on the disk for the preferences.");
+    case PreferencesObstacle::notPermitted:
+        return QT_TRANSLATE_NOOP("SettingsLabels",
+                                 "You are not allowed to change the file of the preferences.");
+    case PreferencesObstacle::laterVersion:
+        return QT_TRANSLATE_NOOP("SettingsLabels",
+                                 "A later version of Tovrel wrote the preferences, so they are left alone.");
+    case PreferencesObstacle::foreign:
+        return QT_TRANSLATE_NOOP("SettingsLabels",
+                                 "Another program's file is in the place of the preferences.");
+    case PreferencesObstacle::notAFile:
+        return QT_TRANSLATE_NOOP("SettingsLabels",
+                                 "Something that is no file is in the place of the preferences.");
+    case PreferencesObstacle::other:
+        return nullptr;
+    }
+    noSuchValue("PreferencesObstacle");
 }
 
 QString translated(const char* key) {
@@ -59,29 +89,28 @@ QString translated(const char* key) {
 } // namespace
 
 QString label(AppBehaviorRule rule) {
-    return translated(of(behaviorLabels, rule));
+    return translated(labelOf(rule));
 }
 
 QString label(MenuBlacklistMode mode) {
-    return translated(of(modeLabels, mode));
+    return translated(labelOf(mode));
 }
 
 QString label(CustomCommandKind kind) {
-    return translated(of(kindTexts, kind).label);
+    return translated(textsOf(kind).label);
 }
 
 QString sentence(const PreferencesFailure& failure) {
-    const auto index = static_cast<std::size_t>(failure.obstacle);
-    return index < obstacleSentences.size() ? translated(obstacleSentences[index])
-                                            : QString::fromStdString(failure.reason);
+    const char* known = sentenceOf(failure.obstacle);
+    return known != nullptr ? translated(known) : QString::fromStdString(failure.reason);
 }
 
 const char* symbol(CustomCommandKind kind) {
-    return of(kindTexts, kind).symbol;
+    return textsOf(kind).symbol;
 }
 
 QString payloadPlaceholder(CustomCommandKind kind) {
-    return translated(of(kindTexts, kind).payloadPlaceholder);
+    return translated(textsOf(kind).payloadPlaceholder);
 }
 
 QString scope(const std::optional<Text>& appScope) {
