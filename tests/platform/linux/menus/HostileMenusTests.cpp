@@ -205,7 +205,7 @@ class HostileMenusTest : public testing::TestWithParam<Attack> {
         static_cast<void>(textServices.collationKey("warm"));
         const auto read = [&, reader = getpid()] {
             ApplicationWindow window;
-            window.identifier = 7;
+            window.registrarIdentifier = 7;
             if (isGtk) {
                 window.gtkMenus = GtkMenuAddress{service_->uniqueName(), "/menu", "/app", ""};
             }

@@ -89,7 +89,7 @@ class PublishedMenusTest : public testing::Test {
     /// This process's window as it publishes menus.
     [[nodiscard]] ApplicationWindow window() const {
         ApplicationWindow published;
-        published.identifier = 7;
+        published.registrarIdentifier = 7;
         published.isModal = isModal_;
         if (service_ && isGtk_) {
             published.gtkMenus = GtkMenuAddress{service_->name(), "/menu", "/app", "/window"};
