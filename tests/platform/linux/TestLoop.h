@@ -17,6 +17,7 @@ class TestLoop : public MainQueue {
     void postAfter(std::chrono::milliseconds delay, Task task) override;
 
     void watch(EventSource& source) { sources_.push_back(&source); }
+    void forget(const EventSource& source) { std::erase(sources_, &source); }
 
     /// Runs until the condition holds; whether it did within the time a test has patience.
     bool runUntil(const std::function<bool()>& condition,

@@ -43,10 +43,6 @@ std::vector<std::uint32_t> tenKeys() {
 class X11HotKeyCenterTest : public X11ServerTest {
   protected:
     void SetUp() override {
-        X11ServerTest::SetUp();
-        if (HasFatalFailure()) {
-            return;
-        }
         for (EventSource* source : std::initializer_list<EventSource*>{&center_, &front_, &panel_}) {
             loop_.watch(*source);
         }

@@ -29,7 +29,6 @@ constexpr std::uint32_t keySuper = 59;
 class X11KeyEventPosterTest : public X11ServerTest {
   protected:
     void SetUp() override {
-        X11ServerTest::SetUp();
         loop_.watch(front_);
         front_.map();
         ASSERT_TRUE(loop_.runUntil([&] { return front_.isMapped(); }));
