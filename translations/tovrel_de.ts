@@ -459,6 +459,14 @@
         <source>The desktop refuses this shortcut.</source>
         <translation>Der Desktop lehnt dieses Kürzel ab.</translation>
     </message>
+    <message>
+        <source>Tovrel is disabled in this app</source>
+        <translation>In dieser App ist Tovrel deaktiviert</translation>
+    </message>
+    <message>
+        <source>The app does not receive %@ either: on this desktop no program can pass it on.</source>
+        <translation>Auch die App bekommt %@ nicht: Auf diesem Desktop kann kein Programm es weitergeben.</translation>
+    </message>
 </context>
 <context>
     <name>MenuFilterTab</name>

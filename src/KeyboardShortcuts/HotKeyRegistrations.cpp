@@ -26,38 +26,33 @@ std::uint32_t unsigned32(std::int64_t value) {
 } // namespace
 
 HotKeyRegistrations::HotKeyRegistrations(HotKeyCenter& center, const TextServices& textServices,
-                                         std::ostream& output, Callback onKeyDown, Callback onKeyUp)
+                                         std::ostream& output, Callback onKeyDown, Callback onKeyUp,
+                                         std::function<void()> onLateOutcome)
     : center_(&center), textServices_(&textServices), output_(&output), onKeyDown_(std::move(onKeyDown)),
-      onKeyUp_(std::move(onKeyUp)) {}
+      onKeyUp_(std::move(onKeyUp)), onLateOutcome_(std::move(onLateOutcome)) {}
 
 HotKeyRegistrations::~HotKeyRegistrations() {
     center_->setHotKeyHandler(nullptr);
     center_->setRawKeyHandler(nullptr);
-    for (const auto& [id, record] : records_) {
-        if (record.handle) {
-            center_->unregisterHotKey(*record.handle);
-        }
+    for (auto& [id, record] : records_) {
+        giveBack(record);
     }
 }
 
 void HotKeyRegistrations::registerShortcut(const Shortcut& shortcut) {
     lastId_ = checkedAdd(lastId_, 1);
     const std::uint32_t id = unsigned32(lastId_);
-    take(id, records_.emplace(id, Record{shortcut, std::nullopt, std::nullopt}).first->second);
+    take(id, records_.emplace(id, Record(shortcut)).first->second);
     installHandlerOnce();
 }
 
 void HotKeyRegistrations::unregisterShortcut(const Shortcut& shortcut) {
-    std::erase_if(records_, [&](const auto& entry) {
-        const Record& record = entry.second;
-        if (record.shortcut != shortcut) {
-            return false;
+    for (auto& [id, record] : records_) {
+        if (record.shortcut == shortcut) {
+            giveBack(record);
         }
-        if (record.handle) {
-            center_->unregisterHotKey(*record.handle);
-        }
-        return true;
-    });
+    }
+    std::erase_if(records_, [&](const auto& entry) { return entry.second.shortcut == shortcut; });
     down_.erase(shortcut);
 }
 
@@ -66,11 +61,12 @@ void HotKeyRegistrations::retryRefused() {
         return; // At its end all are tried.
     }
     for (auto& [id, record] : records_) {
-        if (const auto refusal = record.handle ? center_->refusal(*record.handle) : std::nullopt) {
-            center_->unregisterHotKey(*std::exchange(record.handle, std::nullopt));
+        if (const auto refusal =
+                record.state == State::registered ? center_->refusal(record.handle) : std::nullopt) {
+            giveBack(record);
             record.refusal = refusal;
         }
-        if (!record.handle) {
+        if (!record.isHeld()) {
             take(id, record);
         }
     }
@@ -87,6 +83,16 @@ std::map<Shortcut, HotKeyError> HotKeyRegistrations::refusals() const {
     return refusals;
 }
 
+std::map<Shortcut, Text> HotKeyRegistrations::desktopTriggers() const {
+    std::map<Shortcut, Text> triggers;
+    for (const auto& [id, record] : records_) {
+        if (record.desktopTrigger) {
+            triggers.emplace(record.shortcut, *record.desktopTrigger);
+        }
+    }
+    return triggers;
+}
+
 void HotKeyRegistrations::setMenuOpen(bool isOpen) {
     if (std::exchange(isMenuOpen_, isOpen) != isOpen && isHandlerInstalled_) {
         updateEventHandler();
@@ -95,17 +101,42 @@ void HotKeyRegistrations::setMenuOpen(bool isOpen) {
 
 void HotKeyRegistrations::take(std::uint32_t id, Record& record) {
     const Shortcut& shortcut = record.shortcut;
-    const auto result = center_->registerHotKey(unsigned32(shortcut.carbonKeyCode),
-                                                unsigned32(shortcut.carbonModifiers), {signature, id});
-    if (const auto* handle = std::get_if<HotKeyHandle>(&result)) {
-        record.handle = *handle;
-        record.refusal.reset();
-        return;
+    record.state = State::asked;
+    const bool wasTaking = std::exchange(isTaking_, true);
+    record.handle = center_->registerHotKey(
+        unsigned32(shortcut.carbonKeyCode), unsigned32(shortcut.carbonModifiers), {signature, id},
+        [this, id](const HotKeyOutcome& outcome) { complete(id, outcome); });
+    isTaking_ = wasTaking;
+}
+
+void HotKeyRegistrations::giveBack(Record& record) {
+    if (record.isHeld()) {
+        record.state = State::givenBack;
+        center_->unregisterHotKey(record.handle);
     }
-    const HotKeyError error = std::get<HotKeyError>(result);
+}
+
+void HotKeyRegistrations::complete(std::uint32_t id, const HotKeyOutcome& outcome) {
+    Record& record = records_.at(id); // Of one that was given back nothing is told.
+    if (const auto* registered = std::get_if<HotKeyRegistered>(&outcome)) {
+        record.state = State::registered;
+        record.refusal.reset();
+        record.desktopTrigger = registered->desktopTrigger;
+    } else {
+        refuse(record, std::get<HotKeyError>(outcome));
+    }
+    if (!isTaking_) {
+        installHandlerOnce();
+        onLateOutcome_();
+    }
+}
+
+void HotKeyRegistrations::refuse(Record& record, HotKeyError error) {
+    record.state = State::refused;
+    record.desktopTrigger.reset();
     if (!std::exchange(record.refusal, error)) {
         const Text text = symbolicText(
-            shortcut, [this](std::uint32_t keyCode) { return center_->characterForKeyCode(keyCode); },
+            record.shortcut, [this](std::uint32_t keyCode) { return center_->characterForKeyCode(keyCode); },
             *textServices_);
         *output_ << "Error registering hotkey " << printable(text.utf8()) << ": "
                  << static_cast<std::int32_t>(error) << std::endl;
@@ -113,8 +144,9 @@ void HotKeyRegistrations::take(std::uint32_t id, Record& record) {
 }
 
 void HotKeyRegistrations::installHandlerOnce() {
-    const bool isNeeded = std::any_of(records_.begin(), records_.end(),
-                                      [](const auto& entry) { return entry.second.handle.has_value(); });
+    const bool isNeeded = std::any_of(records_.begin(), records_.end(), [](const auto& entry) {
+        return entry.second.state == State::registered;
+    });
     if (isNeeded && !std::exchange(isHandlerInstalled_, true)) {
         updateEventHandler();
     }
@@ -123,16 +155,14 @@ void HotKeyRegistrations::installHandlerOnce() {
 void HotKeyRegistrations::updateEventHandler() {
     if (isMenuOpen_) {
         for (auto& [id, record] : records_) {
-            if (const auto handle = std::exchange(record.handle, std::nullopt)) {
-                center_->unregisterHotKey(*handle);
-            }
+            giveBack(record);
         }
         center_->setHotKeyHandler(nullptr);
         center_->setRawKeyHandler([this](const KeyEvent& event) { return handleRawKey(event); });
         return;
     }
     for (auto& [id, record] : records_) {
-        if (!record.handle) {
+        if (!record.isHeld()) {
             take(id, record);
         }
     }

@@ -15,6 +15,9 @@ namespace tovrel {
 
 /// The shortcuts this module has registered system-wide, and the events that come of them.
 ///
+/// The desktop may answer a registration at once or later. Until it has, nothing is said of the shortcut but
+/// what was the case before: it is neither refused anew nor had.
+///
 /// While one of the program's menus is open the desktop delivers no hot keys: they are then given back, and
 /// the raw key events that reach the menu are matched instead. A shortcut that is down when a menu opens or
 /// closes is followed to its release all the same.
@@ -23,9 +26,11 @@ class HotKeyRegistrations {
     /// Told the shortcut that went down or up.
     using Callback = std::function<void(const Shortcut&)>;
 
-    /// Of a refused registration one line is written to `output`. All references must outlive the object.
+    /// Of a refused registration one line is written to `output`. `onLateOutcome` is called when the desktop
+    /// has answered, except while one of the operations below has just asked it. All references must outlive
+    /// the object.
     HotKeyRegistrations(HotKeyCenter& center, const TextServices& textServices, std::ostream& output,
-                        Callback onKeyDown, Callback onKeyUp);
+                        Callback onKeyDown, Callback onKeyUp, std::function<void()> onLateOutcome);
     ~HotKeyRegistrations();
     HotKeyRegistrations(const HotKeyRegistrations&) = delete;
     HotKeyRegistrations& operator=(const HotKeyRegistrations&) = delete;
@@ -41,17 +46,30 @@ class HotKeyRegistrations {
     /// The registered shortcuts that do not fire, and why.
     [[nodiscard]] std::map<Shortcut, HotKeyError> refusals() const;
 
+    /// What to press for those shortcuts of which the desktop has its own words (HotKeyRegistered).
+    [[nodiscard]] std::map<Shortcut, Text> desktopTriggers() const;
+
     /// Whether one of this program's menus is open. Initially none is.
     void setMenuOpen(bool isOpen);
 
   private:
+    enum class State { givenBack, asked, registered, refused };
     struct Record {
+        explicit Record(const Shortcut& wanted) : shortcut(wanted) {}
+
         Shortcut shortcut;
-        std::optional<HotKeyHandle> handle; ///< Absent while given back or refused.
-        std::optional<HotKeyError> refusal; ///< When it was tried last.
+        State state = State::givenBack;
+        HotKeyHandle handle = 0;            ///< While it is asked for or registered.
+        std::optional<HotKeyError> refusal; ///< The latest answer, where that was one.
+        std::optional<Text> desktopTrigger; ///< The latest that was told.
+
+        [[nodiscard]] bool isHeld() const { return state == State::asked || state == State::registered; }
     };
 
     void take(std::uint32_t id, Record& record);
+    void giveBack(Record& record);
+    void complete(std::uint32_t id, const HotKeyOutcome& outcome);
+    void refuse(Record& record, HotKeyError error);
     void installHandlerOnce();
     void updateEventHandler();
     bool handleHotKey(const HotKeyEvent& event);
@@ -62,8 +80,10 @@ class HotKeyRegistrations {
     std::ostream* output_;
     Callback onKeyDown_;
     Callback onKeyUp_;
+    std::function<void()> onLateOutcome_;
     std::map<std::uint32_t, Record> records_; ///< By hot-key id.
     std::int64_t lastId_ = 0;
+    bool isTaking_ = false; ///< The outcome may come before the call returns that asks for it.
     bool isHandlerInstalled_ = false;
     bool isMenuOpen_ = false;
     std::set<Shortcut> down_; ///< Those that fired and have not come up.

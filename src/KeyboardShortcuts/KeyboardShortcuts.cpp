@@ -7,6 +7,13 @@
 namespace tovrel {
 namespace {
 
+template <typename Value>
+std::optional<Value> ofShortcut(const std::map<Shortcut, Value>& values,
+                                const std::optional<Shortcut>& shortcut) {
+    const auto found = shortcut ? values.find(*shortcut) : values.end();
+    return found == values.end() ? std::nullopt : std::optional(found->second);
+}
+
 std::string storageKey(const KeyboardShortcuts::Name& name) {
     return "KeyboardShortcuts_" + name.rawValue;
 }
@@ -20,7 +27,8 @@ KeyboardShortcuts::KeyboardShortcuts(PreferencesDomain& defaults, HotKeyCenter& 
       hotKeys_(
           center, textServices, output,
           [this](const Shortcut& fired) { callHandlers(keyDownHandlers_, fired); },
-          [this](const Shortcut& fired) { callHandlers(keyUpHandlers_, fired); }),
+          [this](const Shortcut& fired) { callHandlers(keyUpHandlers_, fired); },
+          [this] { tellAvailability(); }),
       menuTracking_(userInterface.onMenuTracking([this](bool isOpen) {
           hotKeys_.setMenuOpen(isOpen);
           tellAvailability();
@@ -101,10 +109,11 @@ void KeyboardShortcuts::setShortcut(const std::optional<Shortcut>& shortcut, con
 }
 
 std::optional<HotKeyError> KeyboardShortcuts::refusal(const Name& name) const {
-    const auto refusals = hotKeys_.refusals();
-    const auto shortcut = getShortcut(name);
-    const auto found = shortcut ? refusals.find(*shortcut) : refusals.end();
-    return found == refusals.end() ? std::nullopt : std::optional(found->second);
+    return ofShortcut(hotKeys_.refusals(), getShortcut(name));
+}
+
+std::optional<Text> KeyboardShortcuts::desktopTrigger(const Name& name) const {
+    return ofShortcut(hotKeys_.desktopTriggers(), getShortcut(name));
 }
 
 void KeyboardShortcuts::retryRefused() {
@@ -184,8 +193,10 @@ void KeyboardShortcuts::unregister(const Shortcut& shortcut) {
 
 void KeyboardShortcuts::tellAvailability() {
     auto refusals = hotKeys_.refusals();
-    if (refusals != toldRefusals_) {
+    auto triggers = hotKeys_.desktopTriggers();
+    if (refusals != toldRefusals_ || triggers != toldTriggers_) {
         toldRefusals_ = std::move(refusals);
+        toldTriggers_ = std::move(triggers);
         availabilityDidChange_.notify();
     }
 }

@@ -54,14 +54,20 @@ class KeyboardShortcuts {
     /// without a shortcut stays untouched by its removal, and so does every name when this cannot be stored.
     void setShortcut(const std::optional<Shortcut>& shortcut, const Name& name);
 
-    /// Why the name's shortcut does not fire although it is registered; absent while it does.
+    /// Why the name's shortcut does not fire although it is registered; absent while it does, and until the
+    /// desktop has answered.
     [[nodiscard]] std::optional<HotKeyError> refusal(const Name& name) const;
+
+    /// What the user is to press instead of the name's shortcut: the desktop's own words, where it has chosen
+    /// the combination or lets the user change it. Absent where it is the shortcut.
+    [[nodiscard]] std::optional<Text> desktopTrigger(const Name& name) const;
 
     /// Tries what was refused once more: nothing tells when another program lets a combination go. A change
     /// of the keyboard does so by itself.
     void retryRefused();
 
-    /// The observer is called when some shortcut was refused, or could be had at last.
+    /// The observer is called when some shortcut was refused, or could be had at last, or has got another
+    /// trigger of the desktop's.
     [[nodiscard]] Subscription onAvailabilityDidChange(std::function<void()> observer) const {
         return availabilityDidChange_.subscribe(std::move(observer));
     }
@@ -112,6 +118,7 @@ class KeyboardShortcuts {
     Subscription menuTracking_;
     bool isPaused_ = false;
     std::map<Shortcut, HotKeyError> toldRefusals_;
+    std::map<Shortcut, Text> toldTriggers_;
     ObserverList<> availabilityDidChange_;
     ObserverList<const Name&> shortcutByNameDidChange_;
     ObserverList<bool> recorderActiveStatusDidChange_;

@@ -38,7 +38,7 @@ RecorderCocoa::RecorderCocoa(RecorderSurroundings surroundings, KeyboardShortcut
                   showShortcut();
               }
           })),
-      availabilityChange_(surroundings_.shortcuts.onAvailabilityDidChange([this] { showProblem(); })) {
+      availabilityChange_(surroundings_.shortcuts.onAvailabilityDidChange([this] { showShortcut(); })) {
     showShortcut();
 }
 
@@ -162,11 +162,9 @@ void RecorderCocoa::clear() {
 
 void RecorderCocoa::showShortcut() {
     const std::optional<Shortcut> shortcut = surroundings_.shortcuts.getShortcut(name_);
-    stringValue_.set(shortcut ? surroundings_.textOf(*shortcut) : Text());
-    showProblem();
-}
-
-void RecorderCocoa::showProblem() {
+    const std::optional<Text> trigger = surroundings_.shortcuts.desktopTrigger(name_);
+    const Text ours = shortcut ? surroundings_.textOf(*shortcut) : Text();
+    stringValue_.set(trigger.value_or(ours));
     const auto refusal = surroundings_.shortcuts.refusal(name_);
     problem_.set(refusal ? hotKeyErrorText(*refusal, surroundings_.localized) : Text());
 }

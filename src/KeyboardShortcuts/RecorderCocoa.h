@@ -39,7 +39,8 @@ class RecorderCocoa {
     RecorderCocoa(const RecorderCocoa&) = delete;
     RecorderCocoa& operator=(const RecorderCocoa&) = delete;
 
-    /// The name's shortcut, or empty; the clear button is shown while it is not.
+    /// The name's shortcut, or what the desktop has instead, or empty; the clear button is shown while it is
+    /// not.
     [[nodiscard]] const Observable<Text>& stringValue() const { return stringValue_; }
     /// What an empty field says.
     [[nodiscard]] const Observable<Text>& placeholder() const { return placeholder_; }
@@ -75,7 +76,6 @@ class RecorderCocoa {
     [[nodiscard]] bool isForced();
     void refuse(const Text& message);
     void showShortcut();
-    void showProblem();
 
     RecorderSurroundings surroundings_;
     KeyboardShortcuts::Name name_;

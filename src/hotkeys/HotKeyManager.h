@@ -27,6 +27,10 @@ class HotKeyManager : public std::enable_shared_from_this<HotKeyManager> {
     /// The shortcut came up.
     void handleKeyUp();
 
+    /// Whether this desktop lets the shortcut be forwarded. Where it does not, the press is lost to the
+    /// application as well, and the user is to be told.
+    [[nodiscard]] bool canForwardToggleShortcut() const { return poster_->canPost(); }
+
     /// Lets the application in front have the shortcut: gives the hot key back, posts the same keystroke 50
     /// ms later, and takes the hot key again after another 150 ms. Does nothing while such a forwarding is
     /// under way, or when there is no shortcut.

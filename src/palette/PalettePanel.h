@@ -1,11 +1,22 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "model/Geometry.h"
 #include "model/KeyEvent.h"
+#include "support/Text.h"
 
 namespace tovrel {
+
+/// Where the panel goes, said so that a display whose screens have no common coordinates can follow.
+struct PalettePlacement {
+    std::optional<Text> screen; ///< A Screen's identifier; absent when no screen is known.
+    /// From the lower left corner of the screen's visible frame to that of the panel.
+    Point offset;
+
+    friend bool operator==(const PalettePlacement&, const PalettePlacement&) = default;
+};
 
 /// The window that shows the palette: borderless, above other windows, on every workspace. Made hidden, and
 /// kept when closed.
@@ -18,10 +29,13 @@ class PalettePanel {
 
     [[nodiscard]] virtual bool isVisible() const = 0;
     [[nodiscard]] virtual Size frameSize() const = 0;
-    virtual void setFrameOrigin(Point origin) = 0;
+    /// A display that places windows itself may do otherwise. Should the screen be gone, another is taken.
+    virtual void place(const PalettePlacement& placement) = 0;
 
-    /// Shows the window, above the others and with the keyboard focus.
-    virtual void showAndMakeKey() = 0;
+    /// Shows the window above the others.
+    virtual void show() = 0;
+    /// Asks for the keyboard focus, which arrives a little later. For a window that is shown.
+    virtual void makeKey() = 0;
     /// Hides the window; the focus goes back to where it was.
     virtual void close() = 0;
 

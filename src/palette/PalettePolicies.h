@@ -20,17 +20,17 @@ struct PaletteDismissalPolicy {
 /// Decides where the palette goes.
 struct PalettePresentationPolicy {
     /// Taken when there is no screen.
-    static constexpr Rect fallbackFrame{{0, 0}, {1440, 900}};
+    static constexpr Size fallbackSize{1440, 900};
 
     /// Centred, and 80 above the middle, where the eye is, but never above the visible frame: the search
-    /// field is at the top. Of a panel wider than the frame the left is kept in sight. y grows upwards.
-    [[nodiscard]] static Point panelOrigin(const Rect& visibleFrame, Size panel) {
+    /// field is at the top. Of a panel wider than the frame the left is kept in sight. y grows upwards, and
+    /// both lower left corners are meant, as in PalettePlacement.
+    [[nodiscard]] static Point panelOffset(Size visibleFrame, Size panel) {
         constexpr double aboveCentre = 80;
-        const double x = visibleFrame.origin.x + visibleFrame.size.width / 2 - panel.width / 2;
-        const double y =
-            visibleFrame.origin.y + visibleFrame.size.height / 2 + aboveCentre - panel.height / 2;
-        const double highest = visibleFrame.origin.y + visibleFrame.size.height - panel.height;
-        return {std::max(x, visibleFrame.origin.x), std::min(y, highest)};
+        const double x = visibleFrame.width / 2 - panel.width / 2;
+        const double y = visibleFrame.height / 2 + aboveCentre - panel.height / 2;
+        const double highest = visibleFrame.height - panel.height;
+        return {std::max(x, 0.0), std::min(y, highest)};
     }
 };
 

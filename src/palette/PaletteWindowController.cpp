@@ -24,9 +24,15 @@ PaletteWindowController::PaletteWindowController(PaletteSurroundings surrounding
 }
 
 void PaletteWindowController::positionWindow() {
-    const Rect frame = surroundings_.userInterface.mainScreenVisibleFrame().value_or(
-        PalettePresentationPolicy::fallbackFrame);
-    panel_->setFrameOrigin(PalettePresentationPolicy::panelOrigin(frame, panel_->frameSize()));
+    const std::optional<Screen> screen = surroundings_.userInterface.mainScreen();
+    const Size frame = screen ? screen->visibleSize : PalettePresentationPolicy::fallbackSize;
+    panel_->place({screen ? std::optional(screen->identifier) : std::nullopt,
+                   PalettePresentationPolicy::panelOffset(frame, panel_->frameSize())});
+}
+
+void PaletteWindowController::showWindowAndMakeKey() {
+    panel_->show();
+    panel_->makeKey();
 }
 
 void PaletteWindowController::startKeyboardMonitoring() {

@@ -55,7 +55,7 @@ class PaletteWindowController {
     /// Keys are watched only while the panel is shown. Each may be called again without effect.
     void startKeyboardMonitoring();
     void stopKeyboardMonitoring();
-    void showWindowAndMakeKey() { panel_->showAndMakeKey(); }
+    void showWindowAndMakeKey();
 
     /// Harmless when the panel is closed already.
     void close();

@@ -11,7 +11,7 @@
 
 namespace tovrel {
 
-/// By what a registered hot key is known to whoever registered it.
+/// Names a hot key for whoever registers it: each of its events carries it.
 struct HotKeyIdentifier {
     std::uint32_t signature = 0; ///< Four characters that name the registering module.
     std::uint32_t id = 0;
@@ -27,8 +27,9 @@ struct HotKeyEvent {
     HotKeyEventKind kind = HotKeyEventKind::pressed;
 };
 
-/// Names one successful registration; no two have the same.
+/// Names one registration, from the moment it is asked for; no two have the same.
 using HotKeyHandle = std::uint64_t;
+
 /// Why a combination cannot be had. The numbers are those that the line on standard output shows.
 enum class HotKeyError : std::int32_t {
     takenByAnother = 10,    ///< Another program has it.
@@ -39,23 +40,38 @@ enum class HotKeyError : std::int32_t {
     refused = -5,           ///< For a reason that says nothing to anyone.
 };
 
+/// A registration that succeeded.
+struct HotKeyRegistered {
+    /// What to press, in the desktop's own words for the user, where the desktop has chosen the combination
+    /// or lets the user change it. Absent where it is the combination that was asked for.
+    std::optional<Text> desktopTrigger;
+
+    friend bool operator==(const HotKeyRegistered&, const HotKeyRegistered&) = default;
+};
+
+using HotKeyOutcome = std::variant<HotKeyRegistered, HotKeyError>;
+
 /// System-wide hot keys: combinations that reach this process whatever application is in front.
 class HotKeyCenter {
   public:
     /// Whether the event was for the handler; others are passed on.
     using HotKeyHandler = std::function<bool(const HotKeyEvent&)>;
+    using Completion = std::function<void(const HotKeyOutcome&)>;
     using RawKeyHandler = std::function<bool(const KeyEvent&)>;
     using KeyboardHandler = std::function<void()>;
     using KeyHandler = std::function<void(const KeyEvent&)>;
 
     virtual ~HotKeyCenter() = default;
 
-    /// Takes the combination for this process; `carbonModifiers` as in Shortcut. Nothing stays taken of a
-    /// refused one.
-    [[nodiscard]] virtual std::variant<HotKeyHandle, HotKeyError>
-    registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers, HotKeyIdentifier identifier) = 0;
+    /// Asks for the combination; `carbonModifiers` as in Shortcut. The completion is called on the main
+    /// thread with the outcome, once: before this returns where the desktop answers at once, else later as a
+    /// task of the main queue, and never after the registration was given back. Callers must stand both
+    /// orders. No event comes before a success, and nothing stays taken of a refused combination.
+    [[nodiscard]] virtual HotKeyHandle registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
+                                                      HotKeyIdentifier identifier, Completion completion) = 0;
 
-    /// Gives the combination back. A handle that is not registered is ignored.
+    /// Gives the combination back; one that is still being asked for is not taken any more, whatever the
+    /// desktop answers. A handle that is not registered is ignored.
     virtual void unregisterHotKey(HotKeyHandle handle) = 0;
 
     /// Why a registered combination does not fire although it did once: the keyboard is another one since.

@@ -25,6 +25,12 @@ enum class AlertAnswer {
     none, ///< Dismissed by Escape or by closing the window.
 };
 
+/// One of the display's screens.
+struct Screen {
+    Text identifier;  ///< No other screen has it as long as this one is connected.
+    Size visibleSize; ///< Of the visible frame: the screen without the desktop's bars.
+};
+
 /// This process as an application of the desktop.
 class UserInterface {
   public:
@@ -36,8 +42,8 @@ class UserInterface {
     /// The observer is called when this application was active and no longer is.
     [[nodiscard]] virtual Subscription onResignActive(std::function<void()> observer) = 0;
 
-    /// The main screen without the desktop's bars; absent without a screen.
-    [[nodiscard]] virtual std::optional<Rect> mainScreenVisibleFrame() = 0;
+    /// The screen on which the user works; absent without one.
+    [[nodiscard]] virtual std::optional<Screen> mainScreen() = 0;
 
     /// Asks the question, as a warning, and returns once it is answered; events go on being handled.
     /// The question belongs to the window from which it was asked, and until it is answered no other window

@@ -10,8 +10,7 @@
 
 namespace tovrel {
 
-/// A window without a frame, with round corners, above all others, that takes the keyboard focus when it is
-/// shown. Made hidden; hiding keeps it.
+/// A window without a frame, with round corners, above all others. Made hidden; hiding keeps it.
 class FloatingWindow : public QObject {
     Q_OBJECT
 
@@ -30,6 +29,8 @@ class FloatingWindow : public QObject {
     [[nodiscard]] bool hasInputFocus() const { return windowSystem_.hasInputFocus(view_); }
 
     void show();
+    /// Takes the keyboard focus; for a window that is shown.
+    void takeFocus() { activation_.takeFocus(); }
     /// The focus goes back to where it was.
     void hide() { activation_.hide(); }
 

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <utility>
 
+#include "qt/QtText.h"
 #include "views/palette/PaletteViewAdapter.h"
 #include "windows/ScreenCoordinates.h"
 
@@ -47,14 +48,18 @@ Size QtPalettePanel::frameSize() const {
             .height = static_cast<double>(window_.view().height())};
 }
 
-void QtPalettePanel::setFrameOrigin(Point origin) {
-    if (const QScreen* primary = QGuiApplication::primaryScreen()) {
-        window().setPosition(downwards(origin, window().size(), *primary));
+void QtPalettePanel::place(const PalettePlacement& placement) {
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    const QScreen* screen = placement.screen ? screenNamed(qtString(*placement.screen)) : nullptr;
+    if (screen == nullptr) {
+        screen = primary;
     }
-}
-
-void QtPalettePanel::showAndMakeKey() {
-    window_.show();
+    if (screen == nullptr) {
+        return;
+    }
+    const Point corner = upwards(screen->availableGeometry(), *primary).origin;
+    const Point origin{corner.x + placement.offset.x, corner.y + placement.offset.y};
+    window().setPosition(downwards(origin, window().size(), *primary));
 }
 
 void QtPalettePanel::close() {

@@ -29,9 +29,9 @@ class QtPalettePanel final : public QObject, public PalettePanel {
 
     [[nodiscard]] bool isVisible() const override;
     [[nodiscard]] Size frameSize() const override;
-    /// In the coordinates of ScreenCoordinates.h.
-    void setFrameOrigin(Point origin) override;
-    void showAndMakeKey() override;
+    void place(const PalettePlacement& placement) override;
+    void show() override { window_.show(); }
+    void makeKey() override { window_.takeFocus(); }
     void close() override;
     void setKeyHandler(KeyHandler handler) override { keyHandler_ = std::move(handler); }
     void setResignKeyHandler(std::function<void()> handler) override {

@@ -90,6 +90,7 @@ void QtSettingsWindow::showAndMakeKey() {
         view_.setWindowStates(Qt::WindowNoState);
     }
     activation_.show();
+    activation_.takeFocus();
 }
 
 void QtSettingsWindow::place() {

@@ -14,7 +14,6 @@
 #include "windows/FloatingWindow.h"
 #include "windows/MainScreen.h"
 #include "windows/QtStatusItem.h"
-#include "windows/ScreenCoordinates.h"
 
 namespace tovrel {
 namespace {
@@ -85,13 +84,15 @@ Subscription QtUserInterface::onResignActive(std::function<void()> observer) {
     return resignActive_.subscribe(std::move(observer));
 }
 
-std::optional<Rect> QtUserInterface::mainScreenVisibleFrame() {
-    const QScreen* screen = mainScreen(windowSystem_);
-    const QScreen* primary = QGuiApplication::primaryScreen();
-    if (screen == nullptr || primary == nullptr) {
+std::optional<Screen> QtUserInterface::mainScreen() {
+    const QScreen* screen = tovrel::mainScreen(windowSystem_);
+    if (screen == nullptr) {
         return std::nullopt;
     }
-    return upwards(screen->availableGeometry(), *primary);
+    const QSize visible = screen->availableGeometry().size();
+    return Screen{.identifier = textFrom(screen->name()),
+                  .visibleSize = {.width = static_cast<double>(visible.width()),
+                                  .height = static_cast<double>(visible.height())}};
 }
 
 AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
@@ -111,7 +112,7 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
     QWindow* owner = windowInUse();
     window.view().setTransientParent(owner);
     window.view().setModality(Qt::ApplicationModal);
-    if (const QScreen* screen = owner == nullptr ? mainScreen(windowSystem_) : owner->screen()) {
+    if (const QScreen* screen = owner == nullptr ? tovrel::mainScreen(windowSystem_) : owner->screen()) {
         window.view().setPosition(centred(window.view().size(), owner, screen->availableGeometry()));
     }
     const QScopedValueRollback isAsking(alert_, &static_cast<QWindow&>(window.view()));
@@ -129,6 +130,7 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
         }
     });
     window.show();
+    window.takeFocus();
     loop.exec();
     window.hide();
     return answer;

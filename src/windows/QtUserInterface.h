@@ -22,9 +22,8 @@ class QtUserInterface final : public QObject, public UserInterface {
     /// window takes the focus when it is shown.
     void activate() override;
     [[nodiscard]] Subscription onResignActive(std::function<void()> observer) override;
-    /// Of the screen with the active window, else of that with the pointer. In the coordinates of
-    /// ScreenCoordinates.h.
-    [[nodiscard]] std::optional<Rect> mainScreenVisibleFrame() override;
+    /// The screen with the active window, else that with the pointer, by the name that Qt has for it.
+    [[nodiscard]] std::optional<Screen> mainScreen() override;
     [[nodiscard]] AlertAnswer runAlert(const Alert& alert) override;
     [[nodiscard]] bool isAlertOpen() const override { return alert_ != nullptr; }
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription description) override;

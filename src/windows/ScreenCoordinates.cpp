@@ -1,6 +1,7 @@
 #include "windows/ScreenCoordinates.h"
 
 #include <QGuiApplication>
+#include <algorithm>
 #include <cmath>
 
 namespace tovrel {
@@ -30,6 +31,13 @@ Rect upwards(const QRect& rect, const QScreen& primary) {
 QPoint downwards(Point origin, QSize size, const QScreen& primary) {
     return {primary.geometry().x() + static_cast<int>(std::lround(origin.x)),
             baseline(primary) - static_cast<int>(std::lround(origin.y)) - size.height()};
+}
+
+QScreen* screenNamed(const QString& name) {
+    const auto screens = QGuiApplication::screens();
+    const auto found = std::find_if(screens.begin(), screens.end(),
+                                    [&](const QScreen* screen) { return screen->name() == name; });
+    return found == screens.end() ? nullptr : *found;
 }
 
 QScreen* screenOf(const QRect& frame) {

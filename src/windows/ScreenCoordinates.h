@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <QRect>
 #include <QScreen>
+#include <QString>
 
 #include "model/Geometry.h"
 
@@ -15,6 +16,9 @@ Rect upwards(const QRect& rect, const QScreen& primary);
 
 /// The upper left corner, for Qt, of a window whose lower left corner is at `origin`.
 QPoint downwards(Point origin, QSize size, const QScreen& primary);
+
+/// The screen that Qt has under the name; null when none has it.
+QScreen* screenNamed(const QString& name);
 
 /// The screen that holds most of what is at `frame`, in pixels of the screen; null when none does.
 QScreen* screenOf(const QRect& frame);

@@ -36,6 +36,9 @@ void WindowActivation::show() {
     }
     window_->show();
     window_->raise();
+}
+
+void WindowActivation::takeFocus() {
     windowSystem_.takeFocus(*window_);
     activation_.start();
 }

@@ -17,7 +17,10 @@ class WindowActivation {
     /// `window` outlives the object.
     WindowActivation(QWindow& window, WindowSystem windowSystem, WindowStay stay);
 
+    /// Above the others, as yet without the focus.
     void show();
+    /// Gives the window, which is shown, the focus; where that is refused, once more after a moment.
+    void takeFocus();
     /// If the window has the focus, it goes back to where it was; from a window that has stayed for long, to
     /// where the window manager thinks best.
     void hide();

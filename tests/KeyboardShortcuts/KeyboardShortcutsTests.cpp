@@ -190,6 +190,108 @@ TEST_F(KeyboardShortcutsTest, ARefusedCombinationIsTriedAgain) {
     EXPECT_EQ(output_.str(), "Error registering hotkey ⇧⌘P: 10\n") << "once";
 }
 
+TEST_F(KeyboardShortcutsTest, ALateAnswerCountsFromWhenItComes) {
+    center_.setAnswersLate(true);
+    int calls = 0;
+    int told = 0;
+    const auto name = toggle();
+    shortcuts_.onKeyDown(name, [&] { ++calls; });
+    const auto subscription = shortcuts_.onAvailabilityDidChange([&] { ++told; });
+    EXPECT_EQ(shortcuts_.refusal(name), std::nullopt) << "not known yet";
+    EXPECT_FALSE(center_.press(standard));
+    center_.answer();
+    EXPECT_TRUE(center_.press(standard));
+    EXPECT_EQ(std::pair(calls, told), std::pair(1, 0));
+
+    center_.refuse(other);
+    shortcuts_.setShortcut(other, name);
+    EXPECT_EQ(std::pair(shortcuts_.refusal(name), told), std::pair(std::optional<HotKeyError>(), 0));
+    EXPECT_EQ(output_.str(), "");
+    center_.answer();
+    EXPECT_EQ(std::pair(shortcuts_.refusal(name), told),
+              std::pair(std::optional(HotKeyError::takenByAnother), 1));
+    EXPECT_EQ(output_.str(), "Error registering hotkey ⌃\uFFFD: 10\n");
+
+    center_.allow(other);
+    shortcuts_.retryRefused();
+    shortcuts_.retryRefused(); // asked already
+    EXPECT_EQ(shortcuts_.refusal(name), HotKeyError::takenByAnother) << "until the desktop says otherwise";
+    center_.answer();
+    EXPECT_EQ(std::pair(shortcuts_.refusal(name), told), std::pair(std::optional<HotKeyError>(), 2));
+    EXPECT_EQ(center_.registrations(other), 1U);
+    EXPECT_TRUE(center_.press(other));
+    EXPECT_EQ(calls, 2);
+}
+
+TEST_F(KeyboardShortcutsTest, WhatIsGivenBackBeforeTheAnswerDoesNotComeAlive) {
+    center_.setAnswersLate(true);
+    const auto name = toggle();
+    int calls = 0;
+    shortcuts_.onKeyDown(name, [&] { ++calls; });
+    shortcuts_.disable({name});
+    center_.answer();
+    EXPECT_EQ(center_.registrations(standard), 0U);
+
+    shortcuts_.enable({name});
+    shortcuts_.setShortcut(other, name);
+    shortcuts_.setShortcut(standard, name);
+    center_.answer();
+    EXPECT_EQ(center_.registrations(other), 0U);
+    EXPECT_EQ(center_.registrations(standard), 1U) << "asked for anew meanwhile";
+
+    // Answered while a menu is open, it is matched raw, and asked for once more when the menu closes.
+    shortcuts_.setShortcut(other, name);
+    userInterface_.setMenuOpen(true);
+    center_.answer();
+    EXPECT_EQ(center_.registrations(other), 0U);
+    EXPECT_TRUE(center_.press(other));
+    EXPECT_TRUE(center_.release(other));
+    userInterface_.setMenuOpen(false);
+    center_.answer();
+    EXPECT_EQ(center_.registrations(other), 1U);
+    EXPECT_TRUE(center_.press(other));
+    EXPECT_EQ(calls, 2);
+
+    preferences_.remove(key);
+    {
+        KeyboardShortcuts gone(preferences_, center_, userInterface_, textServices_, output_);
+        gone.makeName("togglePalette", standard);
+    }
+    center_.answer();
+    EXPECT_EQ(center_.registrations(standard), 0U);
+}
+
+TEST_F(KeyboardShortcutsTest, TheFirstAnswerMayComeWhileAMenuIsOpen) {
+    center_.setAnswersLate(true);
+    const auto name = toggle();
+    int calls = 0;
+    shortcuts_.onKeyDown(name, [&] { ++calls; });
+    userInterface_.setMenuOpen(true);
+    center_.answer();
+    EXPECT_EQ(center_.registrations(standard), 0U);
+    EXPECT_TRUE(center_.press(standard));
+    EXPECT_TRUE(center_.release(standard));
+    userInterface_.setMenuOpen(false);
+    center_.answer();
+    EXPECT_EQ(center_.registrations(standard), 1U);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(KeyboardShortcutsTest, TheDesktopsTriggerIsToldWithItsAnswer) {
+    center_.setAnswersLate(true);
+    center_.setDesktopTrigger(standard, "Super+Space");
+    const auto name = toggle();
+    int told = 0;
+    const auto subscription = shortcuts_.onAvailabilityDidChange([&] { ++told; });
+    EXPECT_EQ(shortcuts_.desktopTrigger(name), std::nullopt);
+    center_.answer();
+    EXPECT_EQ(std::pair(shortcuts_.desktopTrigger(name), told),
+              std::pair(std::optional<Text>("Super+Space"), 1));
+    shortcuts_.setShortcut(other, name);
+    center_.answer();
+    EXPECT_EQ(shortcuts_.desktopTrigger(name), std::nullopt);
+}
+
 TEST_F(KeyboardShortcutsTest, TheReleaseCountsThoughAMenuOpensOrClosesBeforeIt) {
     const auto name = toggle();
     std::string calls;

@@ -169,6 +169,24 @@ TEST_F(RecorderCocoaTest, ACombinationIsStoredRegisteredAndShown) {
     EXPECT_EQ(fired_, 1);
 }
 
+TEST_F(RecorderCocoaTest, WhatTheDesktopAnswersLaterIsShownThen) {
+    const Shortcut chosen{keyK, carbon_modifiers::command};
+    center_.setAnswersLate(true);
+    center_.setDesktopTrigger(chosen, "Super+Space");
+    EXPECT_TRUE(recorder_->handleKeyDown(keyDown(keyK, modifier_flags::command)));
+    EXPECT_EQ(recorder_->stringValue().get(), textOf(chosen));
+    center_.answer();
+    EXPECT_EQ(recorder_->stringValue().get(), Text("Super+Space"));
+    EXPECT_EQ(makeRecorder()->stringValue().get(), Text("Super+Space"));
+
+    center_.refuse(standard);
+    shortcuts_.setShortcut(standard, name_);
+    EXPECT_EQ(recorder_->problem().get(), Text());
+    center_.answer();
+    EXPECT_EQ(recorder_->stringValue().get(), textOf(standard));
+    EXPECT_EQ(recorder_->problem().get(), Text("Another program uses this shortcut."));
+}
+
 TEST_F(RecorderCocoaTest, AConflictAsksAndGivesTheFocusBack) {
     int requests = 0;
     const Subscription subscription = recorder_->focusRequest().subscribe([&] {

@@ -85,6 +85,9 @@ TEST_F(HotKeyManagerTest, NothingIsForwardedWithoutAShortcut) {
     shortcuts_.setShortcut(std::nullopt, name_);
     manager_->forwardToggleShortcut();
     EXPECT_EQ(queue_.waitingTasks(), 0U);
+    EXPECT_TRUE(manager_->canForwardToggleShortcut());
+    poster_.setCanPost(false);
+    EXPECT_FALSE(manager_->canForwardToggleShortcut()) << "the desktop lets no program post keys";
 }
 
 TEST(PaletteHotKeyRoutingPolicyTest, OnlyAKnownDisabledApplicationGetsTheShortcut) {

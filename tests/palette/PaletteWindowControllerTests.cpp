@@ -62,6 +62,7 @@ class PaletteWindowControllerTest : public testing::Test {
 
 TEST_F(PaletteWindowControllerTest, KeysAreActedOnWhileThePanelIsShown) {
     show();
+    EXPECT_TRUE(panel_->isKey());
     EXPECT_FALSE(type(1, "s"));
     EXPECT_TRUE(type(9, "v", modifier_flags::command));
     EXPECT_TRUE(type(125, std::nullopt));
@@ -102,18 +103,17 @@ TEST_F(PaletteWindowControllerTest, EveryWayOfTurningToSomethingElseClosesThePal
 
 TEST_F(PaletteWindowControllerTest, ThePanelIsCentredAboveTheMiddleOfTheMainScreen) {
     show();
-    EXPECT_EQ(panel_->origin(), (Point{380, 300})) << "without a screen";
-    userInterface_.setVisibleFrame(Rect{{1920, -100}, {1280, 700}});
-    controller_.positionWindow();
-    EXPECT_EQ(panel_->origin(), (Point{2220, 100}));
+    EXPECT_EQ(panel_->placement(), (PalettePlacement{std::nullopt, {380, 300}})) << "without a screen";
+    const auto offsetOn = [&](const Screen& screen) {
+        userInterface_.setMainScreen(screen);
+        controller_.positionWindow();
+        EXPECT_EQ(panel_->placement().screen, screen.identifier);
+        return panel_->placement().offset;
+    };
+    EXPECT_EQ(offsetOn({"left", {1280, 700}}), (Point{300, 200}));
     // Where there is less room, what matters most stays in sight: the search field at the top.
-    const Point top{(960 - 680) / 2.0, 40 + 540 - 460};
-    userInterface_.setVisibleFrame(Rect{{0, 40}, {960, 540}});
-    controller_.positionWindow();
-    EXPECT_EQ(panel_->origin(), top);
-    userInterface_.setVisibleFrame(Rect{{10, 0}, {400, 300}});
-    controller_.positionWindow();
-    EXPECT_EQ(panel_->origin(), (Point{10, 300 - 460}));
+    EXPECT_EQ(offsetOn({"low", {960, 540}}), (Point{(960 - 680) / 2.0, 540 - 460}));
+    EXPECT_EQ(offsetOn({"small", {400, 300}}), (Point{0, 300 - 460}));
 }
 
 TEST(PaletteDismissalPolicyTest, WithoutAnOwnIdentifierEveryActivationDismisses) {

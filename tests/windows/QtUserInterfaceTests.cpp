@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "qt/QtText.h"
 #include "windows/QtStatusItem.h"
 #include "windows/ScreenCoordinates.h"
 
@@ -84,9 +85,11 @@ TEST_F(QtUserInterfaceTest, AnAlertIsCentredOnTheWindowThatAsksAndKeepsKeysFromI
 TEST_F(QtUserInterfaceTest, ScreensAreMeasuredUpwardsFromThePrimaryOne) {
     const QScreen& primary = *QGuiApplication::primaryScreen();
     const QRect geometry = primary.geometry();
-    const Rect frame = userInterface_.mainScreenVisibleFrame().value();
-    EXPECT_EQ(frame.size.width, geometry.width());
-    EXPECT_EQ(frame.origin, (Point{0, 0}));
+    const Screen main = userInterface_.mainScreen().value();
+    EXPECT_EQ(main.visibleSize.width, geometry.width());
+    EXPECT_EQ(screenNamed(qtString(main.identifier)), &primary);
+    EXPECT_EQ(screenNamed("nowhere"), nullptr);
+    EXPECT_EQ(upwards(primary.availableGeometry(), primary).origin, (Point{0, 0}));
     EXPECT_EQ(upwards(QRect(10, 20, 100, 50), primary), (Rect{{10, geometry.height() - 70.0}, {100, 50}}));
     // A window put where a rectangle was measured has that rectangle.
     for (const QRect& rect :

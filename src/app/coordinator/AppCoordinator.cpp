@@ -93,7 +93,7 @@ void AppCoordinator::handleTogglePalette() {
     }
     if (shouldForwardToggleShortcut()) {
         paletteWindowController().close();
-        hotKeyManager_->forwardToggleShortcut();
+        forwardToggleShortcut();
         return;
     }
     std::vector<Command> commands = refreshCommands();
@@ -156,6 +156,26 @@ bool AppCoordinator::shouldForwardToggleShortcut() {
     const std::optional<Text> bundleID = target ? target->bundleIdentifier() : std::nullopt;
     return bundleID && PaletteHotKeyRoutingPolicy::shouldForwardToggleShortcut(
                            true, bundleID, rulesStore_.behavior(*bundleID));
+}
+
+void AppCoordinator::forwardToggleShortcut() {
+    if (hotKeyManager_->canForwardToggleShortcut()) {
+        hotKeyManager_->forwardToggleShortcut();
+        return;
+    }
+    // The palette stays closed, for the user wants none here; but nobody should press a key in vain unawares.
+    platform_.userInterface.beep();
+    const std::shared_ptr<RunningApplication> target = frontmostAppMonitor_.resolveTargetApplication();
+    const std::optional<Text> bundleID = target ? target->bundleIdentifier() : std::nullopt;
+    if (bundleID && toldOfLostShortcut_.insert(*bundleID).second) {
+        const LocalizedString& localized = platform_.localized;
+        platform_.notifications.show(
+            localized("KeyboardShortcuts", "Tovrel is disabled in this app"),
+            filled(
+                localized("KeyboardShortcuts",
+                          "The app does not receive %@ either: on this desktop no program can pass it on."),
+                toggleShortcutForPeople()));
+    }
 }
 
 AppCoordinator::PaletteTarget AppCoordinator::paletteTarget() const {
@@ -270,24 +290,34 @@ void AppCoordinator::addStatusItem() {
 }
 
 void AppCoordinator::addShortcutNotice() {
-    const auto textOf = [&platform = platform_](const Shortcut& shortcut) {
-        const auto character = [&platform](std::uint32_t keyCode) {
-            return platform.hotKeyCenter.characterForKeyCode(keyCode);
-        };
-        return shortcutForPeople(shortcut, character, platform.textServices, platform.localized);
-    };
     shortcutNotice_ = std::make_unique<ShortcutNotice>(
-        ShortcutNotice::Surroundings{.shortcuts = platform_.shortcuts,
-                                     .notifications = platform_.notifications,
-                                     .localized = platform_.localized,
-                                     .textOf = textOf,
-                                     .setToolTip =
-                                         [this](const Text& toolTip) {
-                                             if (statusItem_) {
-                                                 statusItem_->setToolTip(toolTip);
-                                             }
-                                         }},
+        ShortcutNotice::Surroundings{
+            .shortcuts = platform_.shortcuts,
+            .notifications = platform_.notifications,
+            .localized = platform_.localized,
+            .textOf = [this](const Shortcut& shortcut) { return forPeople(shortcut); },
+            .setToolTip =
+                [this](const Text& toolTip) {
+                    if (statusItem_) {
+                        statusItem_->setToolTip(toolTip);
+                    }
+                }},
         togglePalette_);
+}
+
+Text AppCoordinator::forPeople(const Shortcut& shortcut) const {
+    const auto character = [&center = platform_.hotKeyCenter](std::uint32_t keyCode) {
+        return center.characterForKeyCode(keyCode);
+    };
+    return shortcutForPeople(shortcut, character, platform_.textServices, platform_.localized);
+}
+
+Text AppCoordinator::toggleShortcutForPeople() const {
+    if (auto trigger = platform_.shortcuts.desktopTrigger(togglePalette_)) {
+        return *std::move(trigger);
+    }
+    const std::optional<Shortcut> shortcut = toggleShortcut();
+    return shortcut ? forPeople(*shortcut) : Text();
 }
 
 bool AppCoordinator::isAsking() {

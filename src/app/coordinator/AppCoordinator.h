@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
@@ -111,6 +112,10 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
         return platform_.shortcuts.getShortcut(togglePalette_);
     }
 
+    /// What the user presses for the palette: the desktop's words where it has its own, else the global
+    /// shortcut spelled out. Empty when the user has none.
+    [[nodiscard]] Text toggleShortcutForPeople() const;
+
     /// Why the last change of the preferences could not be stored; absent when it could.
     [[nodiscard]] const std::optional<PreferencesFailure>& unstoredChange() const {
         return platform_.preferences.unstoredChange().get();
@@ -132,6 +137,8 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     };
 
     [[nodiscard]] bool shouldForwardToggleShortcut();
+    void forwardToggleShortcut();
+    [[nodiscard]] Text forPeople(const Shortcut& shortcut) const;
     [[nodiscard]] PaletteTarget paletteTarget() const;
     PaletteWindowController& paletteWindowController();
     void clearTarget();
@@ -169,6 +176,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     NotificationSettingsStore notificationSettingsStore_;
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<ShortcutNotice> shortcutNotice_;
+    std::set<Text> toldOfLostShortcut_; ///< Applications of which the user knows that they do not get it.
     std::shared_ptr<RunningApplication> currentApplication_;
     std::vector<ScannedMenuItem> currentMenuItems_;
     std::unique_ptr<PaletteWindowController> paletteWindowController_;

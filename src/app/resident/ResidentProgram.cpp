@@ -51,7 +51,7 @@ ResidentProgram::ResidentProgram(const command_line::Invocation& invocation, con
       settingsWindowController_([this] { return makeSettingsWindow(); }),
       coordinator_(std::make_shared<AppCoordinator>(platform())),
       service_(coordinator_,
-               {.shortcut = [this] { return toggleShortcutForPeople(); },
+               {.shortcut = [this] { return coordinator_->toggleShortcutForPeople(); },
                 .problem = [this] { return shortcutProblem(); }},
                [] { QApplication::quit(); }),
       busPresence_(service_), activationEvents_(workspace_->activationEvents()),
@@ -177,11 +177,6 @@ CharacterForKeyCode ResidentProgram::characterForKeyCode() {
 
 Text ResidentProgram::forPeople(const Shortcut& shortcut) {
     return shortcutForPeople(shortcut, characterForKeyCode(), textServices_, localizedByQt());
-}
-
-Text ResidentProgram::toggleShortcutForPeople() {
-    const auto shortcut = coordinator_->toggleShortcut();
-    return shortcut ? forPeople(*shortcut) : Text();
 }
 
 Text ResidentProgram::shortcutProblem() {

@@ -62,7 +62,6 @@ class ResidentProgram {
     void openURL(const Text& url);
     [[nodiscard]] CharacterForKeyCode characterForKeyCode();
     [[nodiscard]] Text forPeople(const Shortcut& shortcut);
-    [[nodiscard]] Text toggleShortcutForPeople();
     [[nodiscard]] Text shortcutProblem();
 
     // In the order in which they need each other; they end in the opposite one.

@@ -1,6 +1,7 @@
 #include "platform/memory/MemoryHotKeyCenter.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "model/VirtualKeyCodes.h"
 
@@ -15,15 +16,42 @@ KeyEvent keyEvent(const Shortcut& shortcut, HotKeyEventKind kind) {
 
 } // namespace
 
-std::variant<HotKeyHandle, HotKeyError> MemoryHotKeyCenter::registerHotKey(std::uint32_t keyCode,
-                                                                           std::uint32_t carbonModifiers,
-                                                                           HotKeyIdentifier identifier) {
-    const Shortcut shortcut{keyCode, carbonModifiers};
-    if (refused_.contains(shortcut)) {
-        return HotKeyError::takenByAnother;
+HotKeyHandle MemoryHotKeyCenter::registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
+                                                HotKeyIdentifier identifier, Completion completion) {
+    const HotKeyHandle handle = ++lastHandle_;
+    Question question{{Shortcut{keyCode, carbonModifiers}, identifier}, std::move(completion)};
+    if (answersLate_) {
+        waiting_.emplace(handle, std::move(question));
+    } else {
+        complete(handle, question);
     }
-    registered_.emplace(++lastHandle_, Registration{shortcut, identifier});
-    return lastHandle_;
+    return handle;
+}
+
+void MemoryHotKeyCenter::unregisterHotKey(HotKeyHandle handle) {
+    waiting_.erase(handle);
+    registered_.erase(handle);
+}
+
+void MemoryHotKeyCenter::answer() {
+    const HotKeyHandle last = lastHandle_;
+    while (!waiting_.empty() && waiting_.begin()->first <= last) {
+        const auto [handle, question] = *waiting_.begin();
+        waiting_.erase(waiting_.begin());
+        complete(handle, question);
+    }
+}
+
+void MemoryHotKeyCenter::complete(HotKeyHandle handle, const Question& question) {
+    const Shortcut& shortcut = question.registration.shortcut;
+    if (refused_.contains(shortcut)) {
+        question.completion(HotKeyError::takenByAnother);
+        return;
+    }
+    registered_.emplace(handle, question.registration);
+    const auto trigger = triggers_.find(shortcut);
+    question.completion(
+        HotKeyRegistered{trigger == triggers_.end() ? std::nullopt : std::optional(trigger->second)});
 }
 
 std::optional<Text> MemoryHotKeyCenter::characterForKeyCode(std::uint32_t keyCode) {

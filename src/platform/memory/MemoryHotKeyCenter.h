@@ -10,10 +10,9 @@ namespace tovrel {
 /// Hot keys that are pressed by calling `press` and `release`.
 class MemoryHotKeyCenter : public HotKeyCenter {
   public:
-    [[nodiscard]] std::variant<HotKeyHandle, HotKeyError>
-    registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
-                   HotKeyIdentifier identifier) override;
-    void unregisterHotKey(HotKeyHandle handle) override { registered_.erase(handle); }
+    [[nodiscard]] HotKeyHandle registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
+                                              HotKeyIdentifier identifier, Completion completion) override;
+    void unregisterHotKey(HotKeyHandle handle) override;
     void setHotKeyHandler(HotKeyHandler handler) override { hotKeyHandler_ = std::move(handler); }
     void setRawKeyHandler(RawKeyHandler handler) override { rawKeyHandler_ = std::move(handler); }
     [[nodiscard]] std::optional<HotKeyError> refusal(HotKeyHandle handle) const override;
@@ -28,6 +27,12 @@ class MemoryHotKeyCenter : public HotKeyCenter {
     /// From now on the combination is refused, as one that another program has; or no longer.
     void refuse(const Shortcut& shortcut) { refused_.insert(shortcut); }
     void allow(const Shortcut& shortcut) { refused_.erase(shortcut); }
+    /// From now on what to press for the combination is this, for the user.
+    void setDesktopTrigger(const Shortcut& shortcut, const Text& text) { triggers_[shortcut] = text; }
+    /// From now on outcomes wait for `answer`, as on a desktop that asks the user; or come at once again.
+    void setAnswersLate(bool answersLate) { answersLate_ = answersLate; }
+    /// Completes the registrations that wait now, in their order.
+    void answer();
     /// The keyboard is another one: registered combinations that are refused now do not fire any more.
     void changeKeyboard() const;
     /// As if the taken keyboard had not been attended to in time.
@@ -52,11 +57,19 @@ class MemoryHotKeyCenter : public HotKeyCenter {
         Shortcut shortcut;
         HotKeyIdentifier identifier;
     };
+    struct Question {
+        Registration registration;
+        Completion completion;
+    };
 
+    void complete(HotKeyHandle handle, const Question& question);
     bool deliver(const Shortcut& shortcut, HotKeyEventKind kind);
 
     HotKeyHandle lastHandle_ = 0;
     std::map<HotKeyHandle, Registration> registered_;
+    std::map<HotKeyHandle, Question> waiting_;
+    bool answersLate_ = false;
+    std::map<Shortcut, Text> triggers_;
     std::set<Shortcut> refused_;
     HotKeyHandler hotKeyHandler_;
     RawKeyHandler rawKeyHandler_;

@@ -11,12 +11,16 @@ class MemoryPalettePanel : public PalettePanel {
   public:
     [[nodiscard]] bool isVisible() const override { return isVisible_; }
     [[nodiscard]] Size frameSize() const override { return {680, 460}; }
-    void setFrameOrigin(Point origin) override { origin_ = origin; }
-    void showAndMakeKey() override {
+    void place(const PalettePlacement& placement) override { placement_ = placement; }
+    void show() override {
         isVisible_ = true;
         ++showings_;
     }
-    void close() override { isVisible_ = false; }
+    void makeKey() override { isKey_ = isVisible_; }
+    void close() override {
+        isVisible_ = false;
+        isKey_ = false;
+    }
     void setKeyHandler(KeyHandler handler) override { keyHandler_ = std::move(handler); }
     void setResignKeyHandler(std::function<void()> handler) override {
         resignKeyHandler_ = std::move(handler);
@@ -27,16 +31,22 @@ class MemoryPalettePanel : public PalettePanel {
         const KeyHandler handler = keyHandler_;
         return handler && handler(event);
     }
-    void resignKey() { resignKeyHandler_(); }
+    void resignKey() {
+        isKey_ = false;
+        resignKeyHandler_();
+    }
 
-    [[nodiscard]] Point origin() const { return origin_; }
+    [[nodiscard]] const PalettePlacement& placement() const { return placement_; }
+    /// Whether it has the keyboard focus.
+    [[nodiscard]] bool isKey() const { return isKey_; }
     [[nodiscard]] int showings() const { return showings_; }
     [[nodiscard]] bool hasKeyHandler() const { return static_cast<bool>(keyHandler_); }
 
   private:
     bool isVisible_ = false;
+    bool isKey_ = false;
     int showings_ = 0;
-    Point origin_;
+    PalettePlacement placement_;
     KeyHandler keyHandler_;
     std::function<void()> resignKeyHandler_;
 };

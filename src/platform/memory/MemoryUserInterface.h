@@ -17,7 +17,7 @@ class MemoryUserInterface : public UserInterface {
     [[nodiscard]] Subscription onResignActive(std::function<void()> observer) override {
         return resignActive_.subscribe(std::move(observer));
     }
-    [[nodiscard]] std::optional<Rect> mainScreenVisibleFrame() override { return visibleFrame_; }
+    [[nodiscard]] std::optional<Screen> mainScreen() override { return mainScreen_; }
     [[nodiscard]] AlertAnswer runAlert(const Alert& alert) override {
         if (isAlertOpen_) {
             return AlertAnswer::none;
@@ -49,7 +49,7 @@ class MemoryUserInterface : public UserInterface {
 
     /// How alerts are answered from now on.
     void setAnswer(AlertAnswer answer) { answer_ = answer; }
-    void setVisibleFrame(std::optional<Rect> frame) { visibleFrame_ = frame; }
+    void setMainScreen(std::optional<Screen> screen) { mainScreen_ = std::move(screen); }
     void resignActive() { resignActive_.notify(); }
     void setMenuOpen(bool isOpen) {
         isMenuOpen_ = isOpen;
@@ -80,7 +80,7 @@ class MemoryUserInterface : public UserInterface {
     int beeps_ = 0;
     AlertAnswer answer_ = AlertAnswer::firstButton;
     bool isTerminated_ = false;
-    std::optional<Rect> visibleFrame_;
+    std::optional<Screen> mainScreen_;
     std::vector<Alert> alerts_;
     std::weak_ptr<StatusItemDescription> statusItem_;
     ObserverList<> resignActive_;

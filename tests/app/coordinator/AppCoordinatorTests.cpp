@@ -246,6 +246,31 @@ TEST_F(AppCoordinatorTest, ADisabledApplicationReceivesTheShortcutItself) {
     EXPECT_EQ(poster_.presses().size(), 1U) << "an application without an identifier has no rule";
 }
 
+TEST_F(AppCoordinatorTest, AShortcutThatCannotBeForwardedIsNotSwallowedSilently) {
+    poster_.setCanPost(false);
+    pressHotKey();
+    RulesStore(preferences_, textServices_).setBehavior(AppBehaviorRule::disabled, "org.editor");
+    center_.press(standard);
+    center_.press(standard); // the key repeats itself
+    EXPECT_FALSE(panel_->isVisible());
+    EXPECT_EQ(center_.registrations(standard), 1U);
+    EXPECT_EQ(userInterface_.beeps(), 1);
+    const std::vector<MemoryUserNotifications::Notification> told{
+        {"Tovrel is disabled in this app",
+         "The app does not receive Ctrl+Shift+P either: on this desktop no program can pass it on."}};
+    EXPECT_EQ(notifications_.shown(), told);
+    center_.release(standard);
+    pressHotKey();
+    EXPECT_EQ(userInterface_.beeps(), 2);
+    EXPECT_EQ(notifications_.shown(), told) << "once an application";
+    queue_.advance(200ms);
+    EXPECT_TRUE(poster_.presses().empty());
+
+    workspace_.bringToFront(browser_.running);
+    pressHotKey();
+    EXPECT_TRUE(panel_->isVisible());
+}
+
 TEST_F(AppCoordinatorTest, WithoutATargetThePaletteIsEmptyAndTogglesAllTheSame) {
     workspace_.bringToFront(nullptr);
     CustomCommandStore(preferences_, "customCommands")
@@ -430,6 +455,29 @@ TEST_F(AppCoordinatorTest, AShortcutThatCannotBeHadIsToldOnceAndTriedAgain) {
     pressHotKey();
     EXPECT_TRUE(panel_->isVisible());
     EXPECT_EQ(notifications_.shown().size(), 1U);
+}
+
+TEST_F(AppCoordinatorTest, ALateAnswerAboutTheShortcutIsToldWhenItComes) {
+    const auto names = std::vector{coordinator_->togglePalette()};
+    EXPECT_EQ(coordinator_->toggleShortcutForPeople(), Text("Ctrl+Shift+P"));
+    center_.setAnswersLate(true);
+    center_.refuse(standard);
+    shortcuts_.disable(names);
+    shortcuts_.enable(names);
+    EXPECT_TRUE(notifications_.shown().empty());
+    center_.answer();
+    EXPECT_EQ(coordinator_->shortcutRefusal(), HotKeyError::takenByAnother);
+    EXPECT_EQ(notifications_.shown().size(), 1U);
+    center_.allow(standard);
+    center_.setDesktopTrigger(standard, "Super+Space");
+    coordinator_->showSettings();
+    center_.answer();
+    EXPECT_EQ(userInterface_.statusItem()->toolTip, Text("Tovrel"));
+    EXPECT_EQ(coordinator_->toggleShortcutForPeople(), Text("Super+Space"));
+    pressHotKey();
+    EXPECT_TRUE(panel_->isVisible());
+    shortcuts_.setShortcut(std::nullopt, names.front());
+    EXPECT_EQ(coordinator_->toggleShortcutForPeople(), Text());
 }
 
 TEST_F(AppCoordinatorTest, CallbacksDoNothingOnceTheCoordinatorIsGone) {

@@ -11,7 +11,6 @@
 #include <sys/mount.h>
 #include <sys/stat.h>
 
-#include "app/desktop/PreferencesFile.h"
 #include "platform/posix/FileDescriptor.h"
 #include "platform/preferences/PreferencesFixture.h"
 
@@ -302,16 +301,6 @@ TEST_F(SqlitePreferences, AFullDiskKeepsTheOldValue) {
         }
     });
     EXPECT_EQ(umount(directory().c_str()), 0);
-}
-
-TEST_F(SqlitePreferences, TheFileIsTheNamedOneElseTheEnvironmentsElseTheUsers) {
-    setenv("XDG_CONFIG_HOME", "/home/someone/configuration", 1);
-    setenv("TOVREL_PREFERENCES", "", 1);
-    EXPECT_EQ(preferencesFile(), "/home/someone/configuration/tovrel/preferences.sqlite");
-    setenv("TOVREL_PREFERENCES", "/elsewhere/file", 1);
-    EXPECT_EQ(preferencesFile(), "/elsewhere/file");
-    EXPECT_EQ(preferencesFile("named"), "named");
-    unsetenv("TOVREL_PREFERENCES");
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 
 #include "model/Shortcut.h"
 #include "platform/linux/keyboard/VirtualKeyCodes.h"
+#include "platform/x11/RegisteredHotKey.h"
 #include "platform/x11/X11ServerFixture.h"
 #include "platform/x11/X11TestClient.h"
 #include "platform/x11/server/XcbOwned.h"
@@ -56,10 +57,12 @@ class X11HotKeyCenterTest : public X11ServerTest {
     }
 
     HotKeyHandle registered(std::uint32_t keyCode = keyP, std::uint32_t modifiers = commandShift) {
-        const auto result = center_.registerHotKey(keyCode, modifiers, {0x5456484B, 1});
-        EXPECT_TRUE(std::holds_alternative<HotKeyHandle>(result))
-            << static_cast<int>(std::get<HotKeyError>(result));
-        return std::get<HotKeyHandle>(result);
+        const auto [handle, outcome] = tovrel::registered(center_, keyCode, modifiers, {0x5456484B, 1});
+        EXPECT_EQ(outcome, HotKeyOutcome(HotKeyRegistered()));
+        return handle;
+    }
+    [[nodiscard]] HotKeyOutcome outcome(std::uint32_t keyCode) {
+        return tovrel::registered(center_, keyCode, commandShift).outcome;
     }
 
     /// Without a window manager each window takes the focus for itself when it is its turn.
@@ -213,22 +216,21 @@ TEST_F(X11HotKeyCenterTest, RefusesWhatItCannotHaveAndKeepsNothingOfIt) {
         return error == nullptr;
     };
     ASSERT_TRUE(grabbed(XCB_MOD_MASK_2)) << "one of the four combinations";
-    using Result = std::variant<HotKeyHandle, HotKeyError>;
-    EXPECT_EQ(center_.registerHotKey(keyP, commandShift, {}), Result(HotKeyError::takenByAnother));
+    EXPECT_EQ(outcome(keyP), HotKeyOutcome(HotKeyError::takenByAnother));
     EXPECT_TRUE(center_.isSystemShortcut({keyP, commandShift}));
     EXPECT_TRUE(grabbed(0) && grabbed(XCB_MOD_MASK_LOCK) && grabbed(XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2));
 
     const HotKeyHandle handle = registered(keyK);
-    EXPECT_EQ(center_.registerHotKey(keyK, commandShift, {}), Result(HotKeyError::alreadyRegistered));
+    EXPECT_EQ(outcome(keyK), HotKeyOutcome(HotKeyError::alreadyRegistered));
     EXPECT_FALSE(center_.isSystemShortcut({keyK, commandShift})) << "it is our own";
     center_.unregisterHotKey(handle);
     EXPECT_FALSE(center_.isSystemShortcut({keyK, commandShift}));
     EXPECT_NE(registered(keyK), handle) << "trying has kept nothing of it";
-    EXPECT_EQ(center_.registerHotKey(63, commandShift, {}), Result(HotKeyError::noSuchKey));
-    EXPECT_EQ(center_.registerHotKey(4711, commandShift, {}), Result(HotKeyError::noSuchKey));
+    EXPECT_EQ(outcome(63), HotKeyOutcome(HotKeyError::noSuchKey));
+    EXPECT_EQ(outcome(4711), HotKeyOutcome(HotKeyError::noSuchKey));
 
     X11HotKeyCenter nowhere(loop_, {}, ":60987");
-    EXPECT_EQ(nowhere.registerHotKey(keyK, commandShift, {}), Result(HotKeyError::noHotKeys));
+    EXPECT_EQ(tovrel::registered(nowhere, keyK, commandShift).outcome, HotKeyOutcome(HotKeyError::noHotKeys));
     EXPECT_EQ(nowhere.fileDescriptor(), -1);
     EXPECT_EQ(nowhere.characterForKeyCode(keyP), std::nullopt);
     nowhere.unregisterHotKey(1);
@@ -546,12 +548,12 @@ TEST(X11HotKeyCenterAlone, StandsTheLossOfTheServer) {
     TestLoop loop;
     X11HotKeyCenter center(loop, {}, (":" + server->announced()).c_str());
     loop.watch(center);
-    const auto handle = center.registerHotKey(keyP, commandShift, {});
-    ASSERT_TRUE(std::holds_alternative<HotKeyHandle>(handle));
+    const auto [handle, outcome] = registered(center, keyP, commandShift);
+    ASSERT_EQ(outcome, HotKeyOutcome(HotKeyRegistered()));
     server.reset();
     EXPECT_TRUE(loop.runUntil([&] { return center.fileDescriptor() == -1; }));
-    center.unregisterHotKey(std::get<HotKeyHandle>(handle));
-    EXPECT_TRUE(std::holds_alternative<HotKeyError>(center.registerHotKey(keyP, commandShift, {})));
+    center.unregisterHotKey(handle);
+    EXPECT_EQ(registered(center, keyP, commandShift).outcome, HotKeyOutcome(HotKeyError::noHotKeys));
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "model/Shortcut.h"
+#include "platform/x11/RegisteredHotKey.h"
 #include "platform/x11/X11ServerFixture.h"
 #include "platform/x11/X11TestClient.h"
 #include "platform/x11/hotkeys/X11HotKeyCenter.h"
@@ -75,7 +76,10 @@ TEST_F(X11KeyEventPosterTest, PressesWhatIsWantedAndLeavesNothingDown) {
 
     EXPECT_FALSE(poster_.postKeyPress(63, 0)) << "no such key";
     EXPECT_FALSE(poster_.postKeyPress(4711, 0));
-    EXPECT_FALSE(X11KeyEventPoster(":60987").postKeyPress(keyK, 0));
+    EXPECT_TRUE(poster_.canPost());
+    X11KeyEventPoster nowhere(":60987");
+    EXPECT_FALSE(nowhere.canPost());
+    EXPECT_FALSE(nowhere.postKeyPress(keyK, 0));
     EXPECT_TRUE(user_.down().empty());
 }
 
@@ -117,7 +121,7 @@ TEST_F(X11KeyEventPosterTest, PassesAHotKeyOnThatTheUserStillHolds) {
     X11HotKeyCenter center(loop_, {}, display_.c_str());
     loop_.watch(center);
     const auto modifiers = static_cast<std::uint32_t>(carbon_modifiers::command | carbon_modifiers::shift);
-    HotKeyHandle handle = std::get<HotKeyHandle>(center.registerHotKey(keyP, modifiers, {}));
+    HotKeyHandle handle = registered(center, keyP, modifiers).handle;
     int presses = 0;
     center.setHotKeyHandler([&](const HotKeyEvent& event) {
         presses += event.kind == HotKeyEventKind::pressed ? 1 : 0;
@@ -133,7 +137,7 @@ TEST_F(X11KeyEventPosterTest, PassesAHotKeyOnThatTheUserStillHolds) {
     ASSERT_TRUE(poster_.postKeyPress(keyP, modifier_flags::command | modifier_flags::shift));
     EXPECT_EQ(pressesUntilReleased(keyP),
               (std::vector<Key>{{keyP, true, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_SHIFT}}));
-    handle = std::get<HotKeyHandle>(center.registerHotKey(keyP, modifiers, {}));
+    handle = registered(center, keyP, modifiers).handle;
     EXPECT_FALSE(loop_.runUntil([&] { return presses > 1; }, 900ms)) << "the held key repeats itself";
     EXPECT_EQ(user_.modifiers(), XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_SHIFT);
     std::for_each(keys.rbegin(), keys.rend(), [this](std::uint32_t key) { user_.release(key); });

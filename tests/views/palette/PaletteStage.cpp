@@ -10,7 +10,8 @@ namespace tovrel {
 void PaletteStage::show(std::vector<Command> commands, std::optional<Text> appName,
                         std::optional<ApplicationIcon> appIcon) {
     viewModel.updateCommands(std::move(commands), std::move(appName), std::move(appIcon));
-    panel.showAndMakeKey();
+    panel.show();
+    panel.makeKey();
     viewModel.requestSearchFocus();
     if (!QTest::qWaitForWindowActive(&panel.window())) {
         fatal("the palette never became active");

@@ -1,5 +1,7 @@
 #include <QAccessible>
+#include <QGuiApplication>
 #include <QQuickItem>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <set>
@@ -13,6 +15,7 @@
 #include "model/VirtualKeyCodes.h"
 #include "palette/CommandIcon.h"
 #include "palette/PaletteKeyboardAction.h"
+#include "qt/QtText.h"
 #include "views/palette/PaletteResultsModel.h"
 #include "views/shared/SymbolImages.h"
 
@@ -248,6 +251,18 @@ TEST_F(PaletteViewTest, TextOfAnInputMethodReachesTheQuery) {
     done.setCommitString(QString::fromUtf8("é"));
     QCoreApplication::sendEvent(window().activeFocusItem(), &done);
     EXPECT_EQ(stage_.viewModel.query().get(), "é");
+}
+
+TEST_F(PaletteViewTest, ThePanelGoesWhereItIsPlacedOnItsScreen) {
+    const QScreen& screen = *QGuiApplication::primaryScreen();
+    const QRect visible = screen.availableGeometry();
+    for (const auto& identifier :
+         {std::optional(textFrom(screen.name())), std::optional<Text>("unplugged"), std::optional<Text>()}) {
+        stage_.panel.place({std::nullopt, {0, 0}});
+        stage_.panel.place({identifier, {20.5, 30}});
+        EXPECT_EQ(window().position(),
+                  QPoint(visible.left() + 21, visible.top() + visible.height() - 30 - window().height()));
+    }
 }
 
 TEST_F(PaletteViewTest, EmptyStatesAndTheFocus) {

@@ -5,6 +5,7 @@
 
 #include "model/VirtualKeyCodes.h"
 #include "platform/linux/keyboard/VirtualKeyCodes.h"
+#include "platform/x11/hotkeys/UngrabKeyboard.h"
 
 namespace tovrel {
 namespace {
@@ -12,33 +13,32 @@ namespace {
 /// The bits of an event's state that are modifiers; the rest are pointer buttons and the layout's group.
 constexpr std::uint16_t modifierBits = 0xFF;
 
-/// To be asked once a hold: the server then delivers what it has kept, up to the next press of a hot key,
-/// which must find the keyboard held again.
-void ungrabKeyboard(xcb_connection_t* connection) {
-    xcb_ungrab_keyboard(connection, XCB_CURRENT_TIME);
-    xcb_flush(connection);
-}
-
 } // namespace
 
 X11HotKeyCenter::X11HotKeyCenter(MainQueue& queue, DestinationOfKeys destination, const char* display)
     : queue_(queue), destination_(std::move(destination)), connection_(display),
       guard_([this] { ungrabKeyboard(connection_.handle()); }), reader_(connection_, guard_),
-      xkb_(connection_.handle()), rawKeys_(connection_.handle(), connection_.root()),
-      focusWait_(connection_) {
+      xkb_(connection_.handle()), rawKeys_(connection_.handle(), connection_.root()), focusWait_(connection_),
+      takenKeyboard_(connection_, guard_) {
     xkb_.useDetectableAutoRepeat();
     xkb_.selectKeyboardEvents();
     keyMap_ = X11KeyMap::read(connection_.handle());
 }
 
-std::variant<HotKeyHandle, HotKeyError> X11HotKeyCenter::registerHotKey(std::uint32_t keyCode,
-                                                                        std::uint32_t carbonModifiers,
-                                                                        HotKeyIdentifier identifier) {
+HotKeyHandle X11HotKeyCenter::registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
+                                             HotKeyIdentifier identifier, Completion completion) {
     Registration registration;
+    registration.handle = ++lastHandle_;
     registration.identifier = identifier;
     registration.keyCode = keyCode;
     registration.modifiers = modifierFlags(carbonModifiers);
-    auto grab = grabFor(keyCode, registration.modifiers);
+    const HotKeyHandle handle = registration.handle;
+    completion(registered(std::move(registration)));
+    return handle;
+}
+
+HotKeyOutcome X11HotKeyCenter::registered(Registration registration) {
+    auto grab = grabFor(registration.keyCode, registration.modifiers);
     if (const HotKeyError* error = std::get_if<HotKeyError>(&grab)) {
         return *error;
     }
@@ -51,14 +51,12 @@ std::variant<HotKeyHandle, HotKeyError> X11HotKeyCenter::registerHotKey(std::uin
         waitForServer();
         return *refusal;
     }
-    registration.handle = ++lastHandle_;
-    const HotKeyHandle handle = registration.handle;
     // Releases are selected before the question, so that none is missed between the two.
     registration.state = KeyState::heldBefore;
     registrations_.push_back(std::move(registration));
     selectRawKeys();
     reportKeysFoundUp();
-    return connection_.isOpen() ? std::variant<HotKeyHandle, HotKeyError>(handle) : HotKeyError::noHotKeys;
+    return connection_.isOpen() ? HotKeyOutcome(HotKeyRegistered()) : HotKeyError::noHotKeys;
 }
 
 void X11HotKeyCenter::unregisterHotKey(HotKeyHandle handle) {
@@ -98,46 +96,11 @@ void X11HotKeyCenter::setRawKeyHandler(RawKeyHandler handler) {
 }
 
 bool X11HotKeyCenter::takeKeyboard(KeyHandler handler, std::function<void()> onLoss) {
-    if (keyHandler_ || !keyMap_ || !connection_.isOpen()) {
-        return false;
-    }
-    xcb_connection_t* connection = connection_.handle();
-    const XcbOwned<xcb_get_input_focus_reply_t> focus(
-        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
-    const bool isWindow = focus && focus->focus > XCB_INPUT_FOCUS_POINTER_ROOT;
-    // The grab lies on the focused window, for another one would make that believe it had lost the focus. The
-    // server keeps what is typed after each key until that is handled, so that nothing is lost of it should
-    // the keyboard have to be let go.
-    const auto cookie = xcb_grab_keyboard(connection, 0, isWindow ? focus->focus : connection_.root(),
-                                          XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
-    xcb_allow_events(connection, XCB_ALLOW_SYNC_KEYBOARD, XCB_CURRENT_TIME);
-    const XcbOwned<xcb_grab_keyboard_reply_t> answer(xcb_grab_keyboard_reply(connection, cookie, nullptr));
-    if (!answer || answer->status != XCB_GRAB_STATUS_SUCCESS) {
-        return false;
-    }
-    keyHandler_ = std::move(handler);
-    onKeyboardLoss_ = std::move(onLoss);
-    return true;
+    return keyMap_ && connection_.isOpen() && takenKeyboard_.take(std::move(handler), std::move(onLoss));
 }
 
 void X11HotKeyCenter::giveKeyboardBack(bool passesKeyOn) {
-    if (!std::exchange(keyHandler_, nullptr)) {
-        return;
-    }
-    const KeyboardGuard::Hold key = std::exchange(takenKey_, 0);
-    xcb_connection_t* connection = connection_.handle();
-    if (key == 0) {
-        ungrabKeyboard(connection);
-    } else {
-        guard_.end(key, [&] {
-            if (passesKeyOn) {
-                xcb_allow_events(connection, XCB_ALLOW_REPLAY_KEYBOARD, XCB_CURRENT_TIME);
-                xcb_flush(connection);
-            } else {
-                ungrabKeyboard(connection);
-            }
-        });
-    }
+    takenKeyboard_.giveBack(passesKeyOn);
 }
 
 bool X11HotKeyCenter::isSystemShortcut(const Shortcut& shortcut) {
@@ -243,7 +206,7 @@ void X11HotKeyCenter::handleKey(const xcb_key_press_event_t& event, KeyboardGuar
         return; // Another client has sent it.
     }
     const bool isPress = event.response_type == XCB_KEY_PRESS;
-    if (keyHandler_) {
+    if (takenKeyboard_.isTaken()) {
         handleTakenKey(event, isPress, hold);
     } else if (isPress) {
         handlePress(event, hold);
@@ -289,23 +252,11 @@ void X11HotKeyCenter::handlePress(const xcb_key_press_event_t& event, KeyboardGu
 
 void X11HotKeyCenter::handleTakenKey(const xcb_key_press_event_t& event, bool isPress,
                                      KeyboardGuard::Hold hold) {
-    takenKey_ = hold;
     KeyEvent key;
     key.type = isPress ? KeyEventType::keyDown : KeyEventType::keyUp;
     key.keyCode = virtualKeyCodeOfX11(event.detail).value_or(key_codes::unknown);
     key.modifierFlags = keyMap_->flagsFor(event.state & modifierBits);
-    const KeyHandler handler = keyHandler_; // it may give the keyboard back
-    handler(key);
-    if (std::exchange(takenKey_, 0) != hold) {
-        return;
-    }
-    const bool isStillTaken = guard_.end(
-        hold, [this] { xcb_allow_events(connection_.handle(), XCB_ALLOW_SYNC_KEYBOARD, XCB_CURRENT_TIME); });
-    if (!isStillTaken) {
-        keyHandler_ = nullptr;
-        const auto onLoss = std::exchange(onKeyboardLoss_, nullptr);
-        onLoss();
-    }
+    takenKeyboard_.handleKey(key, hold);
 }
 
 void X11HotKeyCenter::handleRawKey(const X11RawKeys::Key& key) {

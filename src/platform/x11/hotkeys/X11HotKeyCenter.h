@@ -11,6 +11,7 @@
 #include "platform/x11/hotkeys/X11EventReader.h"
 #include "platform/x11/hotkeys/X11FocusWait.h"
 #include "platform/x11/hotkeys/X11HotKeyGrab.h"
+#include "platform/x11/hotkeys/X11TakenKeyboard.h"
 #include "platform/x11/keyboard/X11KeyMap.h"
 #include "platform/x11/keyboard/X11Layout.h"
 #include "platform/x11/keyboard/X11RawKeys.h"
@@ -45,9 +46,9 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
     /// Connects to `display`, or to $DISPLAY when null; without a server every registration is refused.
     X11HotKeyCenter(MainQueue& queue, DestinationOfKeys destination, const char* display = nullptr);
 
-    [[nodiscard]] std::variant<HotKeyHandle, HotKeyError>
-    registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
-                   HotKeyIdentifier identifier) override;
+    /// The outcome comes before this returns.
+    [[nodiscard]] HotKeyHandle registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
+                                              HotKeyIdentifier identifier, Completion completion) override;
     /// The release of a key that is down is not reported any more. When this returns, the server knows.
     void unregisterHotKey(HotKeyHandle handle) override;
     [[nodiscard]] std::optional<HotKeyError> refusal(HotKeyHandle handle) const override;
@@ -85,6 +86,7 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
         KeyState state = KeyState::up;
     };
 
+    [[nodiscard]] HotKeyOutcome registered(Registration registration);
     /// What the keyboard makes of a combination at present.
     [[nodiscard]] std::variant<X11HotKeyGrab, HotKeyError> grabFor(std::uint32_t keyCode,
                                                                    ModifierFlags modifiers) const;
@@ -124,6 +126,7 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
     XkbExtension xkb_;
     X11RawKeys rawKeys_;
     X11FocusWait focusWait_;
+    X11TakenKeyboard takenKeyboard_;
     std::optional<X11KeyMap> keyMap_;
     std::optional<X11Layout> layout_; ///< Read when first needed.
     bool hasKeyboardChanged_ = false;
@@ -139,9 +142,6 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
     HotKeyHandle heldFor_ = 0;
     xcb_timestamp_t lastPressTime_ = 0;
 
-    KeyHandler keyHandler_; ///< While the keyboard is taken.
-    std::function<void()> onKeyboardLoss_;
-    KeyboardGuard::Hold takenKey_ = 0; ///< Of the key that it is handling; 0 between keys.
     std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true); ///< For tasks that outlive this.
 };
 

@@ -24,6 +24,7 @@ class X11KeyEventPoster : public KeyEventPoster {
     /// Connects to `display`, or to $DISPLAY when null.
     explicit X11KeyEventPoster(const char* display = nullptr);
 
+    [[nodiscard]] bool canPost() const override { return isAvailable_ && connection_.isOpen(); }
     /// Returns when the server has taken the keys. False without a server or its extension, and for a key or
     /// a modifier that the keyboard lacks.
     bool postKeyPress(std::uint16_t keyCode, ModifierFlags flags) override;
