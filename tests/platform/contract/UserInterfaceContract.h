@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <optional>
 
 #include <gtest/gtest.h>
 
@@ -63,12 +63,22 @@ TYPED_TEST_P(UserInterfaceContract, ComesToTheFrontAndTellsWhenItNoLongerIs) {
     }
 }
 
+TYPED_TEST_P(UserInterfaceContract, KnowsTheScreenOnWhichTheUserWorks) {
+    TypeParam rig;
+    const std::optional<Screen> screen = rig.userInterface().mainScreen();
+    ASSERT_TRUE(screen);
+    EXPECT_GT(screen->visibleSize.width, 0);
+    EXPECT_GT(screen->visibleSize.height, 0);
+    EXPECT_EQ(rig.userInterface().mainScreen()->identifier, screen->identifier) << "it is still the same";
+}
+
 TYPED_TEST_P(UserInterfaceContract, EndsTheMainLoop) {
     TypeParam rig;
     EXPECT_TRUE(rig.endsMainLoop([&] { rig.userInterface().terminate(); }));
 }
 
 REGISTER_TYPED_TEST_SUITE_P(UserInterfaceContract, AsksOneQuestionAtATimeAndTellsItsAnswer,
-                            ComesToTheFrontAndTellsWhenItNoLongerIs, EndsTheMainLoop);
+                            ComesToTheFrontAndTellsWhenItNoLongerIs, KnowsTheScreenOnWhichTheUserWorks,
+                            EndsTheMainLoop);
 
 } // namespace tovrel

@@ -1,9 +1,13 @@
 #include <functional>
-#include <memory>
+#include <string>
+#include <utility>
 #include <vector>
 
+#include "model/VirtualKeyCodes.h"
+#include "platform/contract/PalettePanelContract.h"
 #include "platform/contract/StatusItemContract.h"
 #include "platform/contract/UserInterfaceContract.h"
+#include "platform/memory/MemoryPalettePanel.h"
 #include "platform/memory/MemoryUserInterface.h"
 
 namespace tovrel {
@@ -11,6 +15,8 @@ namespace {
 
 class MemoryUserInterfaceRig {
   public:
+    MemoryUserInterfaceRig() { userInterface_.setMainScreen(Screen{"screen", {1000, 800}}); }
+
     UserInterface& userInterface() { return userInterface_; }
     AlertAnswer ask(AlertAnswer answer, std::function<void()> whileAsked) {
         userInterface_.setAnswer(answer);
@@ -50,6 +56,31 @@ class MemoryUserInterfaceRig {
     int activationsBefore_ = 0;
 };
 
+class MemoryPalettePanelRig {
+  public:
+    PalettePanel& panel() { return panel_; }
+    template <typename Condition>
+    bool until(Condition condition) {
+        return condition();
+    }
+    [[nodiscard]] bool isKey() const { return panel_.isKey(); }
+    void type(char character) {
+        const Text text(std::string(1, character));
+        if (!panel_.type({KeyEventType::keyDown, key_codes::unknown, text, 0})) {
+            query_ += text.utf8();
+        }
+    }
+    [[nodiscard]] Text query() const { return query_; }
+    void turnAway() { panel_.resignKey(); }
+    static Text screen() { return "screen"; }
+    [[nodiscard]] PalettePlacement placement() const { return panel_.placement(); }
+
+  private:
+    MemoryPalettePanel panel_;
+    std::string query_;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Memory, PalettePanelContract, MemoryPalettePanelRig);
 INSTANTIATE_TYPED_TEST_SUITE_P(Memory, StatusItemContract, MemoryUserInterfaceRig);
 INSTANTIATE_TYPED_TEST_SUITE_P(Memory, UserInterfaceContract, MemoryUserInterfaceRig);
 

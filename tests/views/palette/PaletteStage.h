@@ -2,6 +2,7 @@
 
 #include <QQuickView>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "palette/PaletteViewModel.h"
@@ -14,10 +15,10 @@ namespace tovrel {
 
 /// A palette's panel with its models, and what it called.
 struct PaletteStage {
-    PaletteStage()
+    explicit PaletteStage(WindowSystem windowSystem = {})
         : panel({viewModel, settings, [this](const Command& command) { executed.push_back(command); },
                  [this] { ++dismissals; }},
-                textServices, engine, {}, nullptr) {}
+                textServices, engine, std::move(windowSystem), nullptr) {}
 
     /// Shows the commands and waits until the window is ready for keys.
     void show(std::vector<Command> commands, std::optional<Text> appName = std::nullopt,
