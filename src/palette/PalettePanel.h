@@ -29,20 +29,22 @@ class PalettePanel {
 
     [[nodiscard]] virtual bool isVisible() const = 0;
     [[nodiscard]] virtual Size frameSize() const = 0;
-    /// A display that places windows itself may do otherwise. Should the screen be gone, another is taken.
+    /// Where the window is from now on, shown or not. A display that places windows itself may do otherwise.
+    /// Should the screen be gone, another is taken.
     virtual void place(const PalettePlacement& placement) = 0;
 
     /// Shows the window above the others.
     virtual void show() = 0;
     /// Asks for the keyboard focus, which arrives a little later. For a window that is shown.
     virtual void makeKey() = 0;
-    /// Hides the window; the focus goes back to where it was.
+    /// Hides the window; the focus goes back to where it was. Without effect on one that is hidden.
     virtual void close() = 0;
 
-    /// Sees every key-down before the search field does; an empty one ends that.
+    /// Sees every key-down before the search field does; an empty one ends that. The handler may replace
+    /// itself.
     virtual void setKeyHandler(KeyHandler handler) = 0;
-    /// Called when the window has lost the keyboard focus for good: not for the moment in which another
-    /// program holds the keyboard.
+    /// Called once when the window, which stays shown, has lost the keyboard focus for good: not for the
+    /// moment in which another program holds the keyboard, nor when it is closed. An empty one ends that.
     virtual void setResignKeyHandler(std::function<void()> handler) = 0;
 };
 

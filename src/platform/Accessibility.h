@@ -12,11 +12,12 @@ class Accessibility {
   public:
     virtual ~Accessibility() = default;
 
-    /// Whether this process may read and press other applications' menus.
+    /// Whether this process may read and press other applications' menus now.
     [[nodiscard]] virtual bool isTrusted() = 0;
 
     /// The root element of a running application, whose "AXMenuBar" is its menu bar. Each call reads the
-    /// application anew. Null when no such application can be reached.
+    /// application anew; elements of earlier calls may go on showing what they were. An application that
+    /// cannot be reached has no "AXMenuBar", or the answer is null.
     [[nodiscard]] virtual std::shared_ptr<AccessibilityElement>
     applicationElement(std::int32_t processIdentifier) = 0;
 };

@@ -34,8 +34,9 @@ class AccessibilityElement {
     /// "AXEnabled".
     [[nodiscard]] virtual std::optional<bool> boolean(std::string_view attribute) = 0;
 
-    /// Asks the element to perform an action, such as "AXPress". True when the request was accepted, which
-    /// does not prove that it had an effect.
+    /// Asks the element to perform an action: "AXPress" chooses a menu item. True when the request was
+    /// accepted, which does not prove that it had an effect. False for an action that the element does not
+    /// have, and when the application is gone.
     virtual bool perform(std::string_view action) = 0;
 };
 

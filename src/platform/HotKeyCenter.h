@@ -91,8 +91,8 @@ class HotKeyCenter {
     virtual void setRawKeyHandler(RawKeyHandler handler) = 0;
 
     /// From now on every key goes to the handler and to nobody else, also what other programs and this one
-    /// have as hot keys. That ends with `giveKeyboardBack`, with the window that has the focus now, and
-    /// when a key has waited for 500 ms to be handled; then `onLoss` is called. False, and nothing changes,
+    /// have as hot keys. That ends with `giveKeyboardBack`, with the window that has the focus now, and when
+    /// a key has waited for 500 ms to be handled; only then `onLoss` is called. False, and nothing changes,
     /// when another program has the keyboard or it is taken already.
     [[nodiscard]] virtual bool takeKeyboard(KeyHandler handler, std::function<void()> onLoss) = 0;
 

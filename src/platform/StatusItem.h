@@ -8,15 +8,16 @@
 
 namespace tovrel {
 
-/// A line of a status item's menu. One without a title is a separator.
+/// A line of a status item's menu. One without a title is a separator, which cannot be chosen.
 struct StatusMenuItem {
     Text title;
     std::optional<Text> keyEquivalent; ///< One character, used with the Command modifier.
     Text symbol;                       ///< Name of the symbol shown before the title.
-    std::function<void()> action;
+    std::function<void()>
+        action; ///< Called when the line is chosen, after the menu has closed. May be empty.
 };
 
-/// The program's sign in the desktop's status bar. It disappears with the object.
+/// The program's sign in the desktop's status bar. It and its menu disappear with the object.
 class StatusItem {
   public:
     virtual ~StatusItem() = default;

@@ -36,7 +36,7 @@ class UserInterface {
   public:
     virtual ~UserInterface() = default;
 
-    /// Brings this application to the front, whichever other one is there.
+    /// Brings this application to the front, whichever other one is there, if it shows a window.
     virtual void activate() = 0;
 
     /// The observer is called when this application was active and no longer is.

@@ -26,15 +26,16 @@ class Workspace {
   public:
     virtual ~Workspace() = default;
 
-    /// The application that has the user's attention; null when there is none or it cannot be known.
+    /// The application whose window is active; null when none is or it cannot be told whose it is.
     [[nodiscard]] virtual std::shared_ptr<RunningApplication> frontApplication() = 0;
 
-    /// Asks the desktop to bring the application to the front, without waiting for it to happen. False when
-    /// it has no window to bring there or the request could not be made.
+    /// Asks the desktop to bring the application to the front, without waiting for it to happen; that is
+    /// told like every activation. False when it has no window to bring there or the request could not be
+    /// made.
     virtual bool activate(const RunningApplication& application) = 0;
 
-    /// The observer is called each time an application comes to the front, this one included; with null when
-    /// it cannot be told which.
+    /// The observer is called each time an application comes to the front, this one included, from the main
+    /// loop; with null when it cannot be told which.
     [[nodiscard]] virtual Subscription
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) = 0;
 

@@ -6,15 +6,18 @@ namespace tovrel {
 
 class SettingsViewState;
 
-/// The window that shows the settings. Made hidden; closing it only hides it.
+/// The window that shows the settings. Made hidden; when the user closes it, it is only hidden, and what it
+/// shows stays as it is.
 class SettingsWindow {
   public:
     virtual ~SettingsWindow() = default;
 
-    /// Replaces what is shown by a new view of the state, which the window keeps.
+    /// Replaces what is shown by a new view of the state, which the window keeps until the next one. A window
+    /// that is shown stays so.
     virtual void setContent(std::unique_ptr<SettingsViewState> state) = 0;
 
-    /// Shows the window where it was last, above the others and with the keyboard focus.
+    /// Shows the window where it was last, above the others and with the keyboard focus; one that is shown
+    /// comes forward.
     virtual void showAndMakeKey() = 0;
 };
 

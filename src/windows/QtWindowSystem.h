@@ -10,7 +10,7 @@ namespace tovrel {
 OwnWindow ownWindow(const QWindow& window);
 
 /// A window system that offers no more than Qt does.
-class QtWindowSystem final : public WindowSystem {
+class QtWindowSystem : public WindowSystem {
   public:
     [[nodiscard]] bool isComposited() const override { return true; }
     /// As far as Qt calls the window active.

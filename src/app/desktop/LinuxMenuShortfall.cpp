@@ -4,8 +4,8 @@
 #include <sstream>
 #include <string>
 
-#include "platform/linux/dbus/MenuReadLimits.h"
 #include "platform/linux/menus/MenuObstacle.h"
+#include "platform/linux/menus/source/MenuReadLimits.h"
 
 namespace tovrel {
 namespace {

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "app/desktop/Desktop.h"
-#include "platform/linux/dbus/MenuReadReport.h"
+#include "platform/linux/menus/source/MenuReadReport.h"
 
 namespace tovrel {
 

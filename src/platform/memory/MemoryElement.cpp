@@ -40,7 +40,7 @@ std::optional<bool> MemoryElement::boolean(std::string_view attribute) {
 
 bool MemoryElement::perform(std::string_view action) {
     performedActions_.emplace_back(action);
-    return acceptsActions_;
+    return acceptsActions_ && action == "AXPress";
 }
 
 } // namespace tovrel

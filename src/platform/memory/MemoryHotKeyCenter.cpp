@@ -44,8 +44,16 @@ void MemoryHotKeyCenter::answer() {
 
 void MemoryHotKeyCenter::complete(HotKeyHandle handle, const Question& question) {
     const Shortcut& shortcut = question.registration.shortcut;
+    if (shortcut.carbonKeyCode == key_codes::unknown) {
+        question.completion(HotKeyError::noSuchKey);
+        return;
+    }
     if (refused_.contains(shortcut)) {
         question.completion(HotKeyError::takenByAnother);
+        return;
+    }
+    if (registrations(shortcut) > 0) {
+        question.completion(HotKeyError::alreadyRegistered);
         return;
     }
     registered_.emplace(handle, question.registration);

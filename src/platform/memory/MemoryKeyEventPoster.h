@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "model/VirtualKeyCodes.h"
 #include "platform/KeyEventPoster.h"
 
 namespace tovrel {
@@ -12,10 +13,11 @@ class MemoryKeyEventPoster : public KeyEventPoster {
   public:
     [[nodiscard]] bool canPost() const override { return canPost_; }
     bool postKeyPress(std::uint16_t keyCode, ModifierFlags flags) override {
-        if (canPost_) {
-            presses_.emplace_back(keyCode, flags);
+        if (!canPost_ || keyCode == key_codes::unknown) {
+            return false;
         }
-        return canPost_;
+        presses_.emplace_back(keyCode, flags);
+        return true;
     }
 
     /// Whether the desktop lets keys be posted from now on.

@@ -33,7 +33,9 @@ class MemoryPalettePanel : public PalettePanel {
     }
     void resignKey() {
         isKey_ = false;
-        resignKeyHandler_();
+        if (resignKeyHandler_) {
+            resignKeyHandler_();
+        }
     }
 
     [[nodiscard]] const PalettePlacement& placement() const { return placement_; }

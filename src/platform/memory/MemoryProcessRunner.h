@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -31,9 +32,12 @@ class MemoryProcessRunner : public ProcessRunner {
     [[nodiscard]] const std::vector<CommandProcessRequest>& requests() const { return requests_; }
 
   private:
-    void complete(std::size_t request, ProcessOutcome outcome) {
-        queue_->post([completion = std::move(completions_.at(request)), outcome = std::move(outcome)] {
-            completion(outcome);
+    void complete(std::size_t request, const ProcessOutcome& outcome) {
+        queue_->post([completion = std::move(completions_.at(request)), outcome,
+                      runner = std::weak_ptr<const bool>(isThere_)] {
+            if (!runner.expired()) {
+                completion(outcome);
+            }
         });
     }
 
@@ -41,6 +45,7 @@ class MemoryProcessRunner : public ProcessRunner {
     std::optional<int> launchError_;
     std::vector<CommandProcessRequest> requests_;
     std::vector<Completion> completions_;
+    std::shared_ptr<const bool> isThere_ = std::make_shared<const bool>(true);
 };
 
 } // namespace tovrel

@@ -32,8 +32,9 @@ class MemoryUserInterface : public UserInterface {
     }
     [[nodiscard]] bool isAlertOpen() const override { return isAlertOpen_; }
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription description) override {
-        statusItem_ = std::move(description);
-        return std::make_unique<Item>(statusItem_);
+        auto shown = std::make_shared<StatusItemDescription>(std::move(description));
+        statusItem_ = shown;
+        return std::make_unique<Item>(std::move(shown));
     }
     [[nodiscard]] Subscription onMenuTracking(std::function<void(bool)> observer) override {
         return menuTracking_.subscribe(std::move(observer));
@@ -60,15 +61,17 @@ class MemoryUserInterface : public UserInterface {
     [[nodiscard]] int activations() const { return activations_; }
     [[nodiscard]] int beeps() const { return beeps_; }
     [[nodiscard]] const std::vector<Alert>& alerts() const { return alerts_; }
-    /// The item made last.
-    [[nodiscard]] const StatusItemDescription& statusItem() const { return statusItem_; }
+    /// The item made last; null when it is gone.
+    [[nodiscard]] std::shared_ptr<const StatusItemDescription> statusItem() const {
+        return statusItem_.lock();
+    }
     [[nodiscard]] bool isTerminated() const { return isTerminated_; }
 
   private:
     struct Item : StatusItem {
-        explicit Item(StatusItemDescription& described) : description(described) {}
-        void setToolTip(const Text& toolTip) override { description.toolTip = toolTip; }
-        StatusItemDescription& description;
+        explicit Item(std::shared_ptr<StatusItemDescription> described) : shown(std::move(described)) {}
+        void setToolTip(const Text& toolTip) override { shown->toolTip = toolTip; }
+        std::shared_ptr<StatusItemDescription> shown;
     };
 
     int activations_ = 0;
@@ -79,7 +82,7 @@ class MemoryUserInterface : public UserInterface {
     bool isTerminated_ = false;
     std::optional<Screen> mainScreen_;
     std::vector<Alert> alerts_;
-    StatusItemDescription statusItem_;
+    std::weak_ptr<StatusItemDescription> statusItem_;
     ObserverList<> resignActive_;
     ObserverList<bool> menuTracking_;
 };

@@ -14,6 +14,9 @@ class MemoryWorkspace : public Workspace {
   public:
     [[nodiscard]] std::shared_ptr<RunningApplication> frontApplication() override { return front_; }
     bool activate(const RunningApplication& application) override {
+        if (application.isTerminated()) {
+            return false;
+        }
         activated_.push_back(application.processIdentifier());
         return true;
     }
@@ -31,7 +34,7 @@ class MemoryWorkspace : public Workspace {
         return std::nullopt;
     }
     [[nodiscard]] std::vector<InstalledApplication> installedApplications() override { return installed_; }
-    void open(const Text& /*url*/) override {}
+    void open(const Text& url) override { opened_.push_back(url); }
 
     void install(InstalledApplication application) { installed_.push_back(std::move(application)); }
 
@@ -48,11 +51,14 @@ class MemoryWorkspace : public Workspace {
 
     /// The process identifiers of the applications that were asked to come to the front.
     [[nodiscard]] const std::vector<std::int32_t>& activated() const { return activated_; }
+    /// The URLs that were handed over.
+    [[nodiscard]] const std::vector<Text>& opened() const { return opened_; }
 
   private:
     std::shared_ptr<RunningApplication> front_;
     ObserverList<const std::shared_ptr<RunningApplication>&> activations_;
     std::vector<std::int32_t> activated_;
+    std::vector<Text> opened_;
     std::vector<InstalledApplication> installed_;
 };
 

@@ -436,7 +436,7 @@ TEST_F(AppCoordinatorTest, TheHotKeyClosesTheStatusMenuBeforeItOpensThePalette) 
 
 TEST_F(AppCoordinatorTest, AShortcutThatCannotBeHadIsToldOnceAndTriedAgain) {
     const auto names = std::vector{coordinator_->togglePalette()};
-    EXPECT_EQ(userInterface_.statusItem().toolTip, Text("Tovrel"));
+    EXPECT_EQ(userInterface_.statusItem()->toolTip, Text("Tovrel"));
     shortcuts_.disable(names);
     center_.refuse(standard);
     shortcuts_.enable(names);
@@ -446,11 +446,12 @@ TEST_F(AppCoordinatorTest, AShortcutThatCannotBeHadIsToldOnceAndTriedAgain) {
     const Text reason = "Another program uses this shortcut.";
     EXPECT_EQ(notifications_.shown(),
               (std::vector<MemoryUserNotifications::Notification>{{headline, reason}}));
-    EXPECT_EQ(userInterface_.statusItem().toolTip, Text("Tovrel\n" + headline.utf8() + "\n" + reason.utf8()));
+    EXPECT_EQ(userInterface_.statusItem()->toolTip,
+              Text("Tovrel\n" + headline.utf8() + "\n" + reason.utf8()));
     center_.allow(standard);
     coordinator_->showSettings();
     EXPECT_EQ(coordinator_->shortcutRefusal(), std::nullopt);
-    EXPECT_EQ(userInterface_.statusItem().toolTip, Text("Tovrel"));
+    EXPECT_EQ(userInterface_.statusItem()->toolTip, Text("Tovrel"));
     pressHotKey();
     EXPECT_TRUE(panel_->isVisible());
     EXPECT_EQ(notifications_.shown().size(), 1U);
@@ -471,7 +472,7 @@ TEST_F(AppCoordinatorTest, ALateAnswerAboutTheShortcutIsToldWhenItComes) {
     center_.setDesktopTrigger(standard, "Super+Space");
     coordinator_->showSettings();
     center_.answer();
-    EXPECT_EQ(userInterface_.statusItem().toolTip, Text("Tovrel"));
+    EXPECT_EQ(userInterface_.statusItem()->toolTip, Text("Tovrel"));
     EXPECT_EQ(coordinator_->toggleShortcutForPeople(), Text("Super+Space"));
     pressHotKey();
     EXPECT_TRUE(panel_->isVisible());
@@ -486,10 +487,11 @@ TEST_F(AppCoordinatorTest, CallbacksDoNothingOnceTheCoordinatorIsGone) {
     Command command;
     command.action = customCommand("Mine", CustomCommandKind::shellScript);
     coordinator_->execute(command);
+    const auto open = userInterface_.statusItem()->menu.front().action;
     coordinator_.reset();
     runner_.end(0, ProcessEnd{1, false});
     EXPECT_TRUE(center_.press(standard)) << "still ours, to no effect";
-    userInterface_.statusItem().menu.front().action();
+    open();
     workspace_.bringToFront(browser_.running);
     queue_.advance(1s);
     EXPECT_EQ(editor_.items[1]->performedActions(), Actions{"AXPress"}) << "what was chosen is still done";
@@ -543,7 +545,7 @@ TEST_F(AppCoordinatorTest, TheSettingsAreThoseOfTheApplicationInFrontWhenTheyWer
 }
 
 TEST_F(AppCoordinatorTest, TheStatusMenuOpensAndQuits) {
-    const std::vector<StatusMenuItem>& menu = userInterface_.statusItem().menu;
+    const std::vector<StatusMenuItem>& menu = userInterface_.statusItem()->menu;
     ASSERT_EQ(menu.size(), 4U);
     menu.front().action();
     EXPECT_TRUE(panel_->isVisible());

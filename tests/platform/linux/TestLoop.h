@@ -17,6 +17,7 @@ class TestLoop : public MainQueue {
     void postAfter(std::chrono::milliseconds delay, Task task) override;
 
     void watch(EventSource& source) { sources_.push_back(&source); }
+    void forget(const EventSource& source) { std::erase(sources_, &source); }
 
     /// Runs until the condition holds; false when it does not before the test's deadline.
     bool runUntil(const std::function<bool()>& condition,

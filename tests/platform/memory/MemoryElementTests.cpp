@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/memory/MemoryAccessibility.h"
-
 namespace tovrel {
 namespace {
 
@@ -32,20 +30,10 @@ TEST(MemoryElement, ReadsOfAnotherTypeAreAbsent) {
 TEST(MemoryElement, RemembersActionsAndAnswersAsTold) {
     MemoryElement element;
     EXPECT_TRUE(element.perform("AXPress"));
-    element.setAcceptsActions(false);
     EXPECT_FALSE(element.perform("AXCancel"));
-    EXPECT_EQ(element.performedActions(), (std::vector<std::string>{"AXPress", "AXCancel"}));
-}
-
-TEST(MemoryAccessibility, KnowsApplicationsByProcess) {
-    MemoryAccessibility accessibility;
-    const auto root = std::make_shared<MemoryElement>();
-    accessibility.setApplicationElement(7, root);
-    EXPECT_EQ(accessibility.applicationElement(7), root);
-    EXPECT_EQ(accessibility.applicationElement(8), nullptr);
-    EXPECT_TRUE(accessibility.isTrusted());
-    accessibility.setTrusted(false);
-    EXPECT_FALSE(accessibility.isTrusted());
+    element.setAcceptsActions(false);
+    EXPECT_FALSE(element.perform("AXPress"));
+    EXPECT_EQ(element.performedActions(), (std::vector<std::string>{"AXPress", "AXCancel", "AXPress"}));
 }
 
 } // namespace

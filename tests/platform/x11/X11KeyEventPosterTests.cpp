@@ -30,7 +30,6 @@ constexpr std::uint32_t keySuper = 59;
 class X11KeyEventPosterTest : public X11ServerTest {
   protected:
     void SetUp() override {
-        X11ServerTest::SetUp();
         loop_.watch(front_);
         front_.map();
         ASSERT_TRUE(loop_.runUntil([&] { return front_.isMapped(); }));
@@ -76,8 +75,6 @@ TEST_F(X11KeyEventPosterTest, PressesWhatIsWantedAndLeavesNothingDown) {
     EXPECT_EQ(user_.modifiers(), XCB_MOD_MASK_LOCK);
 
     EXPECT_FALSE(poster_.postKeyPress(63, 0)) << "no such key";
-    EXPECT_FALSE(poster_.postKeyPress(4711, 0));
-    EXPECT_TRUE(poster_.canPost());
     X11KeyEventPoster nowhere(":60987");
     EXPECT_FALSE(nowhere.canPost());
     EXPECT_FALSE(nowhere.postKeyPress(keyK, 0));

@@ -1,34 +1,21 @@
 #pragma once
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/ServerProcess.h"
 #include "platform/linux/TestLoop.h"
+#include "platform/x11/X11Desktop.h"
 
 namespace tovrel {
 
-/// A private X server, and a window manager where a test starts one.
+/// A test with an X server of its own.
 class X11ServerTest : public testing::Test {
   protected:
-    void SetUp() override { ASSERT_FALSE(server_.announced().empty()) << "Xvfb is needed"; }
+    void startWindowManager() { desktop_.startWindowManager(); }
 
-    /// Returns when it manages windows; it ignores those that are mapped while it starts.
-    void startWindowManager() {
-        windowManager_ = std::make_unique<ServerProcess>(
-            std::vector<std::string>{"/bin/sh", "-c",
-                                     "DISPLAY=" + display_ +
-                                         " exec openbox --sm-disable --startup \"sh -c 'echo started "
-                                         ">/proc/$$/fd/{fd}'\" >/dev/null 2>&1"});
-        ASSERT_EQ(windowManager_->announced(), "started") << "openbox is needed";
-    }
-
-    ServerProcess server_{{"Xvfb", "-displayfd", "{fd}", "-screen", "0", "640x480x24", "-nolisten", "tcp"}};
-    std::string display_ = ":" + server_.announced();
-    std::unique_ptr<ServerProcess> windowManager_;
+    X11Desktop desktop_;
+    std::string display_ = desktop_.display();
     TestLoop loop_;
 };
 

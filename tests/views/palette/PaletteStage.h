@@ -2,6 +2,7 @@
 
 #include <QQuickView>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "palette/PaletteViewModel.h"
@@ -15,10 +16,11 @@ namespace tovrel {
 
 /// A palette's panel with its models, and what it called.
 struct PaletteStage {
-    PaletteStage()
-        : panel({viewModel, settings, [this](const Command& command) { executed.push_back(command); },
+    explicit PaletteStage(std::unique_ptr<WindowSystem> system = std::make_unique<QtWindowSystem>())
+        : windowSystem(std::move(system)),
+          panel({viewModel, settings, [this](const Command& command) { executed.push_back(command); },
                  [this] { ++dismissals; }},
-                textServices, engine, windowSystem, nullptr) {}
+                textServices, engine, *windowSystem, nullptr) {}
 
     /// Shows the commands and waits until the window is ready for keys.
     void show(std::vector<Command> commands, std::optional<Text> appName = std::nullopt,
@@ -31,7 +33,7 @@ struct PaletteStage {
     std::vector<Command> executed;
     int dismissals = 0;
     ViewEngine engine;
-    QtWindowSystem windowSystem;
+    std::unique_ptr<WindowSystem> windowSystem;
     QtPalettePanel panel;
 };
 

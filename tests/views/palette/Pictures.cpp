@@ -85,7 +85,7 @@ class Pictures {
     }
 
     void drawAlert() {
-        QtUserInterface userInterface(stage_.engine, {});
+        QtUserInterface userInterface(stage_.engine, *stage_.windowSystem);
         QTimer::singleShot(0, [this] {
             for (QWindow* window : QGuiApplication::topLevelWindows()) {
                 auto* view = qobject_cast<QQuickView*>(window);

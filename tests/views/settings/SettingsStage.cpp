@@ -58,14 +58,17 @@ SettingsStage::SettingsStage(const char* locale)
               .openURL = [this](const Text& url) { openedURLs.push_back(url); },
               .onMenuAction = [this](window_menu::Action action) { actions.push_back(action); }}) {}
 
-void SettingsStage::show(SettingsTab tab) {
-    auto model = std::make_shared<SettingsViewModel>(
+std::shared_ptr<SettingsViewModel> SettingsStage::makeModel() {
+    return std::make_shared<SettingsViewModel>(
         SettingsStores{rules, history, customCommands, paletteSettings, notifications,
                        preferences.unstoredChange()},
         SettingsProviders{.currentApplication = [this] { return application; },
                           .menuItems = [this] { return menuItems; },
                           .accessibilityPermission = [this] { return isTrusted; }});
-    auto state = std::make_unique<SettingsViewState>(std::move(model));
+}
+
+void SettingsStage::show(SettingsTab tab) {
+    auto state = std::make_unique<SettingsViewState>(makeModel());
     state_ = state.get();
     window.setContent(std::move(state));
     window.showAndMakeKey();

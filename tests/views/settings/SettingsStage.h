@@ -39,6 +39,9 @@ class SettingsStage {
   public:
     explicit SettingsStage(const char* locale = "en_US");
 
+    /// Of what the stores and the members below hold.
+    std::shared_ptr<SettingsViewModel> makeModel();
+
     /// Shows a new view of what the stores and the members below hold, and waits until it takes keys.
     void show(SettingsTab tab = SettingsTab::general);
 

@@ -77,12 +77,22 @@ class PosixProcessRunner::Children : public std::enable_shared_from_this<Childre
     void takeEnds() {
         for (auto child = children_.begin(); child != children_.end();) {
             if (const auto end = takeEnd(child->process)) {
-                queue_->post([completion = std::move(child->completion), end = *end] { completion(end); });
+                tell(std::move(child->completion), *end);
                 child = children_.erase(child);
             } else {
                 ++child;
             }
         }
+    }
+
+    /// By a task of the main queue, unless the runner is gone by then.
+    void tell(Completion completion, ProcessOutcome outcome) {
+        queue_->post(
+            [weak = weak_from_this(), completion = std::move(completion), outcome = std::move(outcome)] {
+                if (!weak.expired()) {
+                    completion(outcome);
+                }
+            });
     }
 
     [[nodiscard]] int fileDescriptor() const { return ends_.get(); }
@@ -125,8 +135,7 @@ class PosixProcessRunner::Children : public std::enable_shared_from_this<Childre
     bool isToLook_ = false;
 };
 
-PosixProcessRunner::PosixProcessRunner(MainQueue& queue)
-    : queue_(&queue), children_(std::make_shared<Children>(queue)) {}
+PosixProcessRunner::PosixProcessRunner(MainQueue& queue) : children_(std::make_shared<Children>(queue)) {}
 
 PosixProcessRunner::~PosixProcessRunner() = default;
 
@@ -136,9 +145,7 @@ void PosixProcessRunner::start(const CommandProcessRequest& request, Completion 
         children_->add(*process, std::move(completion));
         return;
     }
-    queue_->post([completion = std::move(completion), failure = std::get<LaunchFailure>(started)] {
-        completion(failure);
-    });
+    children_->tell(std::move(completion), std::get<LaunchFailure>(started));
 }
 
 int PosixProcessRunner::fileDescriptor() const {

@@ -32,7 +32,6 @@ class PosixProcessRunner final : public ProcessRunner, public EventSource {
   private:
     class Children;
 
-    MainQueue* queue_;
     std::shared_ptr<Children> children_;
 };
 

@@ -1,67 +1,52 @@
+#pragma once
+
 #include <array>
-#include <memory>
 #include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "platform/PreferencesDomain.h"
-#include "platform/memory/MemoryPreferencesDomain.h"
-#include "platform/preferences/SqlitePreferencesDomain.h"
 #include "stores/LastKnownPreferences.h"
-#include "support/TemporaryDirectory.h"
 
 namespace tovrel {
-namespace {
 
-struct MemoryDomain {
-    MemoryPreferencesDomain domain;
-};
-
-struct SqliteDomain {
-    testing_support::TemporaryDirectory directory;
-    SqlitePreferencesDomain domain{directory.path() / "preferences.sqlite",
-                                   [](const std::string& line) { ADD_FAILURE() << line; }};
-};
-
-/// What the resident program puts before either of them.
-template <typename Stored>
-struct LastKnown {
-    Stored stored;
-    LastKnownPreferences domain{stored.domain};
-};
-
-std::string everyByte() {
-    std::string bytes;
-    for (int byte = 0; byte < 256; ++byte) {
-        bytes += static_cast<char>(byte);
-    }
-    return bytes;
-}
-
-template <typename Implementation>
+/// What each preferences domain promises. A rig has an empty one:
+///
+///     PreferencesDomain& domain()
+template <typename Rig>
 class PreferencesDomainContract : public testing::Test {
   protected:
-    PreferencesDomain& domain() { return implementation_.domain; }
+    PreferencesDomain& domain() { return rig_.domain(); }
+
+    static std::string everyByte() {
+        std::string bytes;
+        for (int byte = 0; byte < 256; ++byte) {
+            bytes += static_cast<char>(byte);
+        }
+        return bytes;
+    }
 
   private:
-    Implementation implementation_;
+    Rig rig_;
 };
 
-using Implementations =
-    testing::Types<MemoryDomain, SqliteDomain, LastKnown<MemoryDomain>, LastKnown<SqliteDomain>>;
-
-class ImplementationNames {
+/// What the resident program puts before each domain, as a rig.
+template <typename StoredRig>
+class LastKnownPreferencesRig {
   public:
-    template <typename Implementation>
-    static std::string GetName(int index) { // NOLINT(readability-identifier-naming): a name of the framework
-        constexpr std::array names{"Memory", "Sqlite", "LastKnownOfMemory", "LastKnownOfSqlite"};
-        return names.at(static_cast<std::size_t>(index));
-    }
+    PreferencesDomain& domain() { return domain_; }
+
+  private:
+    StoredRig stored_;
+    LastKnownPreferences domain_{stored_.domain()};
 };
 
-TYPED_TEST_SUITE(PreferencesDomainContract, Implementations, ImplementationNames);
+TYPED_TEST_SUITE_P(PreferencesDomainContract);
 
-TYPED_TEST(PreferencesDomainContract, StartsEmptyAndRemovingNothingSucceeds) {
+TYPED_TEST_P(PreferencesDomainContract, StartsEmptyAndRemovingNothingSucceeds) {
     PreferencesDomain& domain = this->domain();
     EXPECT_EQ(domain.value("key"), std::nullopt);
     EXPECT_TRUE(domain.lastReadSucceeded());
@@ -71,9 +56,9 @@ TYPED_TEST(PreferencesDomainContract, StartsEmptyAndRemovingNothingSucceeds) {
     EXPECT_TRUE(domain.all().empty());
 }
 
-TYPED_TEST(PreferencesDomainContract, GivesBackEveryValueWithItsTypeAndBytes) {
+TYPED_TEST_P(PreferencesDomainContract, GivesBackEveryValueWithItsTypeAndBytes) {
     PreferencesDomain& domain = this->domain();
-    const std::array<PreferenceValue, 10> values{PreferenceData{everyByte()},
+    const std::array<PreferenceValue, 10> values{PreferenceData{this->everyByte()},
                                                  PreferenceData{""},
                                                  PreferenceData{"text"},
                                                  PreferenceData{"1"},
@@ -91,14 +76,14 @@ TYPED_TEST(PreferencesDomainContract, GivesBackEveryValueWithItsTypeAndBytes) {
     ASSERT_TRUE(domain.set("key", Text("E\u0301")));
     EXPECT_EQ(std::get<Text>(*domain.value("key")).utf8(), "E\u0301");
 
-    const PreferenceData large{std::string(1'000'000, 'x') + everyByte()};
+    const PreferenceData large{std::string(1'000'000, 'x') + this->everyByte()};
     ASSERT_TRUE(domain.set("large", large));
     EXPECT_EQ(domain.value("large"), PreferenceValue(large));
     EXPECT_EQ(dataValue(domain, "large"), large.bytes);
     EXPECT_EQ(dataValue(domain, "key"), std::nullopt); // a string is no data
 }
 
-TYPED_TEST(PreferencesDomainContract, KeysAreComparedAndOrderedByteByByte) {
+TYPED_TEST_P(PreferencesDomainContract, KeysAreComparedAndOrderedByteByByte) {
     PreferencesDomain& domain = this->domain();
     const std::set<std::string> keys{"",
                                      "A",
@@ -126,7 +111,7 @@ TYPED_TEST(PreferencesDomainContract, KeysAreComparedAndOrderedByteByByte) {
     EXPECT_EQ(domain.all().size(), keys.size() - 1);
 }
 
-TYPED_TEST(PreferencesDomainContract, SetsManyValuesAtOnceAndKeepsTheOthers) {
+TYPED_TEST_P(PreferencesDomainContract, SetsManyValuesAtOnceAndKeepsTheOthers) {
     PreferencesDomain& domain = this->domain();
     ASSERT_TRUE(domain.set("kept", true));
     ASSERT_TRUE(domain.set("replaced", true));
@@ -135,7 +120,7 @@ TYPED_TEST(PreferencesDomainContract, SetsManyValuesAtOnceAndKeepsTheOthers) {
                                 {"added", true}, {"kept", true}, {"replaced", Text("new")}}));
 }
 
-TYPED_TEST(PreferencesDomainContract, TheRevisionMovesWithEveryChangeAndOnlyThen) {
+TYPED_TEST_P(PreferencesDomainContract, TheRevisionMovesWithEveryChangeAndOnlyThen) {
     PreferencesDomain& domain = this->domain();
     std::set<std::uint64_t> seen{domain.revision()};
     const auto isNew = [&] { return seen.insert(domain.revision()).second; };
@@ -148,5 +133,9 @@ TYPED_TEST(PreferencesDomainContract, TheRevisionMovesWithEveryChangeAndOnlyThen
     EXPECT_FALSE(isNew());
 }
 
-} // namespace
+REGISTER_TYPED_TEST_SUITE_P(PreferencesDomainContract, StartsEmptyAndRemovingNothingSucceeds,
+                            GivesBackEveryValueWithItsTypeAndBytes, KeysAreComparedAndOrderedByteByByte,
+                            SetsManyValuesAtOnceAndKeepsTheOthers,
+                            TheRevisionMovesWithEveryChangeAndOnlyThen);
+
 } // namespace tovrel
