@@ -16,7 +16,7 @@ struct StatusMenuItem {
     std::function<void()> action;
 };
 
-/// The program's sign in the desktop's status bar. It disappears with the object.
+/// The program's icon in the desktop's status bar, shown as long as the object lives.
 class StatusItem {
   public:
     virtual ~StatusItem() = default;

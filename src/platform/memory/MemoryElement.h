@@ -26,7 +26,7 @@ class MemoryElement : public AccessibilityElement {
         attributes_.insert_or_assign(attribute, std::move(value));
     }
 
-    /// What `perform` answers from now on; true before.
+    /// Sets what `perform` answers; initially true.
     void setAcceptsActions(bool accepts) { acceptsActions_ = accepts; }
 
     /// The actions asked for so far, accepted or not, in order.
