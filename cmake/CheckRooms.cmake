@@ -1,10 +1,11 @@
 # Checks what each file of src includes and declares beforehand, against the table of rooms in HACKING.md. Fails with
 # every line that is not allowed.
 #
-# A row of the table is `folder` | what is there | libraries. A room may include itself, the rooms above it and the
-# headers of its libraries; the C++ standard library everyone may. Besides, what belongs to one desktop (a folder
-# within platform, memory aside) is seen by other such folders and by app alone, and a display only by itself and by
-# app/desktop. A declaration of another room's type counts like an #include of its header.
+# A row of the table is `folder` | what is there | libraries. A room may include itself, the rooms above it
+# and the headers of its libraries; every room may include the C++ standard library. A folder of one desktop
+# (each within platform, except memory) may be included only by other such folders and by app, and a display's
+# only by itself and by app/desktop. A declaration of another room's type counts like an #include of its
+# header.
 #
 # Called with SOURCE_DIR (the src folder), TABLE (HACKING.md) and STAMP (a file to touch on success).
 
@@ -40,7 +41,7 @@ foreach(row IN LISTS rows)
     endforeach()
 endforeach()
 
-# Each type's room, by the definitions in headers.
+# The room of each type, found by the definitions in headers.
 file(GLOB_RECURSE sources RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/*.h ${SOURCE_DIR}/*.cpp)
 foreach(file IN LISTS sources)
     get_filename_component(room ${file} DIRECTORY)
@@ -92,7 +93,7 @@ foreach(file IN LISTS sources)
             if(DEFINED room_of_${type})
                 may_include(${room} ${room_of_${type}})
             else()
-                set(allowed TRUE) # a library's, or of this file
+                set(allowed TRUE) # a header of a library, or a type of this file
             endif()
         endif()
         if(NOT allowed)

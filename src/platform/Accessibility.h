@@ -7,7 +7,7 @@
 
 namespace tovrel {
 
-/// The door to other applications' user interfaces.
+/// Gives access to other applications' user interfaces.
 class Accessibility {
   public:
     virtual ~Accessibility() = default;

@@ -8,7 +8,7 @@
 
 namespace tovrel {
 
-/// Tells the windows of one display apart. Only the display that gave it makes anything of it.
+/// Identifies a window of one display. Only the display that gave it knows its form.
 using WindowIdentifier = std::string;
 
 /// The D-Bus objects in which GTK publishes a window's menu bar and the actions it refers to.
@@ -24,14 +24,14 @@ struct ApplicationWindow {
     WindowIdentifier identifier;
     std::optional<std::int32_t> processIdentifier; ///< Of a process of this machine.
     Text title;
-    std::string instanceName;          ///< First part of the window class; empty where there is none.
-    std::string className;             ///< Second part of the window class, likewise.
-    std::string applicationIdentifier; ///< What the application calls itself: a desktop entry's id, mostly.
+    std::string instanceName; ///< First part of the window class; empty where there is none.
+    std::string className;    ///< Second part of the window class; empty where there is none.
+    std::string applicationIdentifier; ///< The application's name for itself, mostly a desktop entry's id.
     std::optional<GtkMenuAddress> gtkMenus; ///< Absent when the window publishes no menu bar.
     /// The number under which the registrar of application menus knows the window; absent where no window
     /// has one.
     std::optional<std::uint32_t> registrarIdentifier;
-    bool isModal = false; ///< It keeps the user from the other windows of its application.
+    bool isModal = false; ///< It blocks the other windows of its application.
 };
 
 } // namespace tovrel

@@ -4,10 +4,9 @@
 
 namespace tovrel {
 
-/// Where the keys typed after a hot key belong: to this window if it has been shown, to another one if it has
-/// been hidden.
+/// Where keys typed after a hot key must go: to this window if it is shown, to another one if it is hidden.
 struct KeyDestination {
-    OwnWindow window = 0; ///< 0: it does not matter.
+    OwnWindow window = 0; ///< 0 when the destination does not matter.
     bool shouldHaveFocus = false;
 };
 

@@ -11,13 +11,13 @@ class KeyEventPoster {
   public:
     virtual ~KeyEventPoster() = default;
 
-    /// Whether keys can be posted on this desktop at all; asked before each use, for that can change. Some
-    /// let no program do it.
+    /// Whether this desktop lets keys be posted; some let no program do so. Asked before each use, because
+    /// the answer can change.
     [[nodiscard]] virtual bool canPost() const = 0;
 
     /// Posts one press and one release of a key with exactly these modifiers held. Keys that the user holds
-    /// physically are accounted for, and no modifier is left pressed or released that the user does not hold
-    /// so. False when the key cannot be posted; then nothing was.
+    /// physically are accounted for, and afterwards each modifier is pressed or released as the user holds
+    /// it. False when the key cannot be posted; then nothing was.
     virtual bool postKeyPress(std::uint16_t keyCode, ModifierFlags flags) = 0;
 };
 

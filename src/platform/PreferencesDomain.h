@@ -21,15 +21,15 @@ struct PreferenceData {
 /// A typed preference value.
 using PreferenceValue = std::variant<PreferenceData, Text, bool>;
 
-/// What stands in the way of reading or changing preferences.
+/// What prevents reading or changing preferences.
 enum class PreferencesObstacle {
     locked,       ///< Another program keeps them locked.
     noRoom,       ///< The disk is full, or a quota used up.
-    notPermitted, ///< They may only be read, or not even that.
+    notPermitted, ///< They may only be read, or may not even be read.
     laterVersion, ///< A later version of this program wrote them.
     foreign,      ///< Their file is another program's.
-    notAFile,     ///< Something that is no file is in its place.
-    other,        ///< The reason says.
+    notAFile,     ///< Something other than a file is in its place.
+    other,        ///< See the reason.
 };
 
 /// Why an operation on the preferences failed.
@@ -50,14 +50,15 @@ class PreferencesDomain {
     virtual ~PreferencesDomain() = default;
 
     /// The value under the key, of whichever type; absent when there is none or it cannot be read. A key
-    /// whose last read failed cannot be set until it has been read: what was made of nothing must not replace
-    /// it.
+    /// whose last read failed cannot be set until it has been read, so that a value made up for a missing one
+    /// cannot replace the stored one.
     [[nodiscard]] virtual std::optional<PreferenceValue> value(const std::string& key) = 0;
 
     /// Stores the value, replacing any other. False when it could not be stored: the value before stays.
     virtual bool set(const std::string& key, const PreferenceValue& value) = 0;
 
-    /// Stores all the values, replacing any others under their keys, or none of them. False: none.
+    /// Stores all the values, replacing any others under their keys, or none of them. False when none was
+    /// stored.
     virtual bool setAll(const std::vector<std::pair<std::string, PreferenceValue>>& values) = 0;
 
     /// Removes the value, if any. False when that could not be stored: the value before stays.

@@ -44,8 +44,7 @@ class ProcessRunner {
 
     /// Starts the program and returns at once; any number may run at the same time. `completion` is called
     /// once, by a task of the main queue: when the process has ended, however long that takes, or when it
-    /// could not be started. A process outlives this object; whatever has not been told by then, nobody is
-    /// told.
+    /// could not be started. A process may outlive this object; its end is then not reported.
     virtual void start(const CommandProcessRequest& request, Completion completion) = 0;
 };
 

@@ -13,11 +13,11 @@ struct StatusMenuItem {
     Text title;
     std::optional<Text> keyEquivalent; ///< One character, used with the Command modifier.
     Text symbol;                       ///< Name of the symbol shown before the title.
-    std::function<void()>
-        action; ///< Called when the line is chosen, after the menu has closed. May be empty.
+    /// Called when the line is chosen, after the menu has closed; may be empty.
+    std::function<void()> action;
 };
 
-/// The program's sign in the desktop's status bar. It and its menu disappear with the object.
+/// The program's icon in the desktop's status bar. It and its menu disappear with the object.
 class StatusItem {
   public:
     virtual ~StatusItem() = default;

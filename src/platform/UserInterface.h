@@ -22,13 +22,13 @@ struct Alert {
 enum class AlertAnswer {
     firstButton,
     secondButton,
-    none, ///< Dismissed by Escape or by closing the window.
+    none, ///< The question was dismissed by Escape or by closing the window.
 };
 
 /// One of the display's screens.
 struct Screen {
-    Text identifier;  ///< No other screen has it as long as this one is connected.
-    Size visibleSize; ///< Of the visible frame: the screen without the desktop's bars.
+    Text identifier;  ///< Unique as long as this screen is connected.
+    Size visibleSize; ///< Size of the visible frame: the screen without the desktop's bars.
 };
 
 /// This process as an application of the desktop.
@@ -36,7 +36,7 @@ class UserInterface {
   public:
     virtual ~UserInterface() = default;
 
-    /// Brings this application to the front, whichever other one is there, if it shows a window.
+    /// Brings this application to the front if it shows a window.
     virtual void activate() = 0;
 
     /// The observer is called when this application was active and no longer is.
@@ -45,24 +45,25 @@ class UserInterface {
     /// The screen on which the user works; absent without one.
     [[nodiscard]] virtual std::optional<Screen> mainScreen() = 0;
 
-    /// Asks the question, as a warning, and returns once it is answered; events go on being handled.
-    /// The question belongs to the window from which it was asked, and until it is answered no other window
-    /// of this application takes keys or clicks. A second one is not asked meanwhile: its answer is none.
+    /// Asks the question, as a warning, and returns once it is answered; events go on being handled. The
+    /// question belongs to the window from which it was asked, and until it is answered no other window of
+    /// this application takes keys or clicks. A second question meanwhile is not asked and answered with
+    /// `none`.
     [[nodiscard]] virtual AlertAnswer runAlert(const Alert& alert) = 0;
 
     /// Whether a question is waiting for its answer.
     [[nodiscard]] virtual bool isAlertOpen() const = 0;
 
-    /// The item is shown as soon as the desktop has a status bar; null when it cannot have one.
+    /// The item is shown as soon as the desktop has a status bar; null when the desktop cannot have one.
     [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem(StatusItemDescription description) = 0;
 
     /// The observer is called when one of this application's menus opens (true) and closes (false).
     [[nodiscard]] virtual Subscription onMenuTracking(std::function<void(bool)> observer) = 0;
 
-    /// Closes the one that is open, if any, as far as that is this process's and not the desktop's to do.
+    /// Closes the open menu, if any, unless only the desktop can close it.
     virtual void closeMenu() = 0;
 
-    /// The short sound for what cannot be done.
+    /// Plays the short sound for an action that is not possible.
     virtual void beep() = 0;
 
     /// Ends the program's main loop.

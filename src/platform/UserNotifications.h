@@ -4,13 +4,13 @@
 
 namespace tovrel {
 
-/// Tells the user what no window of this program is there to tell.
+/// Tells the user something when no window of this program is open.
 class UserNotifications {
   public:
     virtual ~UserNotifications() = default;
 
-    /// Has the desktop show a short message over whatever is on the screen. Both texts are plain: nothing in
-    /// them is markup. Returns at once; on a desktop that shows no notifications nothing happens.
+    /// Has the desktop show a short message over whatever is on the screen. Both texts are plain, without
+    /// markup. Returns at once; has no effect on a desktop that shows no notifications.
     virtual void show(const Text& title, const Text& body) = 0;
 };
 

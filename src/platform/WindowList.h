@@ -11,7 +11,7 @@
 
 namespace tovrel {
 
-/// The windows of applications on a display, read anew at each question. Without a display there are none.
+/// The windows of applications on a display, read anew at each call. Without a display there are none.
 class WindowList {
   public:
     virtual ~WindowList() = default;
@@ -19,27 +19,27 @@ class WindowList {
     /// Whether there is a display to ask.
     [[nodiscard]] virtual bool isAvailable() const = 0;
 
-    /// The window that has the user's attention. A display that names none while it moves the focus is given
-    /// until the deadline.
+    /// The active window. If the display names none because it is moving the focus, waits until the deadline.
     [[nodiscard]] virtual std::optional<ApplicationWindow>
     activeWindow(std::chrono::steady_clock::time_point deadline) = 0;
 
-    /// All of them, the topmost first.
+    /// All windows, the topmost first.
     [[nodiscard]] virtual std::vector<ApplicationWindow> windows() = 0;
 
-    /// Those of a process: the active one if it has it, then the others, the topmost first.
+    /// The windows of a process: the active window first if it is one of them, then the others, the topmost
+    /// first.
     [[nodiscard]] virtual std::vector<ApplicationWindow> windowsOf(std::int32_t processIdentifier) = 0;
 
     /// Asks the display to bring the window to the front, without waiting for it to happen. False when it
     /// could not be asked.
     virtual bool activate(const WindowIdentifier& window) = 0;
 
-    /// Waits until a window of this process is active; whether one is.
+    /// Waits until a window of this process is active. Returns whether one is.
     virtual bool waitUntilActive(std::int32_t processIdentifier,
                                  std::chrono::steady_clock::time_point deadline) = 0;
 
-    /// The observer is called on the main queue each time another window has become the active one. That none
-    /// is for a moment is not told, nor is the same window once more after it.
+    /// The observer is called on the main queue each time another window becomes the active one. It is not
+    /// called when no window is active for a moment, nor when the same window is active again after that.
     [[nodiscard]] virtual Subscription
     onActivation(std::function<void(const ApplicationWindow&)> observer) = 0;
 };

@@ -21,12 +21,12 @@ struct InstalledApplication {
     friend bool operator==(const InstalledApplication&, const InstalledApplication&) = default;
 };
 
-/// The desktop as far as it is made of applications.
+/// The applications of the desktop, installed and running.
 class Workspace {
   public:
     virtual ~Workspace() = default;
 
-    /// The application whose window is active; null when none is or it cannot be told whose it is.
+    /// The application whose window is active; null when none is or its application cannot be known.
     [[nodiscard]] virtual std::shared_ptr<RunningApplication> frontApplication() = 0;
 
     /// Asks the desktop to bring the application to the front, without waiting for it to happen; that is
@@ -34,19 +34,19 @@ class Workspace {
     /// made.
     virtual bool activate(const RunningApplication& application) = 0;
 
-    /// The observer is called each time an application comes to the front, this one included, from the main
-    /// loop; with null when it cannot be told which.
+    /// The observer is called from the main loop each time an application comes to the front, this one
+    /// included; with null when it is unknown which one.
     [[nodiscard]] virtual Subscription
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) = 0;
 
-    /// The application with the identifier; absent when none such is installed.
+    /// The application with the identifier; absent when it is not installed.
     [[nodiscard]] virtual std::optional<InstalledApplication>
     installedApplication(const Text& bundleIdentifier) = 0;
 
-    /// Those that the desktop shows in its menus, in no certain order.
+    /// The applications that the desktop shows in its menus, in no particular order.
     [[nodiscard]] virtual std::vector<InstalledApplication> installedApplications() = 0;
 
-    /// Hands a URL to whatever the desktop opens its kind with. The outcome is not known.
+    /// Opens a URL with the desktop's program for its kind. The outcome is not known.
     virtual void open(const Text& url) = 0;
 };
 

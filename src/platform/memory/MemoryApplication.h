@@ -6,7 +6,7 @@
 
 namespace tovrel {
 
-/// An application that is what it is said to be.
+/// An application with the properties given at construction.
 class MemoryApplication : public RunningApplication {
   public:
     MemoryApplication(std::int32_t processIdentifier, std::optional<Text> bundleIdentifier,

@@ -26,7 +26,7 @@ class MemoryElement : public AccessibilityElement {
         attributes_.insert_or_assign(attribute, std::move(value));
     }
 
-    /// Whether it can be pressed from now on; it can before. Other actions it never accepts.
+    /// Sets whether it can be pressed; initially true. It never accepts other actions.
     void setAcceptsActions(bool accepts) { acceptsActions_ = accepts; }
 
     /// The actions asked for so far, accepted or not, in order.

@@ -24,25 +24,25 @@ class MemoryHotKeyCenter : public HotKeyCenter {
     }
     [[nodiscard]] std::optional<Text> characterForKeyCode(std::uint32_t keyCode) override;
 
-    /// From now on the combination is refused, as one that another program has; or no longer.
+    /// Has the combination refused from now on, as if another program had it; `allow` ends that.
     void refuse(const Shortcut& shortcut) { refused_.insert(shortcut); }
     void allow(const Shortcut& shortcut) { refused_.erase(shortcut); }
-    /// From now on what to press for the combination is this, for the user.
+    /// Sets the desktop's own words for what the user must press.
     void setDesktopTrigger(const Shortcut& shortcut, const Text& text) { triggers_[shortcut] = text; }
-    /// From now on outcomes wait for `answer`, as on a desktop that asks the user; or come at once again.
+    /// Sets whether outcomes wait for `answer`, as on a desktop that asks the user, or come at once.
     void setAnswersLate(bool answersLate) { answersLate_ = answersLate; }
-    /// Completes the registrations that wait now, in their order.
+    /// Completes the waiting registrations in their order.
     void answer();
-    /// The keyboard is another one: registered combinations that are refused now do not fire any more.
+    /// Reports another keyboard: registered combinations that are refused now no longer fire.
     void changeKeyboard() const;
-    /// As if the taken keyboard had not been attended to in time.
+    /// Ends `takeKeyboard` as if a key had waited too long to be handled.
     void loseKeyboard();
 
-    /// Whether a handler took the key. A combination that nobody registered goes to the raw key handler only;
-    /// while the keyboard is taken, all go to whoever has it.
+    /// Presses the combination; returns whether a handler took it. A combination that nobody registered goes
+    /// to the raw key handler only; while the keyboard is taken, every key goes to its taker.
     bool press(const Shortcut& shortcut);
     bool release(const Shortcut& shortcut);
-    /// A key as it comes while a menu is open; whether there was a handler.
+    /// Sends a key as it comes while a menu is open; returns whether there was a handler.
     bool rawKey(const KeyEvent& event) const;
 
     /// How often a combination is registered now.

@@ -20,7 +20,7 @@ class MemoryKeyEventPoster : public KeyEventPoster {
         return true;
     }
 
-    /// Whether the desktop lets keys be posted from now on.
+    /// Sets whether the desktop lets keys be posted.
     void setCanPost(bool canPost) { canPost_ = canPost; }
 
     [[nodiscard]] const std::vector<std::pair<std::uint16_t, ModifierFlags>>& presses() const {

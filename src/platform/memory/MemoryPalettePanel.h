@@ -6,7 +6,7 @@
 
 namespace tovrel {
 
-/// A panel that is only told of: keys are typed into it by calling `type`.
+/// A panel without a window; tests type keys into it with `type`.
 class MemoryPalettePanel : public PalettePanel {
   public:
     [[nodiscard]] bool isVisible() const override { return isVisible_; }
@@ -26,7 +26,7 @@ class MemoryPalettePanel : public PalettePanel {
         resignKeyHandler_ = std::move(handler);
     }
 
-    /// Whether the key was used up before the search field saw it.
+    /// Types a key; returns whether it was used up before the search field saw it.
     bool type(const KeyEvent& event) {
         const KeyHandler handler = keyHandler_;
         return handler && handler(event);

@@ -10,7 +10,7 @@
 
 namespace tovrel {
 
-/// Runs nothing: keeps the requests, whose processes end as told.
+/// Keeps requests without running them; tests say how their processes end.
 class MemoryProcessRunner : public ProcessRunner {
   public:
     explicit MemoryProcessRunner(MainQueue& queue) : queue_(&queue) {}
@@ -23,10 +23,10 @@ class MemoryProcessRunner : public ProcessRunner {
         }
     }
 
-    /// No process can be started from now on, for the reason of an errno value.
+    /// Makes every later start fail with this errno value.
     void refuse(int error) { launchError_ = error; }
 
-    /// Ends the process of a request, which has not ended yet.
+    /// Ends the process of a request; it must not have ended yet.
     void end(std::size_t request, ProcessEnd end) { complete(request, end); }
 
     [[nodiscard]] const std::vector<CommandProcessRequest>& requests() const { return requests_; }

@@ -8,7 +8,7 @@
 
 namespace tovrel {
 
-/// A window that keeps what it is to show.
+/// A settings window that only keeps its content.
 class MemorySettingsWindow : public SettingsWindow {
   public:
     void setContent(std::unique_ptr<SettingsViewState> state) override { state_ = std::move(state); }

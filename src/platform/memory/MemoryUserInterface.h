@@ -10,7 +10,7 @@
 
 namespace tovrel {
 
-/// A user interface without windows: its alerts are answered as told.
+/// A user interface without windows; its alerts get a preset answer.
 class MemoryUserInterface : public UserInterface {
   public:
     void activate() override { ++activations_; }
@@ -47,7 +47,7 @@ class MemoryUserInterface : public UserInterface {
     void beep() override { ++beeps_; }
     void terminate() override { isTerminated_ = true; }
 
-    /// How alerts are answered from now on.
+    /// Sets the answer to alerts.
     void setAnswer(AlertAnswer answer) { answer_ = answer; }
     void setMainScreen(std::optional<Screen> screen) { mainScreen_ = std::move(screen); }
     void resignActive() { resignActive_.notify(); }

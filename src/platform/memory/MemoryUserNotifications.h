@@ -6,7 +6,7 @@
 
 namespace tovrel {
 
-/// Shows nothing: keeps what was to be shown.
+/// Keeps notifications without showing them.
 class MemoryUserNotifications : public UserNotifications {
   public:
     struct Notification {

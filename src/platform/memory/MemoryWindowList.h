@@ -6,8 +6,7 @@
 
 namespace tovrel {
 
-/// Windows that are there when a test says so. Nothing happens while one waits: a window that is not active
-/// at once is not waited for.
+/// Windows that a test opens and closes. Waiting returns at once, because nothing can happen meanwhile.
 class MemoryWindowList : public WindowList {
   public:
     [[nodiscard]] bool isAvailable() const override { return true; }
@@ -15,7 +14,7 @@ class MemoryWindowList : public WindowList {
     activeWindow(std::chrono::steady_clock::time_point deadline) override;
     [[nodiscard]] std::vector<ApplicationWindow> windows() override { return windows_; }
     [[nodiscard]] std::vector<ApplicationWindow> windowsOf(std::int32_t processIdentifier) override;
-    /// Only notes it: whether to obey is the desktop's to decide.
+    /// Only records the request: a desktop need not follow it.
     bool activate(const WindowIdentifier& window) override;
     bool waitUntilActive(std::int32_t processIdentifier,
                          std::chrono::steady_clock::time_point deadline) override;
@@ -23,11 +22,11 @@ class MemoryWindowList : public WindowList {
         return activations_.subscribe(std::move(observer));
     }
 
-    /// Above the others, and not active. Its identifier is no other's.
+    /// Opens a window above the others, not active. Its identifier must be unique.
     void open(ApplicationWindow window);
-    /// The active one leaves none active.
+    /// Closes the window; if it was the active one, none is active afterwards.
     void close(const WindowIdentifier& window);
-    /// The window becomes the active one, where it is; absent, none is.
+    /// Makes the window active without moving it; absent makes none active.
     void setActive(const std::optional<WindowIdentifier>& window);
 
     /// The windows that were asked to come to the front.

@@ -9,7 +9,7 @@
 
 namespace tovrel {
 
-/// A desktop on which applications come to the front when they are told to.
+/// A desktop on which tests bring applications to the front.
 class MemoryWorkspace : public Workspace {
   public:
     [[nodiscard]] std::shared_ptr<RunningApplication> frontApplication() override { return front_; }
@@ -38,13 +38,13 @@ class MemoryWorkspace : public Workspace {
 
     void install(InstalledApplication application) { installed_.push_back(std::move(application)); }
 
-    /// As when the user switches to it; null is a desktop without an application in front.
+    /// Acts as if the user had switched to the application; null leaves no application in front.
     void bringToFront(std::shared_ptr<RunningApplication> application) {
         front_ = std::move(application);
         activations_.notify(front_);
     }
 
-    /// The same, but nobody is told: the news is still on its way.
+    /// Does the same without calling observers, as if the event had not arrived yet.
     void bringToFrontUntold(std::shared_ptr<RunningApplication> application) {
         front_ = std::move(application);
     }

@@ -17,8 +17,8 @@
 ///
 /// An ELEMENT is an object with any of "AXTitle", "AXEnabled", "AXMenuItemMarkChar", "AXMenuItemCmdChar",
 /// "AXMenuItemCmdModifiers" and "AXChildren". Every member may be missing, and one of a wrong type counts as
-/// missing, as does an entry of "AXChildren" that is no object. Titles are cut at `longestMenuTitle`. Of
-/// members with the same name the last counts.
+/// missing, as does an entry of "AXChildren" that is no object. Titles are cut at `longestMenuTitle`. If
+/// several members have the same name, the last one counts.
 namespace tovrel::recording {
 
 /// Why a document is no recording, or why no recording can be made. The message is one line.
@@ -43,8 +43,8 @@ inline constexpr std::size_t maximumPathBytes = std::size_t{64} << 20U;
 inline constexpr std::size_t maximumElements = 100'000;
 inline constexpr int maximumLevels = 250;
 
-/// The process identifier of a recording that tells none. No process has it, and unlike 0, which says that
-/// an application cannot be read, it lets the menus be scanned.
+/// The process identifier of a recording without one. No process has it, and unlike 0, which says that an
+/// application cannot be read, it lets the menus be scanned.
 inline constexpr std::int32_t unknownProcessIdentifier = -1;
 
 struct Recording {

@@ -14,8 +14,8 @@
 namespace tovrel::recording {
 namespace {
 
-/// An upper bound of the values and members in the document: every one but the first of its array or object
-/// follows a comma.
+/// An upper bound of the values and members in the document: each follows a comma, except the first of its
+/// array or object.
 std::size_t valueCount(std::string_view document) {
     std::size_t count = 1;
     bool inString = false;
@@ -43,8 +43,8 @@ std::optional<std::int64_t> integerOf(const json::Value& number) {
 
 std::shared_ptr<MemoryElement> elementOf(const json::Value& object);
 
-/// Keeps each value as what it is: that a member has another type than its attribute's then shows when it is
-/// read. Absent for what no attribute can be: null, a fraction, a number out of range.
+/// Keeps each value with its own type, so that a member of a wrong type is absent when it is read. Absent for
+/// what no attribute can be: null, a fraction, a number out of range.
 std::optional<MemoryElement::Value> valueOf(const json::Value& value) {
     switch (value.type()) {
     case json::Value::value_t::string:
@@ -81,7 +81,7 @@ std::shared_ptr<MemoryElement> elementOf(const json::Value& object) {
     return element;
 }
 
-/// Adds up what the paths of an element's descendants take, and stops when that is too much.
+/// Adds up the memory that the paths of an element's descendants take, and stops at the maximum.
 class PathMeter {
   public:
     void addChildren(AccessibilityElement& element, std::size_t pathBytes) {

@@ -11,7 +11,7 @@ using OrderedValue = nlohmann::ordered_json;
     throw Error("the recording would be larger than " + std::to_string(maximumBytes >> 20U) + " MiB");
 }
 
-/// Writes a tree that may be endless or hold cycles.
+/// Writes a tree that may be endless or have cycles.
 class ElementWriter {
   public:
     [[nodiscard]] std::size_t elements() const { return elements_; }
