@@ -24,8 +24,8 @@ struct ApplicationWindow {
     WindowIdentifier identifier;
     std::optional<std::int32_t> processIdentifier; ///< Of a process of this machine.
     Text title;
-    std::string instanceName; ///< First part of the window class; empty where there is none.
-    std::string className;    ///< Second part of the window class; empty where there is none.
+    std::string instanceName;          ///< First part of the window class; empty where there is none.
+    std::string className;             ///< Second part of the window class; empty where there is none.
     std::string applicationIdentifier; ///< The application's name for itself, mostly a desktop entry's id.
     std::optional<GtkMenuAddress> gtkMenus; ///< Absent when the window publishes no menu bar.
     /// The number under which the registrar of application menus knows the window; absent where no window
