@@ -75,6 +75,7 @@ class WindowListContract : public testing::Test {
     [[nodiscard]] WindowList& list() { return stage_.list; }
     [[nodiscard]] std::vector<std::string> titles(const std::vector<ApplicationWindow>& windows) const {
         std::vector<std::string> found;
+        found.reserve(windows.size());
         for (const ApplicationWindow& window : windows) {
             found.push_back(window.title.utf8());
         }
