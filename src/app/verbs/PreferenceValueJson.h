@@ -9,7 +9,7 @@ namespace tovrel {
 const char* typeName(const PreferenceValue& value);
 
 /// {"type": …, "value": …}. Data that is not UTF-8 is written in Base64 beside "encoding": "base64", so that
-/// no value loses anything.
+/// every value can be restored exactly.
 json::Value toJson(const PreferenceValue& value);
 
 /// The value that `toJson` wrote; throws json::DecodeError.
