@@ -11,7 +11,7 @@ class SettingsWindow {
   public:
     virtual ~SettingsWindow() = default;
 
-    /// Replaces what is shown by a new view of the state, which the window keeps.
+    /// Shows a new view of the state in place of the old view. The window owns the state.
     virtual void setContent(std::unique_ptr<SettingsViewState> state) = 0;
 
     /// Shows the window where it was last, above the others and with the keyboard focus.
