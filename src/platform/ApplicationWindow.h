@@ -26,8 +26,8 @@ struct ApplicationWindow {
     Text title;
     std::string instanceName; ///< First part of the window class; empty where there is none.
     std::string className;    ///< Second part of the window class; empty where there is none.
-    std::string
-        applicationIdentifier; ///< The application's own name for itself, mostly a desktop entry's id.
+    /// The application's own name for itself, mostly a desktop entry's id.
+    std::string applicationIdentifier;
     std::optional<GtkMenuAddress> gtkMenus; ///< Absent when the window publishes no menu bar.
     /// The number under which the registrar of application menus knows the window; absent where no window
     /// has one.

@@ -8,8 +8,9 @@ namespace tovrel {
 /// exception), and repaints at once instead of after 5 ms.
 void configureQtEnvironment();
 
-/// Loads the views. A program has one, made after the application object; it outlives every window. With
-/// TOVREL_RENDERER=opengl in the environment, OpenGL draws the windows if it is available.
+/// Loads the views. A program has one, made after the application object; it outlives every window.
+///
+/// With TOVREL_RENDERER=opengl in the environment, OpenGL draws the windows if it is available.
 class ViewEngine {
   public:
     ViewEngine();

@@ -75,8 +75,7 @@ class AppsSettings : public QObject {
     SettingsRowsModel behaviors_;
     SettingsRowsModel rules_;
     SettingsRowsModel applications_;
-    mutable std::map<Text, std::optional<InstalledApplication>>
-        installed_; ///< A cache of the applications asked for.
+    mutable std::map<Text, std::optional<InstalledApplication>> installed_; ///< A cache by identifier.
     std::vector<Subscription> subscriptions_;
 };
 
