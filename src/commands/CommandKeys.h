@@ -12,11 +12,11 @@
 
 namespace tovrel {
 
-/// Every key a command can be found by, each once within its list; none is empty.
+/// All keys under which a command can be found, each once within its list; none is empty.
 struct CommandKeys {
     std::vector<std::string> aliasVariants; ///< The keys of its aliases.
     std::vector<std::string>
-        candidateVariants; ///< Of its title, subtitle, shortcut, menu path and search tokens.
+        candidateVariants; ///< The keys of its title, subtitle, shortcut, menu path and search tokens.
 };
 
 /// Derives the keys of many commands. Menu titles recur in thousands of commands, and transliteration costs
@@ -33,7 +33,7 @@ class CommandKeyDeriver {
     /// The keys of one text.
     struct Derived {
         SearchVariants variants;
-        /// Whether the keys of this text after another and a space are the two texts' keys end to end.
+        /// Whether another text, a space and this text together have the keys of both texts end to end.
         bool isComposable = false;
     };
 
