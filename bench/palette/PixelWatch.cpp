@@ -1,5 +1,6 @@
-// Presses keys for bench/palette-latency and tells how long the pixels of a part of the screen took to
-// change. It reads commands, one a line, and answers each with one line; "no" with a reason when it cannot.
+// Presses keys for bench/palette-latency and measures how long the pixels of a part of the screen take to
+// change. It reads commands, one per line, and answers each with one line, which is "no" with a reason on
+// failure.
 //
 //   area X Y W H              the part of the screen that is watched from now on
 //   time QUIET TIMEOUT KEYS…  presses KEYS; microseconds until the first changed pixels were seen, until

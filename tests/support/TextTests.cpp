@@ -20,7 +20,7 @@ TEST(Text, EqualityOrderAndHashFollowCanonicalEquivalence) {
     EXPECT_EQ(precomposed.hash(), decomposed.hash());
     EXPECT_TRUE((std::unordered_set<Text>{precomposed}.contains(decomposed)));
 
-    // Marks of different classes commute; a singleton equals what it decomposes to; Hangul composes.
+    // Marks of different classes commute; a singleton equals its decomposition; Hangul composes.
     EXPECT_EQ(Text("q\u0307\u0323"), Text("q\u0323\u0307"));
     EXPECT_EQ(Text("\u212B"), Text("\u00C5"));
     EXPECT_EQ(Text("\uAC01"), Text("\u1100\u1161\u11A8"));

@@ -23,7 +23,7 @@ struct SqliteDomain {
                                    [](const std::string& line) { ADD_FAILURE() << line; }};
 };
 
-/// What the resident program puts before either of them.
+/// The domain that the resident program puts in front of another one.
 template <typename Stored>
 struct LastKnown {
     Stored stored;
@@ -84,10 +84,10 @@ TYPED_TEST(PreferencesDomainContract, GivesBackEveryValueWithItsTypeAndBytes) {
                                                  true,
                                                  false};
     for (const PreferenceValue& value : values) {
-        ASSERT_TRUE(domain.set("key", value)); // each replaces the one before, of whatever type
+        ASSERT_TRUE(domain.set("key", value)); // each replaces the previous one, of whatever type
         EXPECT_EQ(domain.value("key"), value) << value.index();
     }
-    // Equal texts may differ in their bytes; the bytes are what was given.
+    // Equal texts may differ in their bytes; the given bytes are stored.
     ASSERT_TRUE(domain.set("key", Text("E\u0301")));
     EXPECT_EQ(std::get<Text>(*domain.value("key")).utf8(), "E\u0301");
 

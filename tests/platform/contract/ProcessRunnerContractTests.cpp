@@ -13,7 +13,7 @@
 namespace tovrel {
 namespace {
 
-/// Outcomes by what was started; each is told once, and by the queue alone.
+/// Checks that each outcome is reported once, and only by the queue.
 void keepsTheContract(ProcessRunner& runner, TestLoop& loop, const std::function<void()>& endThem,
                       const std::function<void()>& removePrograms) {
     std::map<std::string, std::vector<ProcessOutcome>> outcomes;

@@ -11,12 +11,12 @@
 
 namespace tovrel {
 
-/// A private X server, and a window manager where a test starts one.
+/// A private X server, with a window manager if a test starts one.
 class X11ServerTest : public testing::Test {
   protected:
     void SetUp() override { ASSERT_FALSE(server_.announced().empty()) << "Xvfb is needed"; }
 
-    /// Returns when it manages windows; it ignores those that are mapped while it starts.
+    /// Returns when the window manager manages windows; it ignores windows that are mapped while it starts.
     void startWindowManager() {
         windowManager_ = std::make_unique<ServerProcess>(
             std::vector<std::string>{"/bin/sh", "-c",

@@ -13,7 +13,7 @@
 
 namespace tovrel {
 
-/// A palette's panel with its models, and what it called.
+/// A palette's panel with its models, and a record of its calls.
 struct PaletteStage {
     PaletteStage()
         : panel({viewModel, settings, [this](const Command& command) { executed.push_back(command); },
