@@ -7,7 +7,7 @@
 //                             the last before QUIET ms without any, and how many times they changed; "no"
 //                             when none changed within TIMEOUT ms
 //   press KEYS…               presses KEYS
-//   still QUIET TIMEOUT       waits until no pixel has changed for QUIET ms, those of a caret included
+//   still QUIET TIMEOUT       waits until no pixel has changed for QUIET ms, not even a caret's
 //   remember                  keeps the present pixels of the area
 //   restored TIMEOUT          waits until the area looks so again; the microseconds that took
 //   front WINDOW TIMEOUT      waits until the window manager says that this window is the active one

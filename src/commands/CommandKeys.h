@@ -20,9 +20,9 @@ struct CommandKeys {
 };
 
 /// Derives the keys of many commands. Menu titles recur in thousands of commands, and transliteration costs
-/// microseconds a word. The keys of each distinct title are therefore derived once, those of a whole menu
-/// path are composed from its titles' keys, and those of a title in another script from its words' keys,
-/// wherever that gives the same.
+/// microseconds a word. So the keys of each distinct title are derived once. The keys of a menu path are
+/// composed from its titles' keys, and those of a title in another script from its words' keys, wherever that
+/// gives the same result.
 class CommandKeyDeriver {
   public:
     explicit CommandKeyDeriver(const TextServices& textServices) : textServices_(&textServices) {}

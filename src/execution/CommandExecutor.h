@@ -34,8 +34,8 @@ struct ProcessFailed {
 using CommandExecutionResult = std::variant<std::monostate, InvalidOpenPayload, ProcessFailed, LaunchFailure>;
 
 /// Runs custom commands: starts a process for a shell command, an AppleScript or a Shortcut, or asks the
-/// system to open a URL or a file. The payload is used as it is stored: no trimming, no expansion of "~" or
-/// of variables.
+/// system to open a URL or a file. The stored payload is used unchanged: it is not trimmed, and "~" and
+/// variables are not expanded.
 class CommandExecutor {
   public:
     /// Asks the system to open a URL; the outcome is not known.

@@ -50,7 +50,7 @@ class TextServices {
     /// diacritics. Absent when the transliteration is not available.
     [[nodiscard]] std::optional<std::string> transliteratedToLatin(std::string_view text) const;
 
-    /// The extended grapheme clusters (Unicode Standard Annex 29) of a text, what a user perceives as its
+    /// The extended grapheme clusters (Unicode Standard Annex 29) of a text, which users perceive as its
     /// characters, as views into it.
     [[nodiscard]] std::vector<std::string_view> graphemeClusters(std::string_view text) const;
 

@@ -46,7 +46,7 @@ TEST(Text, KeepsItsBytesAndRepairsIllFormedOnes) {
 
 TEST(TextServices, TitlesAreOrderedForPeopleInEveryLocale) {
     const icu::Locale before = icu::Locale::getDefault();
-    for (const char* environment : {"en_US_POSIX", "de_DE"}) { // what ICU makes of LC_ALL=C, and a real one
+    for (const char* environment : {"en_US_POSIX", "de_DE"}) { // ICU's locale for LC_ALL=C, and a real one
         UErrorCode status = U_ZERO_ERROR;
         icu::Locale::setDefault(icu::Locale(environment), status);
         for (const char* identifier : {"", "C", "POSIX", "C.UTF-8", "C.utf8", "en_US_POSIX", "xx", "en_US"}) {

@@ -95,7 +95,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     /// Opens the palette unless it is open.
     void showPalette();
 
-    /// Opens the settings, or brings them forward, for the application in front as it is now.
+    /// Opens the settings for the application in front, or brings them forward.
     void showSettings();
 
     /// Determines the target again, reads its menus and returns the commands to offer for it.

@@ -12,7 +12,7 @@ const char* typeName(const PreferenceValue& value);
 /// every value can be restored exactly.
 json::Value toJson(const PreferenceValue& value);
 
-/// The value that `toJson` wrote; throws json::DecodeError.
+/// Reads a value that `toJson` wrote; throws json::DecodeError.
 PreferenceValue preferenceValueFrom(const json::Value& value);
 
 } // namespace tovrel

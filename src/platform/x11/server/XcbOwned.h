@@ -6,7 +6,9 @@
 namespace tovrel {
 
 struct XcbFree {
-    void operator()(void* memory) const { std::free(memory); } // NOLINT: xcb allocates what it answers so
+    void operator()(void* memory) const {
+        std::free(memory);
+    } // NOLINT: xcb allocates its answers with malloc
 };
 
 /// Owns a reply, an event or an error from xcb.

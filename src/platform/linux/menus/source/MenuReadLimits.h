@@ -17,7 +17,7 @@ struct MenuReadLimits {
     /// (985 objects) takes 65 ms; ten times its size on a machine three times slower still fits.
     std::chrono::milliseconds total{2000};
     /// Objects in a menu bar; more are a mistake or an attack. This is ten times the largest measured bar;
-    /// each object costs about 2 KB until it can be searched for.
+    /// each object takes about 2 KB by the time it can be searched for.
     std::size_t nodes = 10'000;
     /// Entries of one menu; the rest is left out. Nobody reads further down in a menu, and unlimited lists of
     /// bookmarks or recent files would use up the time for other menus.
@@ -47,8 +47,9 @@ struct MenuReadLimits {
     std::size_t valueBytes = std::size_t{256} << 10U;
 
     /// Bytes of the menu paths of all entries together, each title counted with the overhead of a text. Every
-    /// entry carries its whole path from here on, so a long title above many entries costs the product of
-    /// both, about twelve times until it can be searched for. The largest menu bar measured has 140 KB.
+    /// entry carries its whole path from here on, so a long title above many entries takes the product of
+    /// both, and about twelve times that by the time it can be searched for. The largest menu bar measured
+    /// has 140 KB.
     std::size_t pathBytes = std::size_t{1} << 20U;
 
     /// The limits for the calls of one source.

@@ -31,8 +31,8 @@ bool isUnreachable(MenuReadOutcome outcome);
 /// because the bus would keep track of them.
 bool leavesCallsBehind(MenuReadOutcome outcome);
 
-/// Counts a text that may become a title, and returns it cut to the length of the longest title (see
-/// `menuTitle`). Empty when the room for texts has run out.
+/// Counts a text that may become a title, and returns the part that is examined for one (see
+/// `longestMenuName`). Empty when the room for texts has run out.
 std::string_view keptTitle(std::string_view text, AnswerBudget& budget);
 
 } // namespace tovrel
