@@ -14,8 +14,8 @@ namespace tovrel {
 enum class Folding { byLocale, byDefault };
 
 /// The matching key of a text: folded, lower-cased, and reduced to letters, marks and numbers (general
-/// categories L, M, N) without anything between them, so that "Save As…" and "save as" have the same key. The
-/// key is in normalization form C, so that canonically equivalent keys have the same bytes. May be empty.
+/// categories L, M, N) without anything between them, so that "Save As…" and "save  as" have the same key.
+/// The key is in normalization form C, so that canonically equivalent keys have the same bytes. May be empty.
 std::string normalizedKey(std::string_view text, const TextServices& textServices,
                           Folding folding = Folding::byLocale);
 

@@ -98,7 +98,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     /// Opens the settings for the application in front, or brings them forward.
     void showSettings();
 
-    /// Determines the target again, reads its menus and returns the commands to offer for it.
+    /// Determines the target and its menus again, and returns the commands to offer for it.
     std::vector<Command> refreshCommands();
 
     /// Runs a chosen command and closes the palette. A menu item is pressed 200 ms later, when its

@@ -25,7 +25,7 @@ class LinuxDisplay {
     /// May be called as long as the window list exists.
     [[nodiscard]] virtual std::function<std::optional<std::string>()> accessibilityBusAddress() = 0;
 
-    /// Makes all of them except the process runner, which does not depend on the display.
+    /// Makes all seams except the process runner, which does not depend on the display.
     [[nodiscard]] virtual ResidentSeams makeResidentSeams(MainQueue& queue,
                                                           std::function<KeyDestination()> keyDestination,
                                                           const ToolkitConnection& toolkit) = 0;

@@ -6,9 +6,7 @@
 namespace tovrel {
 
 struct XcbFree {
-    void operator()(void* memory) const {
-        std::free(memory);
-    } // NOLINT: xcb allocates its answers with malloc
+    void operator()(void* memory) const { std::free(memory); } // NOLINT: xcb allocates answers so
 };
 
 /// Owns a reply, an event or an error from xcb.

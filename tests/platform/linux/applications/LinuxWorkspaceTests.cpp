@@ -35,8 +35,7 @@ class LinuxWorkspaceTest : public X11ServerTest {
         X11Connection& connection = client.connection();
         xcb_change_property(connection.handle(), XCB_PROP_MODE_REPLACE, window, connection.atom(name),
                             XCB_ATOM_CARDINAL, 32, 1, &value);
-        static_cast<void>(
-            connection.numbers(window, name)); // The server answers after it has handled the request.
+        static_cast<void>(connection.numbers(window, name)); // Answered after all earlier requests.
     }
     void setActive(xcb_window_t window) {
         setNumber(other_, other_.connection().root(), "_NET_ACTIVE_WINDOW", window);

@@ -38,10 +38,10 @@ constexpr std::size_t roomBytes = std::size_t{32} << 20U;
 /// The messages of one kind of application.
 struct Attack {
     const char* name;
-    std::size_t labelBytes = 8; ///< The label of the one menu above all others.
+    std::size_t labelBytes = 8; ///< Of the label of the one menu above all others.
     std::size_t menus = menuCount;
     std::size_t items = itemCount;
-    std::size_t titleBytes = 8; ///< The title of every item.
+    std::size_t titleBytes = 8; ///< Of the title of every item.
     /// An attribute of the first item, with `bytes` bytes or `variants` variants of a byte each.
     const char* attribute = nullptr;
     std::size_t bytes = 0;
