@@ -9,7 +9,7 @@
 namespace tovrel::bench {
 
 /// A menu tree of about `leafCount` commands with distinct paths: the recorded menu bars of the tests,
-/// repeated under numbered titles, one title in ten extended by a word with accents, in Cyrillic or in
+/// repeated under numbered titles. One title in ten has an extra word with accents, in Cyrillic or in
 /// Japanese.
 std::vector<ScannedMenuItem> menuTree(std::size_t leafCount);
 

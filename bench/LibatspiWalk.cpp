@@ -16,7 +16,7 @@ struct Free {
 using Accessible = std::unique_ptr<AtspiAccessible, Unref>;
 using String = std::unique_ptr<char, Free>;
 
-/// The depth to which the compared reader searches, into the same kinds of window parts.
+/// The search depth of the compared reader, which enters the same kinds of window parts.
 constexpr int searchedDepth = 8;
 
 bool holdsContent(AtspiRole role) {

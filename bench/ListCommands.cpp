@@ -1,5 +1,5 @@
-// Prints the commands that the search benchmarks search, one a line as "File › Save", for another program to
-// filter; with --queries, the queries instead, one a line.
+// Prints the commands that the search benchmarks search, one per line as "File › Save", for another program
+// to filter. With --queries it prints the queries instead, one per line.
 //
 // usage: tovrel_bench_list COUNT | --queries
 

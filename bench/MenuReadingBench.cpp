@@ -1,6 +1,6 @@
 // Reads the menu bar of a running application in three ways in turn and prints the medians: as this program
-// does, from each of its sources alone, and with the platform's client library. Each read has a fresh process
-// with connections of its own.
+// does, from each of its sources alone, and with the platform's client library. Each read runs in a fresh
+// process with its own connections.
 
 #include <algorithm>
 #include <array>
@@ -56,7 +56,7 @@ Measurement measured(const MenuReadReport& report) {
     return {0, report.nodes, report.calls};
 }
 
-/// Reads as the program does; without windows, from the accessibility bus alone.
+/// Reads as the program does; without windows, only from the accessibility bus.
 Measurement readWith(LinuxAccessibility& accessibility, std::int32_t processIdentifier) {
     const auto bar = accessibility.applicationElement(processIdentifier)->element("AXMenuBar");
     if (!bar) {

@@ -20,7 +20,7 @@ namespace {
 
 using namespace tovrel;
 
-/// The number of reads after which everything that is made only once has been made.
+/// The number of reads after which all one-time work is done.
 constexpr int warmUp = 100;
 
 /// The memory in kB that only this process has written to (proc(5), smaps_rollup).

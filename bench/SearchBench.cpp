@@ -101,7 +101,8 @@ void BM_WholeQueries(benchmark::State& state) {
 }
 BENCHMARK(BM_WholeQueries)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 
-/// The command list of 3,000 menu items with a history of 5,000 records, decoded anew for each list.
+/// The command list of 3,000 menu items with a history of 5,000 records, which is decoded again for each
+/// list.
 void BM_CommandList(benchmark::State& state) {
     const std::vector<ScannedMenuItem> tree = menuTree(3000);
     const std::vector<Command> known = commands(5000);

@@ -9,14 +9,14 @@
 
 namespace tovrel {
 
-/// Plays keys as if on the keyboard (XTEST). The connection outlives it.
+/// Plays keys as if on the keyboard (XTEST). The connection must outlive the object.
 class KeyPlayer {
   public:
     explicit KeyPlayer(X11Connection& connection);
 
     /// Collects the presses and releases of words such as "ctrl+shift+p" (all down in this order and up in
-    /// the opposite one), "down:ctrl+shift+p" and "up:ctrl+shift+p". False for a key that is not on the
-    /// keyboard.
+    /// the opposite one), "down:ctrl+shift+p" and "up:ctrl+shift+p". Returns false for a key that is not on
+    /// the keyboard.
     bool play(const std::vector<std::string>& words);
     /// Sends the collected presses and releases, in one piece.
     void send();

@@ -1,12 +1,13 @@
-// Presses keys for bench/palette-latency and tells how long the pixels of a part of the screen took to
-// change. It reads commands, one a line, and answers each with one line; "no" with a reason when it cannot.
+// Presses keys for bench/palette-latency and measures how long the pixels of a part of the screen take to
+// change. It reads commands, one per line, and answers each with one line, which is "no" with a reason on
+// failure.
 //
 //   area X Y W H              the part of the screen that is watched from now on
 //   time QUIET TIMEOUT KEYS…  presses KEYS; microseconds until the first changed pixels were seen, until
 //                             the last before QUIET ms without any, and how many times they changed; "no"
 //                             when none changed within TIMEOUT ms
 //   press KEYS…               presses KEYS
-//   still QUIET TIMEOUT       waits until no pixel has changed for QUIET ms, those of a caret included
+//   still QUIET TIMEOUT       waits until no pixel has changed for QUIET ms, not even a caret's
 //   remember                  keeps the present pixels of the area
 //   restored TIMEOUT          waits until the area looks so again; the microseconds that took
 //   front WINDOW TIMEOUT      waits until the window manager says that this window is the active one

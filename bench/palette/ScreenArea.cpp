@@ -65,7 +65,7 @@ bool ScreenArea::watch(const Rectangle& area) {
 }
 
 bool ScreenArea::look() {
-    // Earlier events are dropped, because the pixels that are read now hold everything drawn before.
+    // Earlier events are dropped, because the pixels that are read now include everything drawn before.
     while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(connection_.handle())}) {
     }
     if (!read()) {

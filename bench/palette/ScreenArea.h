@@ -13,10 +13,9 @@
 
 namespace tovrel {
 
-/// Watches the pixels of one rectangle of the screen. The server tells when something was drawn there
-/// (DAMAGE); the pixels themselves, read through shared memory (MIT-SHM), decide whether that changed any.
-/// Each time given is therefore the time at which the change was seen in the pixels, one reading after it was
-/// made.
+/// Watches the pixels of one rectangle of the screen. The server reports when something was drawn there
+/// (DAMAGE); the pixels themselves, read through shared memory (MIT-SHM), decide whether that changed any. So
+/// each time is the time at which the change was seen in the pixels, one reading after it was made.
 class ScreenArea {
   public:
     using Clock = std::chrono::steady_clock;
@@ -34,7 +33,7 @@ class ScreenArea {
         int count = 0;
     };
 
-    /// The connection outlives it. Without the extensions nothing is ever seen: see `isAvailable`.
+    /// The connection must outlive the object. Without the extensions it sees no changes; see `isAvailable`.
     explicit ScreenArea(X11Connection& connection);
     ~ScreenArea();
     ScreenArea(const ScreenArea&) = delete;
@@ -42,20 +41,20 @@ class ScreenArea {
 
     [[nodiscard]] bool isAvailable() const { return hasDamage_; }
 
-    /// Watches this part of the screen from now on; it must lie on the screen. False when the server refuses
-    /// it.
+    /// Watches this part of the screen from now on; the part must be on the screen. Returns false when the
+    /// server refuses.
     bool watch(const Rectangle& area);
     [[nodiscard]] const Rectangle& area() const { return area_; }
 
-    /// Reads the pixels, which later ones are then compared with.
+    /// Reads the pixels, with which later ones are compared.
     bool look();
-    /// Waits for changes of what was last looked at, until none has followed another for `quiet`; absent when
-    /// there is none before the deadline. With a `quiet` of zero it returns at the first.
+    /// Waits for changes since the last look, until no further one comes for `quiet`; absent when there is
+    /// none before the deadline. With a `quiet` of zero it returns at the first change.
     std::optional<Changes> waitForChanges(std::chrono::milliseconds quiet, Clock::time_point deadline);
 
     /// Keeps the pixels last looked at.
     void remember();
-    /// Waits until the area looks as remembered; false at the deadline.
+    /// Waits until the area looks as remembered; returns false at the deadline.
     bool waitForRemembered(Clock::time_point deadline);
 
   private:

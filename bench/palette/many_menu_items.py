@@ -46,7 +46,7 @@ def menu(first, end, keys):
         title = f"{VERBS[number % len(VERBS)]} {NOUNS[number % len(NOUNS)]} {number + 1}"
         item = Gtk.CheckMenuItem(label=title) if number % 10 == 3 else Gtk.MenuItem(label=title)
         if number % 5 == 0:
-            # Each of 52 combinations is given more than once; their effect does not matter here.
+            # Each of the 52 combinations is used more than once; their effect does not matter here.
             modifiers = Gdk.ModifierType.CONTROL_MASK
             if number % 2:
                 modifiers |= Gdk.ModifierType.SHIFT_MASK

@@ -17,7 +17,7 @@ FIELD = (364, 100, 380, 60)
 ROWS = (310, 190, 640, 340)
 # The window covers the screen; carets, which blink, are at its left edge.
 WINDOW = (0, 0, 1270, 760)
-# Menus are read anew after half a minute.
+# Menus are read again after half a minute.
 CACHE_SECONDS = 30
 MARGIN_SECONDS = 1.5
 # FeatherPad shows the administrator a notice for ten seconds, in the middle of its window.

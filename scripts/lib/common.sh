@@ -30,7 +30,7 @@ usage_error() {
     exit 2
 }
 
-# Installs those of the named Debian packages that are missing.
+# Installs the missing ones of the named Debian packages.
 install_packages() {
     local package missing=()
     for package in "$@"; do
@@ -61,7 +61,7 @@ quietly() {
     fi
 }
 
-# Configures a preset and builds the named targets of it, or all. The preset fuzz is a part of asan.
+# Configures a preset and builds its named targets, or all. The preset fuzz is a part of asan.
 build_preset() {
     local preset=$1 options=()
     local configured=${preset/fuzz/asan}
@@ -74,8 +74,8 @@ build_preset() {
     quietly "$root/build/$preset.log" cmake --build --preset "$preset" "$@"
 }
 
-# Runs each fuzzer of the sanitized build for so many seconds. The inputs that it finds worth trying again are kept in
-# the build folder and used the next time.
+# Runs each fuzzer of the sanitized build for the given number of seconds. Useful inputs are kept in the build folder
+# for the next run.
 fuzz_all() {
     local seconds=$1 fuzzer name kept log
     for fuzzer in "$root"/build/asan/tests/fuzz/tovrel_fuzz_*; do

@@ -6,7 +6,7 @@
 
 namespace tovrel {
 
-/// Why a shortcut does not fire, in a sentence for the user.
+/// A sentence for the user that says why a shortcut does not fire.
 [[nodiscard]] Text hotKeyErrorText(HotKeyError error, const LocalizedString& localized);
 
 } // namespace tovrel

@@ -13,7 +13,7 @@
 namespace tovrel {
 namespace {
 
-/// "TVHK": tells this module's hot keys from any other's.
+/// "TVHK" identifies this module's hot keys.
 constexpr std::uint32_t signature = 0x5456484B;
 
 std::uint32_t unsigned32(std::int64_t value) {
@@ -58,7 +58,7 @@ void HotKeyRegistrations::unregisterShortcut(const Shortcut& shortcut) {
 
 void HotKeyRegistrations::retryRefused() {
     if (isMenuOpen_) {
-        return; // At its end all are tried.
+        return; // all are tried when the menu closes
     }
     for (auto& [id, record] : records_) {
         if (const auto refusal =
@@ -117,7 +117,7 @@ void HotKeyRegistrations::giveBack(Record& record) {
 }
 
 void HotKeyRegistrations::complete(std::uint32_t id, const HotKeyOutcome& outcome) {
-    Record& record = records_.at(id); // Of one that was given back nothing is told.
+    Record& record = records_.at(id); // no outcome is reported after a registration is given back
     if (const auto* registered = std::get_if<HotKeyRegistered>(&outcome)) {
         record.state = State::registered;
         record.refusal.reset();
@@ -177,7 +177,7 @@ bool HotKeyRegistrations::handleHotKey(const HotKeyEvent& event) {
     if (event.identifier.signature != signature || found == records_.end()) {
         return false;
     }
-    const Shortcut shortcut = found->second.shortcut; // the callback may unregister it
+    const Shortcut shortcut = found->second.shortcut; // the callback may unregister the shortcut
     if (event.kind == HotKeyEventKind::pressed) {
         down_.insert(shortcut);
         onKeyDown_(shortcut);

@@ -13,40 +13,38 @@
 
 namespace tovrel {
 
-/// The shortcuts this module has registered system-wide, and the events that come of them.
+/// The shortcuts that this module has registered system-wide, and their events.
 ///
-/// The desktop may answer a registration at once or later. Until it has, nothing is said of the shortcut but
-/// what was the case before: it is neither refused anew nor had.
+/// The desktop may answer a registration at once or later. Until then the shortcut keeps its previous state.
 ///
-/// While one of the program's menus is open the desktop delivers no hot keys: they are then given back, and
-/// the raw key events that reach the menu are matched instead. A shortcut that is down when a menu opens or
-/// closes is followed to its release all the same.
+/// While one of the program's menus is open, the desktop delivers no hot keys. They are then given back, and
+/// raw key events that reach the menu are matched instead. The release of a shortcut is seen even if a menu
+/// opens or closes while it is down.
 class HotKeyRegistrations {
   public:
-    /// Told the shortcut that went down or up.
+    /// Gets the shortcut that went down or up.
     using Callback = std::function<void(const Shortcut&)>;
 
-    /// Of a refused registration one line is written to `output`. `onLateOutcome` is called when the desktop
-    /// has answered, except while one of the operations below has just asked it. All references must outlive
-    /// the object.
+    /// Each refused registration writes one line to `output`. `onLateOutcome` is called when the desktop
+    /// answers later, not during one of the operations below. All references must outlive the object.
     HotKeyRegistrations(HotKeyCenter& center, const TextServices& textServices, std::ostream& output,
                         Callback onKeyDown, Callback onKeyUp, std::function<void()> onLateOutcome);
     ~HotKeyRegistrations();
     HotKeyRegistrations(const HotKeyRegistrations&) = delete;
     HotKeyRegistrations& operator=(const HotKeyRegistrations&) = delete;
 
-    /// A refused shortcut does not fire until it can be had. A key code or modifiers outside 32 bits end the
-    /// process.
+    /// Registers the shortcut; a refused one does not fire until a retry succeeds. A key code or modifiers
+    /// outside 32 bits end the process.
     void registerShortcut(const Shortcut& shortcut);
     void unregisterShortcut(const Shortcut& shortcut);
 
-    /// Tries what was refused once more, without another line of output.
+    /// Tries refused shortcuts again, without another line of output.
     void retryRefused();
 
     /// The registered shortcuts that do not fire, and why.
     [[nodiscard]] std::map<Shortcut, HotKeyError> refusals() const;
 
-    /// What to press for those shortcuts of which the desktop has its own words (HotKeyRegistered).
+    /// The desktop's own words for what to press (HotKeyRegistered), for the shortcuts that have them.
     [[nodiscard]] std::map<Shortcut, Text> desktopTriggers() const;
 
     /// Whether one of this program's menus is open. Initially none is.
@@ -59,9 +57,9 @@ class HotKeyRegistrations {
 
         Shortcut shortcut;
         State state = State::givenBack;
-        HotKeyHandle handle = 0;            ///< While it is asked for or registered.
-        std::optional<HotKeyError> refusal; ///< The latest answer, where that was one.
-        std::optional<Text> desktopTrigger; ///< The latest that was told.
+        HotKeyHandle handle = 0;            ///< The handle while the shortcut is requested or registered.
+        std::optional<HotKeyError> refusal; ///< The latest answer if it was a refusal.
+        std::optional<Text> desktopTrigger; ///< The latest trigger.
 
         [[nodiscard]] bool isHeld() const { return state == State::asked || state == State::registered; }
     };
@@ -81,12 +79,12 @@ class HotKeyRegistrations {
     Callback onKeyDown_;
     Callback onKeyUp_;
     std::function<void()> onLateOutcome_;
-    std::map<std::uint32_t, Record> records_; ///< By hot-key id.
+    std::map<std::uint32_t, Record> records_; ///< The records by hot-key id.
     std::int64_t lastId_ = 0;
-    bool isTaking_ = false; ///< The outcome may come before the call returns that asks for it.
+    bool isTaking_ = false; ///< Set while `take` asks, because the outcome may come before the call returns.
     bool isHandlerInstalled_ = false;
     bool isMenuOpen_ = false;
-    std::set<Shortcut> down_; ///< Those that fired and have not come up.
+    std::set<Shortcut> down_; ///< The shortcuts that fired and have not come up.
 };
 
 } // namespace tovrel

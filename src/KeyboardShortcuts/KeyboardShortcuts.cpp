@@ -60,7 +60,7 @@ bool KeyboardShortcuts::storeDefaults() {
 
 void KeyboardShortcuts::storeDefault(const Name& name) {
     const bool isAnyStored = defaults_->value(storageKey(name)).has_value();
-    // What could not be read may be the user's shortcut: it must not be replaced by the default.
+    // A value that could not be read may be the user's shortcut, which the default must not replace.
     if (!defaults_->lastReadSucceeded() ||
         (!isAnyStored && !defaults_->set(storageKey(name), encodedShortcut(*name.defaultShortcut)))) {
         return;
@@ -70,7 +70,7 @@ void KeyboardShortcuts::storeDefault(const Name& name) {
         registerOnce(*name.defaultShortcut);
     } else if (registeredShortcuts_.contains(*name.defaultShortcut) &&
                getShortcut(name) != name.defaultShortcut) {
-        // The default stood in for the user's own until that could be read.
+        // The default stood in until the user's own shortcut could be read.
         unregister(*name.defaultShortcut);
         enable({name});
     } else {
@@ -89,12 +89,13 @@ std::optional<Shortcut> KeyboardShortcuts::getShortcut(const Name& name) const {
 }
 
 void KeyboardShortcuts::setShortcut(const std::optional<Shortcut>& shortcut, const Name& name) {
-    storeDefaults(); // as far as that is possible by now
+    storeDefaults(); // as far as possible by now
     const std::optional<Shortcut> current = getShortcut(name);
     if (!shortcut && !current) {
         return;
     }
-    // Stored first: one that cannot be stored would never fire, for presses are compared with what is stored.
+    // The shortcut is stored first: it would never fire otherwise, because presses are compared with stored
+    // ones.
     if (store(shortcut, name)) {
         unstoredDefaults_.erase(name.rawValue);
         if (current) {

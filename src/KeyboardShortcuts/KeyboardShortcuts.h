@@ -22,8 +22,8 @@ namespace tovrel {
 /// and calls the handlers of its name when it goes down and up.
 ///
 /// Under the key "KeyboardShortcuts_" + name the preferences hold the shortcut's JSON text, or false when the
-/// user removed the shortcut of a name that has a default. Any other value counts as no shortcut and is left
-/// as it is.
+/// user removed the shortcut of a name that has a default. Any other value counts as no shortcut and is not
+/// changed.
 class KeyboardShortcuts {
   public:
     struct Name {
@@ -40,34 +40,34 @@ class KeyboardShortcuts {
     KeyboardShortcuts(const KeyboardShortcuts&) = delete;
     KeyboardShortcuts& operator=(const KeyboardShortcuts&) = delete;
 
-    /// Makes a name usable: stores its default when nothing at all is stored for it yet. While it cannot be
-    /// known whether anything is, or the default cannot be stored, the default holds as if it were.
+    /// Makes a name usable: stores its default when nothing at all is stored for it yet. If the stored value
+    /// cannot be read, or the default cannot be stored, the default applies as if it were stored.
     Name makeName(std::string rawValue, std::optional<Shortcut> defaultShortcut);
 
-    /// Stores the defaults that could not be stored yet. A shortcut of the user's that can be read by now
-    /// takes its place instead. True when nothing is left to be stored.
+    /// Stores the defaults that could not be stored yet. The user's own shortcut replaces the default if it
+    /// can be read by now. Returns true when nothing is left to be stored.
     bool storeDefaults();
 
     [[nodiscard]] std::optional<Shortcut> getShortcut(const Name& name) const;
 
-    /// Stores and registers the shortcut in place of the one before; an absent one removes that. A name
-    /// without a shortcut stays untouched by its removal, and so does every name when this cannot be stored.
+    /// Stores and registers the shortcut in place of the previous one; an absent shortcut removes that one.
+    /// Nothing changes when a name without a shortcut loses it, or when the change cannot be stored.
     void setShortcut(const std::optional<Shortcut>& shortcut, const Name& name);
 
     /// Why the name's shortcut does not fire although it is registered; absent while it does, and until the
     /// desktop has answered.
     [[nodiscard]] std::optional<HotKeyError> refusal(const Name& name) const;
 
-    /// What the user is to press instead of the name's shortcut: the desktop's own words, where it has chosen
-    /// the combination or lets the user change it. Absent where it is the shortcut.
+    /// The desktop's own words for what the user must press instead of the name's shortcut, where the desktop
+    /// has chosen the combination or lets the user change it. Absent where the shortcut applies.
     [[nodiscard]] std::optional<Text> desktopTrigger(const Name& name) const;
 
-    /// Tries what was refused once more: nothing tells when another program lets a combination go. A change
-    /// of the keyboard does so by itself.
+    /// Tries refused shortcuts again, because no event tells when another program gives a combination up. A
+    /// change of the keyboard does this automatically.
     void retryRefused();
 
-    /// The observer is called when some shortcut was refused, or could be had at last, or has got another
-    /// trigger of the desktop's.
+    /// The observer is called when a shortcut was refused, was registered after a refusal, or got another
+    /// trigger from the desktop.
     [[nodiscard]] Subscription onAvailabilityDidChange(std::function<void()> observer) const {
         return availabilityDidChange_.subscribe(std::move(observer));
     }
@@ -76,19 +76,19 @@ class KeyboardShortcuts {
     void onKeyDown(const Name& name, Handler handler);
     void onKeyUp(const Name& name, Handler handler);
 
-    /// Gives the names' shortcuts back to the desktop, and takes them again. Handlers stay.
+    /// `disable` unregisters the names' shortcuts; `enable` registers them again. Handlers stay.
     void disable(const std::vector<Name>& names);
     void enable(const std::vector<Name>& names);
 
-    /// A recorder starts (true) or stops recording. Meanwhile no handler is called.
+    /// Tells that a recorder starts (true) or stops recording. No handler is called while it records.
     void setRecorderActive(bool isActive);
 
-    /// The observer is told whether a recorder is recording, each time one starts or stops.
+    /// Calls the observer each time a recorder starts or stops, with whether it is recording.
     [[nodiscard]] Subscription onRecorderActiveStatusDidChange(std::function<void(bool)> observer) const {
         return recorderActiveStatusDidChange_.subscribe(std::move(observer));
     }
 
-    /// The observer is told the name whose shortcut was set or removed.
+    /// Calls the observer with each name whose shortcut was set or removed.
     [[nodiscard]] Subscription onShortcutByNameDidChange(std::function<void(const Name&)> observer) const {
         return shortcutByNameDidChange_.subscribe(std::move(observer));
     }
@@ -110,7 +110,8 @@ class KeyboardShortcuts {
 
     PreferencesDomain* defaults_;
     HotKeyCenter* center_;
-    std::map<std::string, Name> unstoredDefaults_; ///< By raw value: names whose default is to be stored.
+    /// Names, by raw value, whose default must still be stored.
+    std::map<std::string, Name> unstoredDefaults_;
     HandlersByName keyDownHandlers_;
     HandlersByName keyUpHandlers_;
     std::set<Shortcut> registeredShortcuts_;

@@ -14,7 +14,7 @@ namespace {
 constexpr ModifierFlags anyModifier = modifier_flags::control | modifier_flags::option |
                                       modifier_flags::command | modifier_flags::shift |
                                       modifier_flags::function | modifier_flags::help;
-/// A shortcut needs one of these, or it would take a key that is typed with.
+/// A shortcut needs one of these, or it would take a key that users type.
 constexpr ModifierFlags shortcutModifiers =
     modifier_flags::control | modifier_flags::option | modifier_flags::command | modifier_flags::help;
 
@@ -56,7 +56,7 @@ void RecorderCocoa::becomeFirstResponder() {
     placeholder_.set(surroundings_.localized("KeyboardShortcuts", "press_shortcut"));
     surroundings_.shortcuts.setRecorderActive(true);
     isRecording_.set(true);
-    // Refused while another program has the keyboard: then its window's own keys have to do.
+    // This is refused while another program has the keyboard; then the keys of the recorder's window must do.
     static_cast<void>(surroundings_.hotKeyCenter.takeKeyboard(
         [this](const KeyEvent& event) {
             if (event.type == KeyEventType::keyDown) {
@@ -119,7 +119,7 @@ void RecorderCocoa::record(const Shortcut& shortcut) {
                       *title));
         return;
     }
-    // F12 alone is taken though desktops claim it.
+    // F12 without modifiers is accepted although desktops claim it.
     const bool isF12 = shortcut == Shortcut{key_codes::f12, 0};
     if (!isF12 && surroundings_.hotKeyCenter.isSystemShortcut(shortcut) && !isForced()) {
         return;

@@ -14,23 +14,24 @@
 
 namespace tovrel {
 
-/// What a recorder needs of its surroundings. Everything referred to outlives it.
+/// What a recorder needs from outside. Everything referred to outlives it.
 struct RecorderSurroundings {
     KeyboardShortcuts& shortcuts;
     HotKeyCenter& hotKeyCenter;
     UserInterface& userInterface;
     LocalizedString localized;
-    /// How a shortcut is shown in the field.
+    /// Returns the text of a shortcut for the field.
     std::function<Text(const Shortcut&)> textOf;
-    /// The title of the item of this program's own menus that has the combination; absent when none has.
+    /// Returns the title of the item in this program's own menus that has the combination; absent when none
+    /// has.
     std::function<std::optional<Text>(const Shortcut&)> menuItemTitle;
 };
 
-/// The logic of the field in which the user sets a named shortcut: it shows the present one, and while it
-/// records it takes the next combination that can be one. While it records, no global shortcut fires, and the
-/// keyboard is its own where it can be had: keys that another program has as hot keys arrive here as well.
+/// The logic of the field in which the user sets a named shortcut. It shows the present shortcut; while it
+/// records, it accepts the next valid combination. During a recording no global shortcut fires, and the
+/// recorder takes the whole keyboard if it can, so that even other programs' hot keys arrive here.
 ///
-/// The control over it hands on the focus and the events, and shows the observable values.
+/// The control on top of it passes on focus and events, and shows the observable values.
 class RecorderCocoa {
   public:
     RecorderCocoa(RecorderSurroundings surroundings, KeyboardShortcuts::Name name);
@@ -39,32 +40,34 @@ class RecorderCocoa {
     RecorderCocoa(const RecorderCocoa&) = delete;
     RecorderCocoa& operator=(const RecorderCocoa&) = delete;
 
-    /// The name's shortcut, or what the desktop has instead, or empty; the clear button is shown while it is
-    /// not.
+    /// The name's shortcut, the desktop's own words instead, or empty; the clear button is shown while it is
+    /// not empty.
     [[nodiscard]] const Observable<Text>& stringValue() const { return stringValue_; }
-    /// What an empty field says.
+    /// The text of an empty field.
     [[nodiscard]] const Observable<Text>& placeholder() const { return placeholder_; }
     [[nodiscard]] const Observable<bool>& isRecording() const { return isRecording_; }
-    /// Why the shown shortcut does not fire, in a sentence; empty while it does.
+    /// A sentence that says why the shown shortcut does not fire; empty while it does.
     [[nodiscard]] const Observable<Text>& problem() const { return problem_; }
-    /// A key is being handled, perhaps by asking the user: the recorder must stay until that is over.
+    /// Whether a key is being handled, possibly with a question to the user; the recorder must not be
+    /// destroyed meanwhile.
     [[nodiscard]] const Observable<bool>& isHandlingKey() const { return isHandlingKey_; }
-    /// Notified, with no value of its own, when the control is to take the keyboard focus (again).
+    /// Notifies when the control must take the keyboard focus (again); the value means nothing.
     [[nodiscard]] const Observable<bool>& focusRequest() const { return focusRequest_; }
 
-    /// The control has taken the keyboard focus in a window: recording starts.
+    /// Starts recording; called when the control has taken the keyboard focus in a window.
     void becomeFirstResponder();
-    /// The control or its window has lost the keyboard focus, or a mouse button came up outside of it.
+    /// Ends recording; called when the control or its window has lost the keyboard focus, or a mouse button
+    /// came up outside the control.
     void endRecording() { endRecording(false); }
 
-    /// A key-down while recording, where the keyboard could not be had. True when it is used up; others go on
-    /// to the window. May ask the user, and then returns only after the answer.
+    /// Handles a key-down while recording if the keyboard could not be taken. Returns whether the key is used
+    /// up; other keys go on to the window. May ask the user, and then returns only after the answer.
     bool handleKeyDown(const KeyEvent& event);
 
-    /// The clear button: removes the shortcut and asks for the focus, so that recording starts.
+    /// Removes the shortcut and asks for the focus, so that recording starts; called by the clear button.
     void clear();
 
-    /// Has what was refused tried once more.
+    /// Tries refused shortcuts again.
     void retry() { surroundings_.shortcuts.retryRefused(); }
 
   private:

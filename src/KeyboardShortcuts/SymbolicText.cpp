@@ -27,7 +27,8 @@ struct SpecialKey {
     const char* text;
 };
 
-/// By virtual key code. U+20E3 draws a key around the character before it: the keys of the number pad.
+/// The texts of keys by virtual key code. U+20E3 draws a key around the character before it, for keys of the
+/// number pad.
 constexpr std::array specialKeys{
     SpecialKey{36, "↩"},       SpecialKey{51, "⌫"},       SpecialKey{117, "⌦"},
     SpecialKey{119, "↘"},      SpecialKey{53, "⎋"},       SpecialKey{114, "?\u20DD"},

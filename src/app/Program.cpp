@@ -22,7 +22,7 @@ using command_line::Verb;
 constexpr int failure = 1;
 constexpr int wrongUsage = 2;
 
-/// A verb about the menus of an application.
+/// Runs a verb about the menus of an application.
 int runMenuVerb(int (*verb)(const verbs::Context&), const Invocation& invocation, const Console& console) {
     SqlitePreferencesDomain preferences(preferencesFile(invocation.preferencesFile));
     const MenuSource source = resolveMenuSource(invocation.source, console.input);

@@ -11,8 +11,8 @@ namespace tovrel {
 using RunResident = std::function<int(const command_line::Invocation&, const Console&)>;
 
 /// Runs the program as started with these arguments and returns its exit status: 0 on success, 1 on failure
-/// (one line on standard error), 2 on wrong usage (likewise). A reader that closes the pipe of standard
-/// output early gives 1 without a line: it has what it wanted.
+/// (one line on standard error), 2 on wrong usage (likewise). Returns 1 without a line when the reader of
+/// standard output closes the pipe early, because it has what it wanted.
 int runProgram(int argc, const char* const* argv, const Console& console, const RunResident& runResident);
 
 } // namespace tovrel

@@ -10,9 +10,9 @@
 
 namespace {
 
-/// A standard descriptor that was closed when the program started would be given to the next file opened, a
-/// database or the display's socket, and that would get the lines meant for a reader. Taken this way it
-/// cannot be used: writing to standard output fails as it did before.
+/// Occupies standard descriptors that were closed when the program started. The next file opened, a database
+/// or the display's socket, would get such a descriptor, and then the lines meant for a reader. An occupied
+/// descriptor cannot be used: writing to standard output fails as it did before.
 void keepStandardDescriptorsTaken() {
     int descriptor = 0;
     do {
@@ -27,11 +27,11 @@ void keepStandardDescriptorsTaken() {
 
 int main(int argc, char** argv) {
     keepStandardDescriptorsTaken();
-    // A reader of standard output that goes away shows as a failed write instead, and so does a file that may
-    // not grow any further.
+    // A write fails instead when the reader of standard output goes away, or when a file may not grow any
+    // further.
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
-    // Who started this may have ignored it, and then the kernel keeps no process's exit status.
+    // The parent process may have ignored it, and then the kernel keeps no child's exit status.
     static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
     tovrel::DescriptorBuffer buffer(STDOUT_FILENO);
     std::ostream output(&buffer);

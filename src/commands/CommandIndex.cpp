@@ -32,7 +32,7 @@ bool isHiddenBy(const MenuBlacklistRule& rule, const std::vector<Text>& path) {
     noSuchValue("MenuBlacklistMode");
 }
 
-/// The rules without a scope, and those of the application.
+/// The rules that apply to the application: those without a scope, and its own.
 std::vector<const MenuBlacklistRule*> applyingRules(const std::vector<MenuBlacklistRule>& rules,
                                                     const std::optional<Text>& bundleID) {
     std::vector<const MenuBlacklistRule*> applying;

@@ -10,7 +10,7 @@
 
 namespace tovrel {
 
-/// Turns what is known about the front application into the flat list of commands that is searched.
+/// Builds the flat list of commands to search from the knowledge about the front application.
 struct CommandIndex {
     /// The menu commands (leaves of the tree in menu order, without the system menu and what the blacklist
     /// rules hide), then the enabled custom commands in stored order. Disabled menu items are included.

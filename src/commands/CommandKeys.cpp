@@ -18,8 +18,8 @@ void addDistinct(std::string_view key, std::vector<std::string>& keys) {
     }
 }
 
-/// Scripts whose transliteration of a word does not depend on the words around it. Others (Thai, whose words
-/// are found by a dictionary, or Greek, whose letters look at their neighbours) take the long way.
+/// Whether the script's transliteration of a word does not depend on the words around it. Other scripts take
+/// the long way: Thai, whose words a dictionary finds, or Greek, whose letters depend on their neighbours.
 bool isWordwiseScript(UScriptCode script) {
     switch (script) {
     case USCRIPT_LATIN:

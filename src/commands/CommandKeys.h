@@ -12,17 +12,17 @@
 
 namespace tovrel {
 
-/// Every key a command can be found by, each once within its list; none is empty.
+/// All keys under which a command can be found, each once within its list; none is empty.
 struct CommandKeys {
     std::vector<std::string> aliasVariants; ///< The keys of its aliases.
     std::vector<std::string>
-        candidateVariants; ///< Of its title, subtitle, shortcut, menu path and search tokens.
+        candidateVariants; ///< The keys of its title, subtitle, shortcut, menu path and search tokens.
 };
 
 /// Derives the keys of many commands. Menu titles recur in thousands of commands, and transliteration costs
-/// microseconds a word. The keys of each distinct title are therefore derived once, those of a whole menu
-/// path are composed from its titles' keys, and those of a title in another script from its words' keys,
-/// wherever that gives the same.
+/// microseconds a word. So the keys of each distinct title are derived once. The keys of a menu path are
+/// composed from its titles' keys, and those of a title in another script from its words' keys, wherever that
+/// gives the same result.
 class CommandKeyDeriver {
   public:
     explicit CommandKeyDeriver(const TextServices& textServices) : textServices_(&textServices) {}
@@ -33,7 +33,7 @@ class CommandKeyDeriver {
     /// The keys of one text.
     struct Derived {
         SearchVariants variants;
-        /// Whether the keys of this text after another and a space are the two texts' keys end to end.
+        /// Whether another text, a space and this text together have the keys of both texts end to end.
         bool isComposable = false;
     };
 

@@ -103,8 +103,8 @@ std::vector<CommandSearch::Match> CommandSearch::withLooseMatches(const std::vec
     return matches;
 }
 
-/// Best score first; equal scores keep their order. Scores lie close together unless the history is damaged,
-/// and are then counted instead of compared: sorting a list of thousands would cost more than finding it.
+/// Best score first; equal scores keep their order. Unless the history is damaged, scores are close together
+/// and are counted instead of compared: sorting a list of thousands would take longer than finding it.
 CommandSearchResults CommandSearch::ranked(std::vector<Match> matches, const CommandSearchIndex& index) {
     std::vector<CommandSearchResults::Row> rows(matches.size());
     if (matches.empty()) {
@@ -151,7 +151,7 @@ CommandSearchResults CommandSearch::search(const Text& query, const CommandSearc
     std::vector<Match> matches = strongMatches(queries, index);
     const auto isWeak = [](const Match& match) { return match.score < strongMatchScore; };
     if (std::all_of(matches.begin(), matches.end(), isWeak)) {
-        // A loose match scores at most 420 and a boost is at most 225: none of these can be strong.
+        // A loose match scores at most 420 and a boost is at most 225, so none of these can be strong.
         const std::vector<Match> strong = std::move(matches);
         matches.clear();
         for (const SearchQuery& prepared : queries) {

@@ -12,8 +12,9 @@ namespace tovrel {
 
 /// Finds and ranks commands for what the user has typed.
 ///
-/// The result depends on the arguments alone. The object remembers its last search only to save work: when a
-/// query's key extends the one before, over the same index, only what matched then is looked at.
+/// The result depends only on the arguments. The object remembers its last search only to save work: if a
+/// query's key extends the previous one, over the same index, it looks only at the commands that matched
+/// then.
 class CommandSearch {
   public:
     /// The commands that match `query`, as typed, best first; equal scores are ordered by title, then by
@@ -28,11 +29,11 @@ class CommandSearch {
         std::int64_t score = 0;
     };
 
-    /// The matches of one key, which the next search starts from.
+    /// The matches of one key, from which the next search starts.
     struct Narrowed {
         CommandSearchIndex index;
         std::string key;                    ///< The key searched for, not empty.
-        std::vector<std::uint32_t> entries; ///< The entries it matched more than loosely, in order.
+        std::vector<std::uint32_t> entries; ///< The entries that it matched more than loosely, in order.
     };
 
     /// All lists of matches are in the order of the entries until they are ranked.

@@ -17,10 +17,10 @@ struct IndexedCommand {
     std::int64_t discoveryScore = 0; ///< Ranks the command while nothing is typed.
 };
 
-/// Everything that searching needs and that depends only on the commands, computed once. An immutable value:
-/// copies share their contents.
+/// All data for searching that depends only on the commands, computed once. It is an immutable value; copies
+/// share their contents.
 ///
-/// Disabled commands are never found and have no entry. Entries stand in the order in which equal scores are
+/// Disabled commands are never found and have no entry. Entries have the order in which equal scores are
 /// shown (title by the user's locale, then position in the command list), so that ranking needs no comparison
 /// of titles.
 class CommandSearchIndex {
@@ -37,7 +37,7 @@ class CommandSearchIndex {
     /// The keys of the entries, row by row.
     [[nodiscard]] const SearchKeyTable& keys() const { return contents_->keys; }
 
-    /// The text services it was built with; queries are normalised by the same ones.
+    /// The text services it was built with, which also normalise queries.
     [[nodiscard]] const TextServices& textServices() const { return *contents_->textServices; }
 
     /// Whether both are the same index or copies of one.

@@ -11,7 +11,7 @@
 
 namespace tovrel {
 
-/// A matched command and its final score; higher ranks first. Refers into the index it was found in.
+/// A matched command and its final score; higher ranks first. Refers into its index.
 struct CommandSearchResult {
     const Command& command;
     std::int64_t score;

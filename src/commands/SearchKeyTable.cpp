@@ -101,7 +101,7 @@ void SearchKeyTable::addKeys(const std::vector<std::string>& keys, bool isAlias)
         NewKey added{.bytes = key,
                      .symbols = isAscii(key) ? std::u32string() : internedSymbols(key),
                      .exactSizes = {static_cast<std::uint32_t>(key.size())}};
-        // Compared by grapheme clusters too: the shorter key's last cluster must not go on in the longer key.
+        // Grapheme clusters count too: the shorter key's last cluster must not continue in the longer key.
         const auto longer = std::find_if(kept.begin(), kept.end(), [&](const NewKey& other) {
             return other.bytes.starts_with(key) &&
                    (other.symbols.empty() ||

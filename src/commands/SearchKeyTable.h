@@ -28,18 +28,18 @@ struct SearchQuery {
     std::size_t looseLimit = 0; ///< The longest span, in grapheme clusters, of a loose match.
 };
 
-/// The keys of many commands in contiguous storage, a row a command, made for scanning all of them on every
-/// key press. Building it drops what cannot change a row's score:
+/// The keys of many commands in contiguous storage, one row per command, for scanning all of them on every
+/// key press. Building it drops data that cannot change a row's score:
 ///
 /// - A key that is the start of another key of the same kind (alias or not) can only add an exact match,
-///   since the longer one starts with, contains and loosely contains all that the shorter one does. Only its
-///   length is kept, with the longer key.
+///   because the longer key starts with, contains and loosely contains everything that the shorter one does.
+///   Only its length is kept, with the longer key.
 /// - A key that occurs inside another one is examined only after the query was found in that one.
 ///
-/// A row is passed over by one test of its 64-bit set of letters when the query has a letter that it lacks.
+/// One test of a row's 64-bit set of letters skips the row if the query has a letter that it lacks.
 ///
-/// Loose matching goes by grapheme clusters. A key of ASCII is its own sequence of clusters; for any other
-/// key the sequence is stored, each distinct cluster as a number.
+/// Loose matching compares grapheme clusters. An ASCII key is its own sequence of clusters; for any other key
+/// the sequence is stored, each distinct cluster as a number.
 class SearchKeyTable {
   public:
     explicit SearchKeyTable(const TextServices& textServices) : textServices_(&textServices) {}
@@ -52,7 +52,7 @@ class SearchKeyTable {
     /// Prepares a query whose normalised key is `key`, not empty.
     [[nodiscard]] SearchQuery prepare(std::string key) const;
 
-    /// Whether the row may match the query at all; false is certain. Cheap.
+    /// Whether the row may match the query; false is certain. Cheap.
     [[nodiscard]] bool mayMatch(std::size_t row, const SearchQuery& query) const {
         return (query.letters & ~letters_[row]) == 0;
     }
@@ -73,7 +73,7 @@ class SearchKeyTable {
             0; ///< Index into exactSizes_: the sizes of the keys this one starts with, its own too.
         std::uint32_t exactSizeCount = 0;
         bool isAlias = false;
-        bool isInsideAnother = false; ///< It occurs in a key before it in the row.
+        bool isInsideAnother = false; ///< It occurs in an earlier key of the row.
     };
 
     struct Row {
@@ -81,7 +81,7 @@ class SearchKeyTable {
         std::uint32_t keyCount = 0;
     };
 
-    /// A key on its way into the table.
+    /// A key that is being added to the table.
     struct NewKey {
         std::string_view bytes;
         std::u32string symbols; ///< Empty for a key of ASCII.

@@ -38,7 +38,7 @@ std::string normalizedKey(std::string_view text, const TextServices& textService
             isAllAscii = false;
         }
     }
-    // The characters between two others were removed, so that these may compose now.
+    // Two characters may compose now, because those between them were removed.
     return isAllAscii ? key : textServices.composed(key);
 }
 

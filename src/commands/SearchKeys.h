@@ -9,18 +9,17 @@
 
 namespace tovrel {
 
-/// The rules by which a text is folded. In a Turkish or Azerbaijani locale the two differ for texts with an
-/// I; such a text is searched by both, because applications there are often English.
+/// The rules for folding a text. In a Turkish or Azerbaijani locale the two differ for texts with an I; such
+/// a text is searched by both, because applications there are often English.
 enum class Folding { byLocale, byDefault };
 
 /// The matching key of a text: folded, lower-cased, and reduced to letters, marks and numbers (general
-/// categories L, M, N) with everything between them gone, so that "Save As…" and "save  as" have the same
-/// key. In normalization form C, so that keys which are canonically equivalent are the same bytes. May be
-/// empty.
+/// categories L, M, N) without anything between them, so that "Save As…" and "save  as" have the same key.
+/// The key is in normalization form C, so that canonically equivalent keys have the same bytes. May be empty.
 std::string normalizedKey(std::string_view text, const TextServices& textServices,
                           Folding folding = Folding::byLocale);
 
-/// The keys of a query: by the locale's folding and, when that differs, by the default one. Either all are
+/// The keys of a query: by the locale's folding and, if that differs, by the default one. Either all are
 /// empty or none is.
 std::vector<std::string> queryKeys(std::string_view query, const TextServices& textServices);
 

@@ -13,15 +13,15 @@
 
 namespace tovrel {
 
-/// The payload of a command of kind `open` is no URL and names nothing that exists.
+/// Tells that the payload of a command of kind `open` is no URL and names nothing that exists.
 struct InvalidOpenPayload {
     Text payload;
 
     friend bool operator==(const InvalidOpenPayload&, const InvalidOpenPayload&) = default;
 };
 
-/// The process of a command of kind `kind` ended with a status other than 0, or by a signal; `status` is then
-/// the signal's number.
+/// Tells that the process of a command of kind `kind` ended with a status other than 0, or by a signal;
+/// `status` is then the signal's number.
 struct ProcessFailed {
     CustomCommandKind kind = CustomCommandKind::shellScript;
     std::int32_t status = 0;
@@ -34,8 +34,8 @@ struct ProcessFailed {
 using CommandExecutionResult = std::variant<std::monostate, InvalidOpenPayload, ProcessFailed, LaunchFailure>;
 
 /// Runs custom commands: starts a process for a shell command, an AppleScript or a Shortcut, or asks the
-/// system to open a URL or a file. The payload is used as it is stored: no trimming, no expansion of "~" or
-/// of variables.
+/// system to open a URL or a file. The stored payload is used unchanged: it is not trimmed, and "~" and
+/// variables are not expanded.
 class CommandExecutor {
   public:
     /// Asks the system to open a URL; the outcome is not known.
@@ -51,9 +51,9 @@ class CommandExecutor {
         : processRunner_(&processRunner), mainQueue_(&mainQueue), openURL_(std::move(openURL)),
           fileExists_(std::move(fileExists)) {}
 
-    /// Starts the process or hands the URL over, and returns at once. `completion` is called once, by a task
-    /// of the main queue, when the process has ended, however long that takes, or when there is nothing to
-    /// wait for. Looks neither at the command's scope nor at whether it is enabled.
+    /// Starts the process or hands the URL over, and returns at once. A task of the main queue calls
+    /// `completion` once, when the process has ended, however long that takes, or when there is nothing to
+    /// wait for. Ignores the command's scope and whether it is enabled.
     void execute(const CustomCommand& command, Completion completion) const;
 
   private:

@@ -10,8 +10,8 @@ namespace tovrel {
 /// contain is percent-encoded as the bytes of its UTF-8 form.
 class Url {
   public:
-    /// Encodes what a URL may not contain instead of refusing it; a "%" that begins no encoded byte is
-    /// encoded too. Absent only for the empty text.
+    /// Encodes characters that a URL may not contain instead of refusing them; a "%" that begins no encoded
+    /// byte is encoded too. Absent only for the empty text.
     [[nodiscard]] static std::optional<Url> parse(const Text& text);
 
     /// The file URL of a path; a relative one is taken from the working directory.

@@ -8,8 +8,8 @@
 
 namespace tovrel {
 
-/// Remembers the last application that was in front and is not this one, so that the palette works on what
-/// the user was working in.
+/// Remembers the last application in front other than this one, so that the palette works on the application
+/// that the user was working in.
 class FrontmostAppMonitor {
   public:
     FrontmostAppMonitor(Workspace& workspace, FrontmostAppResolver resolver);
@@ -17,11 +17,11 @@ class FrontmostAppMonitor {
     FrontmostAppMonitor(const FrontmostAppMonitor&) = delete;
     FrontmostAppMonitor& operator=(const FrontmostAppMonitor&) = delete;
 
-    /// Begins to watch, with the application that is in front now. Called once.
+    /// Begins to watch, starting with the application in front now. Must be called once.
     void start();
 
-    /// The application in front, or the last other one while this program is; null when there is none, or it
-    /// has quit.
+    /// The application in front, or the last other one while this program is in front; null when there is
+    /// none, or it has quit.
     [[nodiscard]] std::shared_ptr<RunningApplication> resolveTargetApplication();
 
   private:

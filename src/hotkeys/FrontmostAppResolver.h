@@ -7,7 +7,7 @@
 
 namespace tovrel {
 
-/// Tells this program from the applications it works on.
+/// Distinguishes this program from the applications it works on.
 struct FrontmostAppResolver {
     std::optional<Text> ownBundleIdentifier;
 

@@ -11,9 +11,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Until the desktop no longer takes the keystroke for ours.
+/// The time until the desktop no longer treats the keystroke as our hot key.
 constexpr auto beforePosting = 50ms;
-/// Until the application in front has received it.
+/// The time until the application in front has received the keystroke.
 constexpr auto beforeTakingBack = 150ms;
 
 std::uint16_t postableKeyCode(const Shortcut& shortcut) {
@@ -23,7 +23,7 @@ std::uint16_t postableKeyCode(const Shortcut& shortcut) {
     return static_cast<std::uint16_t>(shortcut.carbonKeyCode);
 }
 
-/// An application receives these; Function is nothing it could know of.
+/// The modifiers that an application receives; it cannot know Function.
 constexpr ModifierFlags postableFlags = modifier_flags::command | modifier_flags::shift |
                                         modifier_flags::option | modifier_flags::control |
                                         modifier_flags::capsLock;
@@ -51,7 +51,7 @@ void HotKeyManager::handleKeyUp() {
 }
 
 void HotKeyManager::forwardToggleShortcut() {
-    repeatGuard_.keyUp(); // the key-up of this press goes to whoever has the keyboard then
+    repeatGuard_.keyUp(); // another program gets the key-up of this press
     if (isForwardingToggleShortcut_) {
         return;
     }
@@ -61,7 +61,7 @@ void HotKeyManager::forwardToggleShortcut() {
     }
     isForwardingToggleShortcut_ = true;
     shortcuts_->disable({toggleShortcut_});
-    // Once begun it goes on without this manager: the shortcut must come back.
+    // The forwarding goes on even without this manager, because the shortcut must come back.
     queue_->postAfter(beforePosting, [weak = weak_from_this(), shortcuts = shortcuts_, poster = poster_,
                                       queue = queue_, name = toggleShortcut_, shortcut = *shortcut] {
         poster->postKeyPress(postableKeyCode(shortcut),

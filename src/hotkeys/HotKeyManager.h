@@ -10,17 +10,18 @@
 
 namespace tovrel {
 
-/// Makes one toggle of each physical press of the global shortcut, or hands the keystroke on to the
+/// Turns each physical press of the global shortcut into one toggle, or forwards the keystroke to the
 /// application in front.
 class HotKeyManager : public std::enable_shared_from_this<HotKeyManager> {
-    /// Only `make` has one.
+    /// Lets only `make` call the constructor.
     class Key {
         friend HotKeyManager;
         Key() = default;
     };
 
   public:
-    /// Shared, for tasks of the queue hold it weakly. The references must outlive the queue's tasks.
+    /// Returns a shared manager, because tasks of the queue hold it weakly. The references must outlive the
+    /// queue's tasks.
     [[nodiscard]] static std::shared_ptr<HotKeyManager> make(KeyboardShortcuts& shortcuts,
                                                              KeyboardShortcuts::Name toggleShortcut,
                                                              KeyEventPoster& poster, MainQueue& queue);
@@ -33,18 +34,18 @@ class HotKeyManager : public std::enable_shared_from_this<HotKeyManager> {
     /// Called once for each accepted press; may be empty.
     std::function<void()> onTogglePalette;
 
-    /// The shortcut went down; repeats of a held key are ignored.
+    /// Handles the press of the shortcut; ignores repeats of a held key.
     void handleKeyDown();
-    /// The shortcut came up.
+    /// Handles the release of the shortcut.
     void handleKeyUp();
 
-    /// Whether this desktop lets the shortcut be forwarded. Where it does not, the press is lost to the
-    /// application as well, and the user is to be told.
+    /// Whether this desktop lets the shortcut be forwarded. If not, the application does not get the press
+    /// either, and the user should be told.
     [[nodiscard]] bool canForwardToggleShortcut() const { return poster_->canPost(); }
 
-    /// Lets the application in front have the shortcut: gives the hot key back, posts the same keystroke 50
-    /// ms later, and takes the hot key again after another 150 ms. Does nothing while such a forwarding is
-    /// under way, or when there is no shortcut.
+    /// Forwards the shortcut to the application in front: gives the hot key back, posts the same keystroke 50
+    /// ms later, and takes the hot key again after another 150 ms. Does nothing while a forwarding is under
+    /// way, or without a shortcut.
     void forwardToggleShortcut();
 
   private:

@@ -4,7 +4,7 @@
 
 namespace tovrel {
 
-/// Lets one key-down through per physical press: a held key repeats, and some desktops report that.
+/// Passes one key-down per physical press: a held key repeats, and some desktops report that.
 struct HotKeyRepeatGuard {
     bool isKeyDown = false;
 

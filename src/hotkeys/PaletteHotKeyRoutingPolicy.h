@@ -7,10 +7,10 @@
 
 namespace tovrel {
 
-/// Decides whether the global shortcut is ours in the application in front.
+/// Decides whether the palette or the application in front gets the global shortcut.
 struct PaletteHotKeyRoutingPolicy {
-    /// Only an application that is known and whose behaviour is `disabled` gets the shortcut itself, and only
-    /// while menus can be read at all. `behavior` is the effective one of the target.
+    /// Only a known application with the behaviour `disabled` gets the shortcut itself, and only while menus
+    /// can be read at all. `behavior` is the target's effective one.
     [[nodiscard]] static bool shouldForwardToggleShortcut(bool isAccessibilityTrusted,
                                                           const std::optional<Text>& targetBundleIdentifier,
                                                           AppBehaviorRule behavior) {

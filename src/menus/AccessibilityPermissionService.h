@@ -10,11 +10,11 @@ class AccessibilityPermissionService {
   public:
     explicit AccessibilityPermissionService(Accessibility& accessibility) : accessibility_(&accessibility) {}
 
-    /// Asks anew at every call, so that a permission given meanwhile counts at once.
+    /// Asks at every call, so that a permission given meanwhile counts at once.
     [[nodiscard]] bool isTrusted() const { return accessibility_->isTrusted(); }
 
-    /// The palette entry that opens the system's accessibility settings. Its id is always the same; the
-    /// custom command it carries has a fresh one each time.
+    /// The palette entry that opens the system's accessibility settings. Its id is always the same; its
+    /// custom command has a fresh id each time.
     [[nodiscard]] static Command makeAccessibilityPermissionCommand();
 
   private:

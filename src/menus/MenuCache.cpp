@@ -6,7 +6,7 @@
 namespace tovrel {
 
 std::size_t MenuCacheKeyHash::operator()(const MenuCacheKey& key) const {
-    // Combined as in a polynomial hash: presence marker, identifier, process.
+    // A polynomial hash combines presence marker, identifier and process.
     constexpr std::size_t factor = 1099511628211U; // the 64-bit FNV prime
     std::size_t hash = key.bundleIdentifier ? 1 : 0;
     if (key.bundleIdentifier) {
@@ -17,7 +17,7 @@ std::size_t MenuCacheKeyHash::operator()(const MenuCacheKey& key) const {
 
 std::optional<std::vector<ScannedMenuItem>> MenuCache::cachedItems(const MenuCacheKey& key, Uptime now) {
     constexpr std::chrono::seconds lifetime(30);
-    // The system may give the process identifier of an application that has ended to another instance.
+    // The system may reuse the process identifier of an application that has ended.
     std::erase_if(entries_, [](const auto& entry) {
         return entry.second.application && entry.second.application->isTerminated();
     });
@@ -34,8 +34,8 @@ std::optional<std::vector<ScannedMenuItem>> MenuCache::cachedItems(const MenuCac
 
 void MenuCache::store(const std::shared_ptr<const RunningApplication>& application,
                       std::vector<ScannedMenuItem> items, Uptime now) {
-    // An application whose process cannot be seen, say in another container, seems to have ended from the
-    // start.
+    // An application whose process cannot be seen, for instance in another container, would always seem to
+    // have ended.
     entries_.insert_or_assign(
         MenuCacheKey::of(*application),
         Entry{std::move(items), now, application->isTerminated() ? nullptr : application});

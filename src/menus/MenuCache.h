@@ -31,10 +31,11 @@ struct MenuCacheKeyHash {
 };
 
 /// The last scanned menu tree of each application instance, kept in memory for half a minute. `now` must come
-/// from a clock that nobody can set: after one is set back an hour, old menus would be fresh for the hour.
+/// from a clock that nobody can set: if a clock were set back an hour, old menus would count as fresh for an
+/// hour.
 class MenuCache {
   public:
-    /// The lifetime in seconds, for display and documentation; lookups use a constant of their own.
+    /// The lifetime in seconds, for display and documentation; lookups use a separate constant.
     double timeToLive = 30.0;
 
     /// The items stored under the key at most 30 seconds before `now` (a time before they were stored counts

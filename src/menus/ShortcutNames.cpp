@@ -49,7 +49,7 @@ Text shortcutWithKeyNames(const Text& shortcut) {
     std::string_view key = shortcut.view();
     std::string spelled;
     for (const GlyphName& modifier : modifierNames) {
-        // A glyph with nothing after it is the key itself.
+        // A glyph at the end is the key itself.
         if (key.starts_with(modifier.glyph) && key.size() > modifier.glyph.size()) {
             spelled.append(modifier.name).append("+");
             key.remove_prefix(modifier.glyph.size());

@@ -4,12 +4,12 @@
 
 namespace tovrel {
 
-/// A shortcut's display text (see shortcutText()) spelled with the names that keys have on keyboards without
-/// those glyphs, for people to read: "⌘⇧S" as "Ctrl+Shift+S". Command is the Ctrl key, ⌃ the Super key.
+/// A shortcut's display text (see shortcutText()) with the key names of keyboards without those glyphs: "⌘⇧S"
+/// becomes "Ctrl+Shift+S". Command is the Ctrl key, ⌃ the Super key.
 Text shortcutWithKeyNames(const Text& shortcut);
 
-/// The same for a single key cap (see keycaps()): "⌘" as "Ctrl", "⌦" as "Delete". Arrows stay arrows, which
-/// is what keyboards show.
+/// Does the same for a single key cap (see keycaps()): "⌘" becomes "Ctrl", "⌦" becomes "Delete". Arrows stay
+/// arrows, as on keyboards.
 Text keycapWithKeyName(const Text& keycap);
 
 } // namespace tovrel

@@ -16,7 +16,7 @@ inline constexpr std::int64_t noCommand = 8;
 } // namespace menu_modifiers
 
 /// The display text of a menu item's key combination: the modifier glyphs, always in the order ⌘ ⇧ ⌥ ⌃, and
-/// the key. This is the one form of a shortcut in the whole program, so that two are compared as plain text.
+/// the key. The whole program uses only this form of a shortcut, so that two shortcuts compare as plain text.
 ///
 /// `commandCharacter` is the "AXMenuItemCmdChar", not empty: a character, or one of the code points that
 /// stand for a key without one (U+F700 the up arrow, U+F704 F1, …), which are shown by name. Anything else is

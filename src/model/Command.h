@@ -34,8 +34,8 @@ struct MenuAction {
 /// The action of a chosen command: press a menu item, or run a custom command.
 using CommandAction = std::variant<MenuAction, CustomCommand>;
 
-/// One palette entry: an item of the front application's menu bar, or a custom command. A value that is
-/// built whole and not changed afterwards.
+/// One palette entry: an item of the front application's menu bar, or a custom command. It is a value that
+/// does not change once built.
 struct Command {
     /// Stable key, the same every time the list is built; usage history is kept under it.
     /// "menu:" scope ":" path joined with "/", or "custom:" and the custom command's id.
@@ -60,7 +60,7 @@ struct Command {
 json::Value toJson(CommandSource source);
 json::Value toJson(const CommandRankSignals& signals);
 json::Value toJson(const CommandAction& action);
-/// Throws json::EncodeError when a time of last use is not finite; so do the two functions above.
+/// This and the two functions above throw json::EncodeError when a time of last use is not finite.
 json::Value toJson(const Command& command);
 
 /// The decoders throw json::DecodeError.

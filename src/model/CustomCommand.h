@@ -17,10 +17,10 @@ inline constexpr std::array allCustomCommandKinds{CustomCommandKind::shellScript
                                                   CustomCommandKind::appleScript, CustomCommandKind::open,
                                                   CustomCommandKind::shortcut};
 
-/// The name a kind is stored under, e.g. "shellScript".
+/// The name under which a kind is stored, e.g. "shellScript".
 const char* rawValue(CustomCommandKind kind);
 
-/// The kind as named in the palette, e.g. "Shell Command".
+/// The kind's name in the palette, e.g. "Shell Command".
 const char* paletteLabel(CustomCommandKind kind);
 
 /// A local action that the user has defined.

@@ -14,8 +14,8 @@ enum class KeyEventType { keyDown, keyUp };
 struct KeyEvent {
     KeyEventType type = KeyEventType::keyDown;
     std::uint32_t keyCode = 0; ///< Virtual key code, the same on every platform and layout: 35 is P.
-    /// The characters that the current layout gives the key with no modifier but Shift; absent when there are
-    /// none.
+    /// The characters that the current layout gives the key without modifiers other than Shift; absent when
+    /// there are none.
     std::optional<Text> charactersIgnoringModifiers;
     ModifierFlags modifierFlags = 0;
 };

@@ -7,8 +7,8 @@
 
 namespace tovrel {
 
-/// The longest title in bytes. Titles that people read are far shorter; every item below a menu carries the
-/// menu's title, so that a longer one would cost its length many times over.
+/// The longest title in bytes. Real titles are far shorter. Every item below a menu carries the menu's title,
+/// so a longer title would cost its length many times over.
 inline constexpr std::size_t longestMenuTitle = 1024;
 
 /// The number of bytes of a name that are examined for a title. The rest is white space around the title,

@@ -15,7 +15,7 @@ enum class AppBehaviorRule { enabled, disabled, automatic };
 inline constexpr std::array allAppBehaviorRules{AppBehaviorRule::enabled, AppBehaviorRule::disabled,
                                                 AppBehaviorRule::automatic};
 
-/// The name a rule is stored under: "enabled", "disabled", "auto".
+/// The name under which a rule is stored: "enabled", "disabled", "auto".
 const char* rawValue(AppBehaviorRule rule);
 
 /// The behaviour saved for one application.
@@ -51,7 +51,7 @@ struct MenuCommandAliasRule {
     /// application's bundle identifier is unknown.
     std::optional<Text> appScope;
     std::vector<Text> targetPath;
-    std::vector<Text> aliases; ///< Trimmed, none empty, no two alike but for case.
+    std::vector<Text> aliases; ///< Trimmed, not empty, and different in more than case.
 
     /// The scope ("global" when absent), ":", and the path joined with U+001F.
     [[nodiscard]] Text id() const;

@@ -25,7 +25,7 @@ inline constexpr std::int64_t control = 0x1000;
 inline constexpr std::int64_t function = 0x20000;
 } // namespace carbon_modifiers
 
-/// The same modifiers in the other encoding. Bits that stand for none of the five are dropped.
+/// Converts the modifiers to the other encoding. Bits other than the five are dropped.
 [[nodiscard]] ModifierFlags modifierFlags(std::int64_t carbonModifiers);
 [[nodiscard]] std::int64_t carbonModifiers(ModifierFlags flags);
 

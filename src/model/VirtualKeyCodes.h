@@ -3,13 +3,13 @@
 #include <array>
 #include <cstdint>
 
-/// The virtual key codes the program knows by name.
+/// The virtual key codes that the program uses by name.
 namespace tovrel::key_codes {
 inline constexpr std::uint32_t p = 35;
 inline constexpr std::uint32_t returnKey = 36;
 inline constexpr std::uint32_t tab = 48;
 inline constexpr std::uint32_t space = 49;
-inline constexpr std::uint32_t deleteKey = 51; ///< Backspace, as other keyboards call it.
+inline constexpr std::uint32_t deleteKey = 51; ///< Called Backspace on other keyboards.
 inline constexpr std::uint32_t escape = 53;
 /// The codes from `firstModifier` to `lastModifier` are those of the modifier keys themselves.
 inline constexpr std::uint32_t firstModifier = 54;

@@ -7,7 +7,7 @@
 namespace tovrel {
 namespace {
 
-/// Which text of the command a rule looks into.
+/// The text of the command in which a rule looks for its word.
 enum class Place { title, menu };
 
 struct IconRule {
@@ -16,7 +16,7 @@ struct IconRule {
     CommandIcon icon;
 };
 
-// The order counts: a word may be part of another ("cut" of "execute"), and a title may hold several.
+// The order matters: a word may be part of another ("cut" of "execute"), and a title may have several.
 constexpr std::array rules{
     IconRule{Place::title, "copy", {"doc.on.doc", colour_pairs::blue}},
     IconRule{Place::title, "cut", {"scissors", colour_pairs::red}},

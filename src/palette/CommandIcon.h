@@ -36,16 +36,16 @@ inline constexpr ColourPair taupe{{138, 123, 102}, {255, 253, 242}};
 inline constexpr ColourPair teal{{25, 200, 185}, {230, 249, 246}};
 } // namespace colour_pairs
 
-/// What stands for a command in its row.
+/// The icon of a command in its row.
 struct CommandIcon {
-    std::string_view symbol; ///< Name of a symbol, one of a fixed set.
+    std::string_view symbol; ///< The name of a symbol from a fixed set.
     ColourPair colours;
 
     friend bool operator==(const CommandIcon&, const CommandIcon&) = default;
 };
 
-/// The icon that the words of a menu command's title or of its menu call for, by the first rule that fits; a
-/// custom command always has the same. The words are English, those of the menus that most programs show.
+/// The icon of a menu command, by the first rule whose word is in its title or in its menu's; all custom
+/// commands have the same icon. The words are English, and common in the menus of most programs.
 CommandIcon commandIcon(const Command& command, const TextServices& textServices);
 
 } // namespace tovrel

@@ -38,13 +38,13 @@ struct Dismiss {
 using PaletteKeyboardAction = std::variant<MoveSelection, ExecuteShortcut, ExecuteSelection, Dismiss>;
 
 /// The meaning of a key event; absent when it is for the search field. A character with a modifier is never
-/// for the field: it is taken for a shortcut of the application's menus.
+/// for the field: it counts as a shortcut of the application's menus.
 [[nodiscard]] std::optional<PaletteKeyboardAction> keyboardAction(const KeyEvent& event,
                                                                   const TextServices& textServices);
 
-/// The shortcut text of a typed combination, in the form of a menu item's (see shortcutText() in menus);
-/// absent without a character or without Shift, Control, Option and Command. Keys without a character, which
-/// menus show by name, have none.
+/// The shortcut text of a typed combination, in the form that menu items have (see shortcutText() in menus);
+/// absent without a character, or without any of Shift, Control, Option and Command. Keys without a
+/// character, which menus show by name, have none.
 [[nodiscard]] std::optional<Text> typedShortcutText(const std::optional<Text>& keyCharacters,
                                                     ModifierFlags flags, const TextServices& textServices);
 

@@ -8,23 +8,24 @@
 
 namespace tovrel {
 
-/// Decides whether the palette goes away when an application comes to the front.
+/// Decides whether the palette closes when an application comes to the front.
 struct PaletteDismissalPolicy {
-    /// Only this program's own activation leaves the palette open; an unknown application is another one.
+    /// Only this program's own activation leaves the palette open; an unknown application counts as another
+    /// one.
     [[nodiscard]] static bool shouldDismiss(const std::optional<Text>& activatedBundleIdentifier,
                                             const std::optional<Text>& ownBundleIdentifier) {
         return !activatedBundleIdentifier || activatedBundleIdentifier != ownBundleIdentifier;
     }
 };
 
-/// Decides where the palette goes.
+/// Decides where the palette appears.
 struct PalettePresentationPolicy {
-    /// Taken when there is no screen.
+    /// The size to assume when there is no screen.
     static constexpr Size fallbackSize{1440, 900};
 
-    /// Centred, and 80 above the middle, where the eye is, but never above the visible frame: the search
-    /// field is at the top. Of a panel wider than the frame the left is kept in sight. y grows upwards, and
-    /// both lower left corners are meant, as in PalettePlacement.
+    /// Centres the panel and lifts it by 80, to where the eye rests, but never above the visible frame,
+    /// because the search field is at the top. The left edge of a panel wider than the frame stays visible. y
+    /// grows upwards, from one lower left corner to the other, as in PalettePlacement.
     [[nodiscard]] static Point panelOffset(Size visibleFrame, Size panel) {
         constexpr double aboveCentre = 80;
         const double x = visibleFrame.width / 2 - panel.width / 2;
@@ -38,7 +39,7 @@ struct PalettePresentationPolicy {
 enum class PaletteShortcutRoute { commandLookup };
 
 struct PaletteShortcutRoutingPolicy {
-    /// The option is reserved: whatever it says, a shortcut runs the application's command that carries it.
+    /// The option is reserved: whatever its value, a shortcut runs the application's command that has it.
     [[nodiscard]] static PaletteShortcutRoute route(bool /*commandShortcutOpensSettings*/) {
         return PaletteShortcutRoute::commandLookup;
     }

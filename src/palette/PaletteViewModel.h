@@ -15,8 +15,8 @@
 
 namespace tovrel {
 
-/// The state of the palette: the text typed, the ranked results for it, the highlighted row, and the
-/// application it was prepared for. Typing searches at once.
+/// The state of the palette: the typed text, its ranked results, the highlighted row, and the target
+/// application. Typing searches at once.
 ///
 /// After every operation the selected index is a row of the results, or 0 when there are none.
 class PaletteViewModel {
@@ -24,7 +24,7 @@ class PaletteViewModel {
     /// `textServices` must outlive the model.
     PaletteViewModel(std::vector<Command> commands, const TextServices& textServices);
 
-    /// What the view shows and follows; only the operations below change it.
+    /// The view observes these; only the operations below change them.
     [[nodiscard]] const Observable<Text>& query() const { return query_; }
     [[nodiscard]] const Observable<CommandSearchResults>& results() const { return results_; }
     /// The highlighted row.
@@ -47,7 +47,7 @@ class PaletteViewModel {
     /// The highlighted command; absent when there are no results.
     [[nodiscard]] std::optional<Command> selectedCommand() const;
 
-    /// Starts anew with another command list: empty query, first row highlighted.
+    /// Starts again with another command list: the query is empty and the first row highlighted.
     void updateCommands(std::vector<Command> commands, std::optional<Text> appName,
                         std::optional<ApplicationIcon> appIcon);
 

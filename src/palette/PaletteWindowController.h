@@ -16,7 +16,7 @@
 
 namespace tovrel {
 
-/// What the palette's view shows, and what it calls. The models outlive the view.
+/// What the palette's view shows and calls. The models outlive the view.
 struct PaletteViewContext {
     PaletteViewModel& viewModel;
     PaletteSettingsStore& settingsStore;
@@ -27,7 +27,7 @@ struct PaletteViewContext {
 /// Makes the palette's window with its view, hidden.
 using PalettePanelFactory = std::function<std::unique_ptr<PalettePanel>(PaletteViewContext)>;
 
-/// What the controller needs of its surroundings. Everything outlives it.
+/// What the controller needs from outside. Everything outlives it.
 struct PaletteSurroundings {
     UserInterface& userInterface;
     Workspace& workspace;
@@ -37,33 +37,35 @@ struct PaletteSurroundings {
     PalettePanelFactory makePanel;
 };
 
-/// Shows the palette's panel, turns keys into what they mean, and closes the panel when the user turns to
-/// something else.
+/// Shows the palette's panel, turns keys into actions, and closes the panel when the user turns to something
+/// else.
 class PaletteWindowController {
   public:
-    /// `onExecute` runs a chosen command; whoever runs it also closes the palette.
+    /// `onExecute` runs a chosen command and also closes the palette.
     PaletteWindowController(PaletteSurroundings surroundings, std::function<void(const Command&)> onExecute);
     ~PaletteWindowController() = default;
     PaletteWindowController(const PaletteWindowController&) = delete;
     PaletteWindowController& operator=(const PaletteWindowController&) = delete;
 
-    /// For whoever shows the palette: which application it was last shown for. Stays on close.
+    /// The application for which the palette was last shown. The caller that shows the palette sets and reads
+    /// it; closing keeps it.
     std::optional<Text> presentedTargetIdentifier;
 
     [[nodiscard]] PaletteViewModel& viewModel() { return viewModel_; }
     [[nodiscard]] bool isVisible() const { return panel_->isVisible(); }
 
-    /// Puts the panel, whose size stays, on the main screen.
+    /// Moves the panel to the main screen without resizing it.
     void positionWindow();
-    /// Keys are watched only while the panel is shown. Each may be called again without effect.
+    /// Starts and stops watching keys, which is needed only while the panel is shown. A repeated call has no
+    /// effect.
     void startKeyboardMonitoring();
     void stopKeyboardMonitoring();
     void showWindowAndMakeKey();
 
-    /// Harmless when the panel is closed already.
+    /// Closes the panel; has no effect when it is closed already.
     void close();
 
-    /// Always true: a recognised action is used up even if there is nothing to do.
+    /// Performs the action. Always true: a recognised action is used up even if there is nothing to do.
     bool handleKeyboardAction(const PaletteKeyboardAction& action);
 
   private:

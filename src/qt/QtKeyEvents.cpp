@@ -57,7 +57,7 @@ bool isPrintable(char32_t character) {
     return character >= 0x20 && character != 0x7F && !(character >= 0x80 && character < 0xA0);
 }
 
-/// Qt's codes of the keys that type a character are that character, upper-cased.
+/// Qt's code of a key that types a character is that character in upper case.
 std::optional<Text> charactersOfKey(const QKeyEvent& event) {
     const auto code = static_cast<char32_t>(event.key());
     if (code > 0xFFFF || !isPrintable(code)) {
@@ -68,7 +68,7 @@ std::optional<Text> charactersOfKey(const QKeyEvent& event) {
     return Text((isShifted ? character : character.toLower()).toStdString());
 }
 
-/// The native key is the X keysym, in which Shift counts and Ctrl does not.
+/// The native key is the X keysym, which depends on Shift but not on Ctrl.
 std::optional<Text> charactersOfKeysym(const QKeyEvent& event) {
     const char32_t character = xkb_keysym_to_utf32(event.nativeVirtualKey());
     if (!isPrintable(character)) {
@@ -90,7 +90,7 @@ std::optional<Text> charactersOf(const QKeyEvent& event) {
     std::optional<Text> typed = charactersOfKeysym(event);
     constexpr auto shortcutModifiers = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     if (typed && !isAscii(typed) && (event.modifiers() & shortcutModifiers) != 0) {
-        // Qt names the key of a shortcut by its Latin letter when the keyboard has a Latin layout as well.
+        // Qt names the key of a shortcut by its Latin letter if the keyboard also has a Latin layout.
         if (std::optional<Text> latin = charactersOfKey(event); isAscii(latin)) {
             return latin;
         }

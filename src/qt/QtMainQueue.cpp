@@ -15,7 +15,7 @@ void QtMainQueue::postAfter(std::chrono::milliseconds delay, Task task) {
         post(std::move(task));
         return;
     }
-    // Other timers may be up to 5 % early.
+    // A less precise timer may fire up to 5 % early.
     QTimer::singleShot(delay, Qt::PreciseTimer, &context_, std::move(task));
 }
 

@@ -7,7 +7,7 @@
 
 namespace tovrel {
 
-/// A custom command while the user writes it, as typed.
+/// A custom command while the user edits it, as typed.
 struct CustomCommandForm {
     Text title;
     CustomCommandKind kind = CustomCommandKind::open;

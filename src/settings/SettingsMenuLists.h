@@ -8,8 +8,7 @@
 #include "settings/SettingsRecords.h"
 #include "stores/CommandHistoryStore.h"
 
-/// The lists that the settings make of an application's menu tree: in menu order, without the system's own
-/// menu.
+/// The settings' lists of an application's menu items, in menu order and without the system's own menu.
 namespace tovrel::settings_menu_lists {
 
 /// Every item of the tree, including menus and submenus, that has no rule with exactly its path. Only rules

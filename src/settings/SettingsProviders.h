@@ -17,13 +17,13 @@ struct SettingsProviders {
     std::function<std::vector<ScannedMenuItem>()> menuItems;
     std::function<bool()> accessibilityPermission;
 
-    /// The providers of settings that were not opened for a certain application: whichever application is in
-    /// front, this one included, and no menus.
+    /// The providers for settings that were not opened for a certain application. They give the application
+    /// in front, even this one, and no menus.
     [[nodiscard]] static SettingsProviders standard(Workspace& workspace, Accessibility& accessibility);
 };
 
 /// The application as the settings show it; absent without an application or without its identifier. An
-/// application without a name is called by its identifier.
+/// application without a name is shown by its identifier.
 [[nodiscard]] std::optional<CurrentApplicationContext>
 currentApplicationContext(const RunningApplication* application);
 

@@ -8,7 +8,7 @@ namespace tovrel {
 
 /// The application that the settings treat as the one in front.
 struct CurrentApplicationContext {
-    Text name; ///< To show to the user.
+    Text name; ///< Shown to the user.
     Text bundleID;
 
     friend bool operator==(const CurrentApplicationContext&, const CurrentApplicationContext&) = default;

@@ -8,7 +8,7 @@
 /// Splits and joins the texts of the settings.
 namespace tovrel::settings_text {
 
-/// The pieces between the separators, each trimmed, without those that are then empty.
+/// The pieces between the separators, trimmed; empty ones are left out.
 [[nodiscard]] std::vector<Text> separated(const Text& text, char separator);
 
 /// The list that an alias field holds.
@@ -21,8 +21,8 @@ namespace tovrel::settings_text {
     return joined(aliases, ", ");
 }
 
-/// The title of a row of the history: the title of a custom command, the path of a menu command, and the id
-/// of what is neither (any more).
+/// The title of a row of the history: a custom command's title, a menu command's path, or the id of anything
+/// else, such as a deleted custom command.
 [[nodiscard]] Text historyRowTitle(const Text& commandID, const std::vector<CustomCommand>& customCommands);
 
 } // namespace tovrel::settings_text

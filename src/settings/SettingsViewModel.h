@@ -30,10 +30,10 @@ struct SettingsStores {
 };
 
 /// The state behind the settings window: the contents of the stores and the providers, and the edits. Each
-/// edit writes to a store and then reloads everything, so the model never holds what the stores do not.
+/// edit writes to a store and then reloads everything, so the model never differs from the stores.
 ///
 /// An edit that cannot be stored changes nothing and shows in `unstoredChange`. An edit that needs a current
-/// application or an entry that is not there does nothing, not even a reload. Duplicates are not looked for.
+/// application or an entry does nothing without it, not even a reload. Duplicates are not detected.
 class SettingsViewModel {
   public:
     /// Loads at once.
@@ -81,7 +81,7 @@ class SettingsViewModel {
     /// The reason why the last change, here or elsewhere, could not be stored; absent when it could.
     [[nodiscard]] const UnstoredChange& unstoredChange() const { return unstoredChange_; }
 
-    /// Loads everything anew, in a fixed order.
+    /// Loads everything again, in a fixed order.
     void reload();
 
     void setDefaultBehavior(AppBehaviorRule rule);
@@ -98,8 +98,8 @@ class SettingsViewModel {
     void setMenuCommandFavorite(const Text& settingID, bool isFavorite);
 
     /// Saves the form, trimmed and otherwise unchecked, as a new command or over the one that is being
-    /// edited. Whether the form applies to the current application is decided anew each time. Returns false
-    /// and saves nothing when the edited command is gone or there is no application to apply it to.
+    /// edited. Whether the form applies to the current application is decided each time. Returns false and
+    /// saves nothing when the edited command is gone or there is no application to apply it to.
     bool saveCustomCommand(const CustomCommandForm& form);
     void deleteCustomCommand(const Text& id);
 

@@ -46,7 +46,7 @@ class SettingsViewState {
 
     /// Fills the form with the command, if it is still there.
     void editCustomCommand(const Text& id);
-    /// Starts a new command; the kind stays.
+    /// Starts a new command; keeps the kind.
     void clearCustomCommandForm();
     /// Saves the command of the form and clears the form, unless nothing could be saved.
     void saveCustomCommand();

@@ -12,8 +12,8 @@ class SettingsWindow {
   public:
     virtual ~SettingsWindow() = default;
 
-    /// Replaces what is shown by a new view of the state, which the window keeps until the next one. A window
-    /// that is shown stays so.
+    /// Replaces the view by a new one of this state. The window owns the state until the next call, and stays
+    /// shown if it is.
     virtual void setContent(std::unique_ptr<SettingsViewState> state) = 0;
 
     /// Shows the window where it was last, above the others and with the keyboard focus; one that is shown

@@ -8,7 +8,7 @@
 
 namespace tovrel {
 
-/// Owns the settings window: made when it is first shown, kept when the user closes it.
+/// Owns the settings window. Makes it when it is first shown, and keeps it when the user closes it.
 class SettingsWindowController {
   public:
     /// Makes the window, hidden and empty: 920 x 620 points, not resizable, titled "Tovrel", centred on the

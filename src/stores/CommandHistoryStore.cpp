@@ -53,7 +53,7 @@ std::shared_ptr<const CommandHistorySnapshot> CommandHistoryStore::snapshot() {
             std::move(records).value_or(CommandHistorySnapshot::Records()));
         snapshotBytes_ = std::move(bytes);
     }
-    // After a read that failed, the next call must read again.
+    // After a failed read the next call must read again.
     checkedRevision_ = userDefaults_.lastReadSucceeded() ? std::optional(revision) : std::nullopt;
     return snapshot_;
 }
@@ -80,7 +80,7 @@ std::vector<CommandHistoryEntry> CommandHistoryStore::entries() {
     std::sort(entries.begin(), entries.end(),
               [this](const CommandHistoryEntry& left, const CommandHistoryEntry& right) {
                   if (left.lastUsedAt != right.lastUsedAt) {
-                      return left.lastUsedAt > right.lastUsedAt; // an absent time is the least
+                      return left.lastUsedAt > right.lastUsedAt; // an absent time is the smallest
                   }
                   if (left.usageCount != right.usageCount) {
                       return left.usageCount > right.usageCount;

@@ -45,8 +45,8 @@ class CommandHistorySnapshot {
 /// document: an object with a member for each command id. An unreadable document reads as an empty history,
 /// and the next change replaces it; nothing is reported.
 ///
-/// Every answer reflects the present document, whoever wrote it, yet the document is decoded only when its
-/// bytes have changed.
+/// Every answer reflects the present document, whichever process wrote it. The document is decoded only when
+/// its bytes have changed.
 class CommandHistoryStore {
   public:
     /// The domain and the text services must outlive the store.
@@ -63,7 +63,7 @@ class CommandHistoryStore {
     /// a damaged document has, stays.
     void recordUse(const Text& commandID, PointInTime date);
 
-    /// Sets the mark, creating the record of a command that has none, also when the mark is cleared.
+    /// Sets or clears the mark; creates the record of a command without one in both cases.
     void setFavorite(bool isFavorite, const Text& commandID);
 
     /// Every record: the last used first, those never run last; then the most used; then by id as the user's

@@ -10,17 +10,17 @@
 namespace tovrel {
 
 /// The user's custom commands: one JSON array in the preferences domain, in the order of their creation.
-/// Every read decodes afresh, every change rewrites the array. An absent or unreadable array reads as empty,
-/// and the next change replaces it; nothing is reported. Commands are stored as they are given, unchecked.
+/// Every read decodes the array, every change rewrites it. An absent or unreadable array reads as empty, and
+/// the next change replaces it; nothing is reported. Commands are stored unchecked.
 class CustomCommandStore {
   public:
     /// The domain must outlive the store.
     CustomCommandStore(PreferencesDomain& defaults, std::string storageKey);
 
-    /// All of them, enabled or not.
+    /// All custom commands, enabled or not.
     [[nodiscard]] std::vector<CustomCommand> customCommands() const;
 
-    /// Replaces the first command with the same id in its place, or else appends the command.
+    /// Replaces the first command with the same id, or appends the command if there is none.
     void saveCustomCommand(const CustomCommand& command);
 
     /// Removes every command with the id.

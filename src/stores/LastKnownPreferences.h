@@ -14,15 +14,15 @@ namespace tovrel {
 /// The reason why the last change could not be stored; absent when it could, and before the first.
 using UnstoredChange = Observable<std::optional<PreferencesFailure>>;
 
-/// A domain for a program that must go on while its preferences cannot be read: it then answers with the last
-/// known value. It remembers as well whether the last change was stored, so that the user can be told.
+/// A domain for a program that must go on while its preferences cannot be read: it then returns the last
+/// known value. It also remembers whether the last change was stored, so that the user can be told.
 ///
-/// In all else it behaves as the domain behind it: what could not be read cannot be set, so a value from
-/// memory never replaces what another process has stored meanwhile, and a change that was not stored is not
-/// remembered as if it were.
+/// Otherwise it behaves like the domain behind it: a value that could not be read cannot be set, so a value
+/// from memory never replaces what another process has stored meanwhile. A change that was not stored is not
+/// remembered.
 class LastKnownPreferences : public PreferencesDomain {
   public:
-    /// The store must outlive the object. The object reads its values at once, as the first known ones.
+    /// The store must outlive the object, which reads all values at once as the first known ones.
     explicit LastKnownPreferences(PreferencesDomain& store);
 
     /// The stored value, or the last known one if it cannot be read: `lastReadSucceeded` tells.

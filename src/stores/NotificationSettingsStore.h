@@ -7,13 +7,13 @@
 
 namespace tovrel {
 
-/// The events that the user wants to be notified of. Read anew each time.
+/// The events of which the user wants to be notified; each call reads the preferences.
 class NotificationSettingsStore {
   public:
     NotificationSettingsStore(PreferencesDomain& defaults, std::string commandFailuresKey)
         : defaults_(&defaults), commandFailuresKey_(std::move(commandFailuresKey)) {}
 
-    /// Whether to notify of custom commands that fail. Default, also for a value of another type: true.
+    /// Whether to notify of custom commands that fail. Default, even for a value of another type: true.
     [[nodiscard]] bool commandFailures() const {
         return booleanValue(*defaults_, commandFailuresKey_).value_or(true);
     }

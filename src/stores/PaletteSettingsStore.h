@@ -7,14 +7,14 @@
 
 namespace tovrel {
 
-/// The palette's display options: read from the preferences once, at construction, and kept in memory from
-/// then on. A value of another type than boolean reads as the option's default.
+/// The palette's display options. They are read from the preferences once, at construction, and then kept in
+/// memory. A value of another type than boolean reads as the option's default.
 class PaletteSettingsStore {
   public:
     /// The options are kept under `keyPrefix` + ".showCheckedStatus" and ".commandShortcutOpensSettings".
     PaletteSettingsStore(PreferencesDomain& defaults, const std::string& keyPrefix);
 
-    /// Show the check mark of menu items that carry one. Default: true.
+    /// Whether to show the check mark of menu items that have one. Default: true.
     [[nodiscard]] const Observable<bool>& showCheckedStatus() const { return showCheckedStatus_; }
 
     /// A reserved option that nothing in the program writes. Default: false.

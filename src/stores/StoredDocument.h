@@ -7,7 +7,8 @@
 #include "platform/PreferencesDomain.h"
 #include "support/JsonDocument.h"
 
-/// Every store keeps its JSON document as a data value under one key, read and written whole, silently.
+/// Reads and writes the JSON document that a store keeps as a data value under one key. Failures are not
+/// reported.
 namespace tovrel::stored_document {
 
 /// The decoded document; absent when the key does not exist, when it holds no data, or when decoding fails in
@@ -18,8 +19,8 @@ auto read(PreferencesDomain& domain, const std::string& key, const Decode& decod
     return bytes ? json::decodeDocument(*bytes, decode) : std::nullopt;
 }
 
-/// Replaces the document by what `encode` returns, and returns the bytes written. Absent when that has no
-/// JSON form (`encode` throws json::EncodeError) or could not be stored: the document before stays.
+/// Replaces the document by the result of `encode` and returns the bytes written. Absent when there is no
+/// JSON form (`encode` throws json::EncodeError) or it could not be stored; then the previous document stays.
 template <typename Encode>
 std::optional<std::string> write(PreferencesDomain& domain, const std::string& key, const Encode& encode) {
     try {
@@ -32,7 +33,8 @@ std::optional<std::string> write(PreferencesDomain& domain, const std::string& k
     return std::nullopt;
 }
 
-/// A document that is an array of records; one bad element spoils it. Empty when it cannot be read.
+/// Reads a document that is an array of records; one bad element makes it unreadable. Empty when it cannot be
+/// read.
 template <typename Record>
 std::vector<Record> readList(PreferencesDomain& domain, const std::string& key,
                              Record (*recordFrom)(const json::Value&)) {
@@ -47,7 +49,7 @@ std::vector<Record> readList(PreferencesDomain& domain, const std::string& key,
     return read(domain, key, decode).value_or(std::vector<Record>());
 }
 
-/// Replaces such a document; the records have a `toJson`.
+/// Replaces such a document; the records need a `toJson`.
 template <typename Record>
 void writeList(PreferencesDomain& domain, const std::string& key, const std::vector<Record>& list) {
     write(domain, key, [&list] {

@@ -7,7 +7,7 @@
 
 /// Arithmetic on scores and counts that never wraps. The program's own counts cannot overflow unless it is
 /// broken, and that is fatal. A number from the preferences may have any value, and a damaged one must not
-/// end the program at each start, so sums over such numbers stop at the largest or least value there is.
+/// end the program at each start, so sums of such numbers stop at the largest or smallest value.
 namespace tovrel {
 
 /// Sum of two of the program's own numbers; an overflow ends the process.
@@ -19,7 +19,7 @@ inline std::int64_t checkedAdd(std::int64_t left, std::int64_t right) {
     return result;
 }
 
-/// Sum in which a stored number takes part.
+/// Sum that involves a stored number.
 inline std::int64_t saturatingAdd(std::int64_t left, std::int64_t right) {
     std::int64_t result = 0;
     if (__builtin_add_overflow(left, right, &result)) {
@@ -29,7 +29,7 @@ inline std::int64_t saturatingAdd(std::int64_t left, std::int64_t right) {
     return result;
 }
 
-/// Product in which a stored number takes part.
+/// Product that involves a stored number.
 inline std::int64_t saturatingMultiply(std::int64_t left, std::int64_t right) {
     std::int64_t result = 0;
     if (__builtin_mul_overflow(left, right, &result)) {

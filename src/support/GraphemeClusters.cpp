@@ -11,8 +11,8 @@
 namespace tovrel {
 namespace {
 
-/// Kept, because it is costly to make and a text may be cut thousands of times in a row. Null without ICU's
-/// data.
+/// The iterator is kept, because it is costly to make and texts may be cut thousands of times in a row. Null
+/// without ICU's data.
 icu::BreakIterator* clusterIterator() {
     static thread_local UErrorCode status = U_ZERO_ERROR;
     static thread_local const std::unique_ptr<icu::BreakIterator> iterator(
@@ -20,7 +20,7 @@ icu::BreakIterator* clusterIterator() {
     return U_SUCCESS(status) ? iterator.get() : nullptr;
 }
 
-/// The last boundary of clusters up to `place`, which lies within the text; 0 when there is none.
+/// The last cluster boundary up to `place`, which is within the text; 0 when there is none.
 std::size_t clusterBoundary(std::string_view text, std::size_t place) {
     icu::BreakIterator* iterator = clusterIterator();
     UErrorCode status = U_ZERO_ERROR;
@@ -48,7 +48,7 @@ std::string_view wholeClusters(std::string_view text, std::size_t maximumBytes) 
     if (text.size() <= maximumBytes) {
         return text;
     }
-    // The text shortly after a place decides whether a cluster ends there.
+    // The next few bytes decide whether a cluster ends at a place.
     constexpr std::size_t context = 64;
     const std::string_view start = text.substr(0, maximumBytes + context);
     const std::size_t end = clusterBoundary(start, maximumBytes);

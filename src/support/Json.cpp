@@ -7,7 +7,8 @@
 namespace tovrel::json {
 namespace {
 
-/// Counts brackets outside strings; linear, so that hostile nesting is refused before the parser sees it.
+/// Counts brackets outside strings in linear time, so that hostile nesting is refused before the parser sees
+/// it.
 bool isNestedTooDeep(std::string_view bytes) {
     int depth = 0;
     bool inString = false;
@@ -42,7 +43,7 @@ Value parse(std::string_view bytes) {
     if (isNestedTooDeep(bytes)) {
         throw DecodeError("nested deeper than " + std::to_string(maximumDepth) + " levels");
     }
-    // The parser would take a NUL for the end and never see what follows.
+    // The parser would treat a NUL as the end and ignore the rest.
     if (bytes.find('\0') != std::string_view::npos) {
         throw DecodeError("not valid JSON in UTF-8");
     }
@@ -73,7 +74,7 @@ std::int64_t integerFrom(const Value& value) {
     } else if (value.is_number_float()) {
         const auto number = value.get<double>();
         constexpr double limit = 9223372036854775808.0; // 2^63, exact in a double
-        // Integers below -2^63 arrive here rounded to it, so -2^63 is refused as 2^63 is.
+        // Integers below -2^63 arrive here rounded to -2^63, so that value is refused like 2^63.
         if (std::trunc(number) == number && number > -limit && number < limit) {
             return static_cast<std::int64_t>(number);
         }

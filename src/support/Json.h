@@ -12,13 +12,13 @@
 #include "support/PointInTime.h"
 #include "support/Text.h"
 
-/// JSON documents as this program reads and writes them: compact UTF-8, absent optionals left out, unknown
-/// members ignored. A value of the wrong type makes the whole document invalid.
+/// Reads and writes JSON documents: compact UTF-8, absent optionals left out, unknown members ignored. A
+/// value of the wrong type makes the whole document invalid.
 namespace tovrel::json {
 
 using Value = nlohmann::json;
 
-/// A document could not be decoded. Thrown inside decoders only; `decodeDocument` (JsonDocument.h) catches
+/// Thrown when a document cannot be decoded, only inside decoders; `decodeDocument` (JsonDocument.h) catches
 /// it.
 class DecodeError : public std::runtime_error {
   public:
@@ -29,7 +29,7 @@ class DecodeError : public std::runtime_error {
 inline constexpr int maximumDepth = 512;
 
 /// Parses a document, which may be a fragment such as a bare string. Throws DecodeError when it is not JSON
-/// to its last byte (comments are not, nor what follows a NUL), not UTF-8, or nested deeper than
+/// to its last byte (comments and bytes after a NUL are not), not UTF-8, or nested deeper than
 /// `maximumDepth`.
 Value parse(std::string_view bytes);
 
@@ -51,7 +51,7 @@ const Value* optionalMember(const Value& object, const char* name);
 /// An optional text member: absent when missing or null.
 std::optional<Text> optionalTextMember(const Value& object, const char* name);
 
-/// Throws DecodeError unless the value is an array, respectively an object.
+/// Each throws DecodeError unless the value is an array or an object, respectively.
 const Value& requireArray(const Value& value);
 const Value& requireObject(const Value& value);
 
@@ -60,7 +60,7 @@ Value toJson(const std::vector<Text>& texts);
 /// Writes a whole number of seconds without a fraction. Throws EncodeError for a time that is not finite.
 Value toJson(PointInTime time);
 
-/// A value has no JSON form.
+/// Thrown when a value has no JSON form.
 class EncodeError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;

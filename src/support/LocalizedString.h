@@ -6,8 +6,9 @@
 
 namespace tovrel {
 
-/// Gives the text for a key in the user's language. The context, which is the place a text is used in, tells
-/// apart keys that are spelled alike. A key without a text stands for itself: most keys are the English text.
+/// Returns the text for a key in the user's language. The context, the place in which a text is used,
+/// distinguishes keys with the same spelling. A key without a text stands for itself: most keys are the
+/// English text.
 ///
 /// Write calls as `localized("Context", "Key")`, with literals, so that translators' tools find them.
 using LocalizedString = std::function<Text(const char* context, const char* key)>;

@@ -9,7 +9,7 @@
 
 namespace tovrel {
 
-/// Keeps an observer registered; ends that when destroyed or assigned over. May outlive the observed value.
+/// Keeps an observer registered until it is destroyed or assigned to. May outlive the observed value.
 class Subscription {
   public:
     Subscription() = default;
@@ -46,7 +46,7 @@ class ObserverList {
 
     ObserverList() = default;
     ~ObserverList() = default;
-    ObserverList(const ObserverList&) = delete; // two values would tell each other's observers
+    ObserverList(const ObserverList&) = delete; // two values would call each other's observers
     ObserverList& operator=(const ObserverList&) = delete;
 
     [[nodiscard]] Subscription subscribe(Observer observer) const {
@@ -82,7 +82,7 @@ class ObserverList {
     std::shared_ptr<Observers> observers_ = std::make_shared<Observers>();
 };
 
-/// A value that tells its observers of every assignment, also of one that does not change it.
+/// A value that tells its observers of every assignment, even if the value stays the same.
 template <typename T>
 class Observable {
   public:

@@ -2,8 +2,8 @@
 
 namespace tovrel {
 
-/// A visitor for `std::visit` made of one lambda for each alternative. The compiler refuses it when one
-/// lacks.
+/// A visitor for `std::visit`, made of one lambda for each alternative. The compiler rejects it if one is
+/// missing.
 template <typename... Cases>
 struct Overloaded : Cases... {
     using Cases::operator()...;

@@ -32,7 +32,7 @@ std::string shown(char32_t codePoint) {
     return codePoint <= deleteCharacter ? pictureOf(codePoint) : std::string(replacementCharacter);
 }
 
-/// "\u" and four digits: everything harmful lies below U+10000.
+/// "\u" and four digits, which suffice because all harmful characters are below U+10000.
 std::string escaped(char32_t codePoint) {
     constexpr std::string_view digits = "0123456789abcdef";
     std::string escape = "\\u";
@@ -89,7 +89,8 @@ std::string printableLines(std::string_view text) {
 }
 
 std::string printableJson(std::string_view json) {
-    // The writer has escaped controls below U+007F within strings; between values they are white space.
+    // The writer has escaped control characters below U+007F within strings; between values they are white
+    // space.
     return replaced(
         json, [](char32_t codePoint) { return codePoint >= deleteCharacter && isHarmful(codePoint); },
         escaped);

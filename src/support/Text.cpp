@@ -35,7 +35,8 @@ bool isFormC(std::string_view bytes) {
     return formC().isNormalizedUTF8(piece(bytes), status) != 0 && U_SUCCESS(status);
 }
 
-/// The text in normalization form C: a view of the text itself where it already is, else of `buffer`.
+/// The text in normalization form C: a view of the text itself if it is already in that form, else of
+/// `buffer`.
 std::string_view inFormC(const Text& text, std::string& buffer) {
     if (isFormC(text.view())) {
         return text.view();
@@ -91,7 +92,7 @@ bool operator==(const Text& left, const Text& right) {
 std::weak_ordering operator<=>(const Text& left, const Text& right) {
     std::string leftBuffer;
     std::string rightBuffer;
-    // Bytes of UTF-8 order as their code points do; std::string_view compares them as unsigned.
+    // The bytes of UTF-8 have the order of their code points; std::string_view compares them as unsigned.
     const int order = inFormC(left, leftBuffer).compare(inFormC(right, rightBuffer));
     return order <=> 0;
 }

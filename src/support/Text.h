@@ -12,7 +12,7 @@ namespace tovrel {
 
 /// An owning string of well-formed UTF-8 that compares by Unicode canonical equivalence: a precomposed and a
 /// decomposed form of the same characters are equal, order alike and hash alike, while case and diacritics
-/// count. The bytes are kept as they were given, so writing a text out never changes it.
+/// count. The given bytes are kept, so writing a text out never changes it.
 ///
 /// Comparisons of ASCII texts, of byte-equal texts and of texts that are already in normalization form C
 /// (practically all) allocate nothing.
@@ -31,7 +31,7 @@ class Text {
 
     friend bool operator==(const Text& left, const Text& right);
 
-    /// Orders by the code points of normalization form C: an order for containers, not one to show to users.
+    /// Orders by the code points of normalization form C, which is an order for containers, not for users.
     friend std::weak_ordering operator<=>(const Text& left, const Text& right);
 
     /// Equal for equal texts.
@@ -43,7 +43,7 @@ class Text {
     std::string utf8_;
 };
 
-/// The texts in order with `separator` between each two.
+/// The texts in order, with `separator` between them.
 Text joined(const std::vector<Text>& texts, std::string_view separator);
 
 /// The text without the white space and line breaks (the Unicode property White_Space) at both ends.

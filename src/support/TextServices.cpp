@@ -55,7 +55,7 @@ UScriptCode scriptOf(UChar32 codePoint) {
     return uscript_getScript(codePoint, &status);
 }
 
-/// The scripts whose letters lose their diacritics when folded.
+/// Whether folding removes diacritics from the letter, which depends on its script.
 bool hasRemovableDiacritics(UChar32 base) {
     const UScriptCode script = scriptOf(base);
     return script == USCRIPT_LATIN || script == USCRIPT_GREEK || script == USCRIPT_CYRILLIC;
@@ -78,7 +78,7 @@ icu::UnicodeString withoutDiacritics(const icu::UnicodeString& decomposed) {
     return result;
 }
 
-/// The clusters of a text in which every code point is a cluster, as in nearly all; absent when that is
+/// The clusters of a text if every code point is a cluster, as in nearly all texts; absent when that is
 /// unsure.
 std::optional<std::vector<std::string_view>> simpleClusters(std::string_view text) {
     std::vector<std::string_view> clusters;
@@ -86,7 +86,7 @@ std::optional<std::vector<std::string_view>> simpleClusters(std::string_view tex
     for (std::size_t position = 0; position < text.size();) {
         const std::size_t start = position;
         const auto codePoint = static_cast<UChar32>(nextCodePoint(text, position));
-        // Whole Hangul syllables stand alone as long as no single jamo follows.
+        // A whole Hangul syllable is a cluster unless a single jamo follows.
         switch (u_getIntPropertyValue(codePoint, UCHAR_GRAPHEME_CLUSTER_BREAK)) {
         case U_GCB_OTHER:
         case U_GCB_LV:
@@ -100,7 +100,7 @@ std::optional<std::vector<std::string_view>> simpleClusters(std::string_view tex
     return clusters;
 }
 
-/// Whether this is the locale that ICU makes of "C", "POSIX", "C.UTF-8" and of no locale at all.
+/// Whether this is the locale that ICU makes from "C", "POSIX", "C.UTF-8" or no locale at all.
 bool isPosix(const icu::Locale& locale) {
     return std::string_view(locale.getVariant()) == "POSIX" || std::string_view(locale.getLanguage()) == "c";
 }
@@ -137,7 +137,8 @@ struct TextServices::Implementation {
     /// `options` are those of ICU's case folding.
     [[nodiscard]] std::string folded(std::string_view text, std::uint32_t options) const {
         UErrorCode status = U_ZERO_ERROR;
-        // Composed first: a decomposed İ must fold as the letter it is, not as an I with a mark.
+        // The text is composed first, because a decomposed İ must fold as this letter, not as an I with a
+        // mark.
         icu::UnicodeString folded = formC->normalize(utf16From(text), status);
         folded.foldCase(options);
         const icu::UnicodeString stripped = withoutDiacritics(formD->normalize(folded, status));
@@ -154,7 +155,7 @@ struct TextServices::Implementation {
     const icu::Normalizer2* formD = nullptr;
     std::unique_ptr<icu::Collator> collator;
     std::unique_ptr<icu::BreakIterator> clusters;
-    /// Opened on first use; null inside when it cannot be.
+    /// Opened at first use; contains null if it cannot be opened.
     std::optional<std::unique_ptr<icu::Transliterator>> toLatin;
 };
 
@@ -173,8 +174,8 @@ std::string TextServices::foldedByDefault(std::string_view text) const {
 }
 
 bool TextServices::hasLocalFolding(std::string_view text) const {
-    // The Turkic foldings differ from the default ones in I and İ only, and İ becomes an i, with a dot more
-    // or less, in both.
+    // The Turkic folding differs from the default one only in I and İ, and both turn İ into an i, with or
+    // without an extra dot.
     return implementation_->turkic && text.find('I') != std::string_view::npos;
 }
 

@@ -15,20 +15,20 @@ namespace tovrel {
 /// costly to open (tens of milliseconds); used from one thread.
 class TextServices {
   public:
-    /// Takes a locale such as "de_DE", "tr" or "sr-Latn"; an empty identifier means the environment's.
-    /// An unknown locale behaves as the root locale does, and so do "C" and "POSIX", which say nothing about
-    /// the language: ICU would order their titles by ASCII.
+    /// Takes a locale such as "de_DE", "tr" or "sr-Latn"; an empty identifier means the environment's. An
+    /// unknown locale behaves like the root locale. So do "C" and "POSIX", which name no language; ICU would
+    /// order their titles by ASCII.
     explicit TextServices(std::string_view localeIdentifier = {});
     ~TextServices();
     TextServices(const TextServices&) = delete;
     TextServices& operator=(const TextServices&) = delete;
 
     /// The text without case distinctions and without the diacritics of Latin, Greek and Cyrillic letters;
-    /// vowel signs, voicing marks and the like of other scripts stay. Case folds by the Unicode default full
-    /// folding, in Turkish and Azerbaijani with the dotted and the dotless i kept apart.
+    /// vowel signs, voicing marks and similar marks of other scripts stay. Case is folded by the Unicode
+    /// default full folding; in Turkish and Azerbaijani the dotted and the dotless i stay distinct.
     [[nodiscard]] std::string folded(std::string_view text) const;
 
-    /// As `folded`, without the locale's own rules: the I of "Insert" folds to i everywhere.
+    /// Folds like `folded`, but without the locale's own rules: the I of "Insert" always becomes i.
     [[nodiscard]] std::string foldedByDefault(std::string_view text) const;
 
     /// Whether the two foldings of the text can differ. Cheap.
@@ -43,14 +43,14 @@ class TextServices {
     /// Unicode default upper-casing of the whole string, the same in every locale.
     [[nodiscard]] std::string uppercased(std::string_view text) const;
 
-    /// Whether transliteration to Latin can change the text at all: it holds a letter of another script.
+    /// Whether transliteration to Latin can change the text, because it has a letter of another script.
     [[nodiscard]] static bool hasNonLatinScript(std::string_view text);
 
-    /// The text of any script in Latin letters (ICU's Any-Latin), e.g. "Файл" as "Fajl"; it may carry
+    /// The text of any script in Latin letters (ICU's Any-Latin), e.g. "Fajl" for "Файл"; it may have
     /// diacritics. Absent when the transliteration is not available.
     [[nodiscard]] std::optional<std::string> transliteratedToLatin(std::string_view text) const;
 
-    /// The extended grapheme clusters (Unicode Standard Annex 29) of a text, what a user perceives as its
+    /// The extended grapheme clusters (Unicode Standard Annex 29) of a text, which users perceive as its
     /// characters, as views into it.
     [[nodiscard]] std::vector<std::string_view> graphemeClusters(std::string_view text) const;
 

@@ -13,7 +13,7 @@ namespace {
 
 QRegion roundedRegion(QSize size, qreal cornerRadius) {
     QPainterPath path;
-    // As round as the view it would lose parts of its border, which is smoothed over two pixels.
+    // With the radius of the view the mask would cut into its border, which is smoothed over two pixels.
     const qreal radius = cornerRadius - 1.5;
     path.addRoundedRect(QRectF(QPointF(0, 0), QSizeF(size)), radius, radius);
     return QRegion(path.toFillPolygon().toPolygon());
@@ -62,15 +62,15 @@ bool FloatingWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FloatingWindow::beginMove() {
-    // The user may have let go by now, and a window manager would wait for that.
+    // The user may have released the button by now, and a window manager would wait for the release.
     isMoveAskedFor_ = windowSystem_->isFirstButtonDown() && view_.startSystemMove();
 }
 
 void FloatingWindow::shape() {
     const bool isComposited = windowSystem_->isComposited();
     const QQuickItem& root = *view_.rootObject();
-    // Without a compositor what is transparent is black, so the corners are cut off, along an edge that has
-    // the colour of the border.
+    // Without a compositor transparent pixels are black, so the mask cuts the corners off, and the background
+    // has the colour of the border.
     view_.setColor(isComposited ? QColor(Qt::transparent) : root.property("edge").value<QColor>());
     view_.setMask(isComposited ? QRegion()
                                : roundedRegion(view_.size(), root.property("cornerRadius").toReal()));

@@ -10,14 +10,15 @@
 
 namespace tovrel {
 
-/// A window without a frame, with round corners, above all others. Made hidden; hiding keeps it.
+/// A frameless window with round corners, above all others. It is made hidden; hiding keeps it.
 class FloatingWindow : public QObject {
     Q_OBJECT
 
   public:
     struct Description {
-        /// Name of a view of the module Tovrel.Views: with a signal "moveWanted", the radius of its corners
-        /// as "cornerRadius" and the colour of its edge as "edge". The window is as large as it wants to be.
+        /// The name of a view of the module Tovrel.Views. The view has a signal "moveWanted", the radius of
+        /// its corners as "cornerRadius" and the colour of its edge as "edge", and determines the window's
+        /// size.
         QString view;
         QVariantMap properties;
         QString title;
@@ -32,9 +33,9 @@ class FloatingWindow : public QObject {
     [[nodiscard]] bool hasInputFocus() const;
 
     void show();
-    /// Takes the keyboard focus; for a window that is shown.
+    /// Takes the keyboard focus. The window must be shown.
     void takeFocus() { activation_.takeFocus(); }
-    /// The focus goes back to where it was.
+    /// Hides the window; the focus goes back to where it was.
     void hide() { activation_.hide(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -8,10 +8,10 @@ namespace {
 
 using std::chrono_literals::operator""ms;
 
-// Qt itself reports a loss 100 ms after it happened. As long as a grab lasts no event tells of its end.
+// Qt itself reports a loss 100 ms after it happened. No event tells when another program's grab ends.
 constexpr auto recheckInterval = 50ms;
-// A window that is just being shown gets the focus within a few milliseconds, on a busy machine within some
-// more. There is time: that another application came to the front is told by other means.
+// A window that is being shown gets the focus within a few milliseconds, or some more on a busy machine. The
+// watch may take its time, because activations of other applications are reported separately.
 constexpr int missesOfALoss = 4;
 
 } // namespace

@@ -5,16 +5,16 @@
 
 namespace tovrel {
 
-/// Tells a loss of the focus for good from the moments in which Qt only takes it for lost: while another
-/// program grabs the keyboard, and between a window's disappearance and its next showing.
+/// Distinguishes a permanent loss of the focus from the moments in which Qt only believes it lost: while
+/// another program grabs the keyboard, and between a window's disappearance and its next showing.
 class FocusLossWatch {
   public:
     /// `hasFocus` asks the window system; `onLoss` is called once for each loss.
     FocusLossWatch(std::function<bool()> hasFocus, std::function<void()> onLoss);
 
-    /// To be called whenever Qt reports a change.
+    /// Must be called whenever Qt reports a change.
     void activeChanged(bool isActive);
-    /// What was lost no longer matters.
+    /// Forgets a loss that was being watched.
     void stop() { recheck_.stop(); }
 
   private:

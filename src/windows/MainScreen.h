@@ -6,7 +6,8 @@
 
 namespace tovrel {
 
-/// The screen that holds the active window, whoever's, else the one with the pointer; null without a screen.
+/// The screen with the active window of any application, else the screen with the pointer; null without a
+/// screen.
 QScreen* mainScreen(const WindowSystem& windowSystem);
 
 } // namespace tovrel

@@ -34,7 +34,7 @@ QtPalettePanel::QtPalettePanel(PaletteViewContext context, const TextServices& t
 }
 
 QtPalettePanel::~QtPalettePanel() {
-    // The window changes its state once more when it goes.
+    // The window changes its state once more while it is destroyed.
     window().removeEventFilter(this);
     QObject::disconnect(&window(), nullptr, this, nullptr);
 }
@@ -72,11 +72,11 @@ bool QtPalettePanel::eventFilter(QObject* watched, QEvent* event) {
         return QObject::eventFilter(watched, event);
     }
     if (event->type() == QEvent::ShortcutOverride) {
-        event->accept(); // no shortcut: it comes again as a key press
+        event->accept(); // not a shortcut: the key comes again as a key press
         return true;
     }
     if (event->type() == QEvent::KeyPress) {
-        const KeyHandler handler = keyHandler_; // it may take itself away
+        const KeyHandler handler = keyHandler_; // the handler may replace itself
         if (handler(keyEventFrom(*static_cast<QKeyEvent*>(event), keyCodeFromScanCode_))) {
             event->accept();
             return true;

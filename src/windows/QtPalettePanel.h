@@ -17,7 +17,7 @@ namespace tovrel {
 
 class PaletteViewAdapter;
 
-/// The palette's window. Its view is loaded at once, so that the first showing is as fast as any other.
+/// The palette's window. It loads its view at once, so that the first showing is as fast as any other.
 class QtPalettePanel final : public QObject, public PalettePanel {
   public:
     /// `engine`, `windowSystem`, `textServices` and all that `context` refers to outlive the panel.

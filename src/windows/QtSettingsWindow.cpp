@@ -14,12 +14,11 @@
 namespace tovrel {
 namespace {
 
-/// What window managers draw around a window, at most; what this one draws is known only once the window is
-/// shown.
+/// The widest frame that window managers draw. The actual frame is known only once the window is shown.
 constexpr QMargins roomForFrame(8, 40, 8, 8);
 
-/// The content within the frame at the middle of what is visible of the screen, smaller where there is less
-/// room than it wants.
+/// The content's place when the window with its frame is centred in the visible part of the screen. The
+/// content is smaller than wanted where there is less room.
 QRect contentRect(QSize wanted, const QRect& visible) {
     const QRect room = visible.marginsRemoved(roomForFrame);
     QRect content(QPoint(), wanted.boundedTo(room.size()));
@@ -42,7 +41,7 @@ QtSettingsWindow::QtSettingsWindow(Surroundings surroundings)
 }
 
 QtSettingsWindow::~QtSettingsWindow() {
-    // The view goes before what it is bound to.
+    // The view must be destroyed before the objects that it is bound to.
     view_.removeEventFilter(this);
     view_.setSource({});
 }
@@ -76,7 +75,7 @@ void QtSettingsWindow::install(std::unique_ptr<SettingsViewState> state) {
         fatal("a view of the user interface cannot be loaded");
     }
     view_.rootObject()->forceActiveFocus();
-    // The view of what was there before is gone.
+    // The old view is gone, so the old content may go too.
     std::swap(content_, content);
 }
 
@@ -117,7 +116,7 @@ void QtSettingsWindow::hide() {
 
 bool QtSettingsWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Close) {
-        // Closing would destroy the window.
+        // A close event would destroy the window.
         hide();
         event->ignore();
         return true;

@@ -23,8 +23,8 @@ namespace tovrel {
 class RecorderAdapter;
 class SettingsViewAdapter;
 
-/// The settings' window. It has no menu bar: the items of its menu work by their keys, unless a shortcut is
-/// being recorded.
+/// The settings' window. It has no menu bar: the keys of its menu's items work, unless a shortcut is being
+/// recorded.
 class QtSettingsWindow final : public QObject, public SettingsWindow {
   public:
     struct Surroundings {
@@ -36,11 +36,12 @@ class QtSettingsWindow final : public QObject, public SettingsWindow {
         const TextServices& textServices;
         KeyCodeFromScanCode keyCodeFromScanCode;
         std::function<void(const Text& url)> openURL;
-        /// The user asked for an item of the window's menu. Closing is done already.
+        /// Called when the user chose an item of the window's menu. The window has already closed itself for
+        /// `closeWindow`.
         std::function<void(window_menu::Action)> onMenuAction;
     };
 
-    /// Everything referred to outlives the window.
+    /// Everything that `surroundings` refers to outlives the window.
     explicit QtSettingsWindow(Surroundings surroundings);
     ~QtSettingsWindow() override;
     QtSettingsWindow(const QtSettingsWindow&) = delete;
@@ -55,7 +56,7 @@ class QtSettingsWindow final : public QObject, public SettingsWindow {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    /// What one view is made of. The members go in the reverse order.
+    /// The parts of one view. They are destroyed in reverse order.
     struct Content {
         std::unique_ptr<SettingsViewState> state;
         std::unique_ptr<RecorderAdapter> recorder;
@@ -63,7 +64,8 @@ class QtSettingsWindow final : public QObject, public SettingsWindow {
     };
 
     void install(std::unique_ptr<SettingsViewState> state);
-    /// Where it was last, or, on a screen that leaves it more or less room than that did, at the middle.
+    /// Puts the window where it was last, or at the middle of a screen with more or less room for it than
+    /// there was.
     void place();
     void hide();
     bool handleKeyPress(const QKeyEvent& event);
@@ -73,7 +75,7 @@ class QtSettingsWindow final : public QObject, public SettingsWindow {
     Content content_;
     QQuickView view_;
     WindowActivation activation_;
-    std::optional<QPoint> position_; ///< Of the frame, since the window was hidden.
+    std::optional<QPoint> position_; ///< The position of the frame, stored when the window is hidden.
 };
 
 } // namespace tovrel

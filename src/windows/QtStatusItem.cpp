@@ -19,7 +19,8 @@ namespace {
 
 QIcon symbolIcon(const Text& name, const QColor& colour) {
     QIcon icon;
-    // The sizes that trays and menus ask for, up to a scale of 2; others are made from the next larger one.
+    // Trays and menus ask for these sizes, up to a scale of 2; other sizes are scaled from the next larger
+    // one.
     for (const int size : {16, 18, 22, 24, 32, 44, 48, 64}) {
         if (const QImage image = symbolImage(qtString(name), colour, {size, size}); !image.isNull()) {
             icon.addPixmap(QPixmap::fromImage(image));
@@ -63,7 +64,7 @@ void QtStatusItem::setToolTip(const Text& toolTip) {
 
 bool QtStatusItem::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
-        // A menu leaves shortcuts to the window it belongs to, and this one belongs to none.
+        // A menu leaves shortcuts to its window, and this menu has none.
         const QKeySequence pressed(static_cast<QKeyEvent*>(event)->keyCombination());
         const auto actions = menu_.actions();
         const auto chosen = std::find_if(actions.begin(), actions.end(), [&](const QAction* action) {
@@ -82,7 +83,7 @@ void QtStatusItem::show() {
     icon_ = std::make_unique<QSystemTrayIcon>(symbolIcon(description_.imageName, native_theme::statusItem));
     icon_->setToolTip(qtString(description_.toolTip));
     icon_->setContextMenu(&menu_);
-    // A click opens the menu, as a click into any bar of menus does.
+    // A click opens the menu, as a click into a menu bar does.
     QObject::connect(icon_.get(), &QSystemTrayIcon::activated, &menu_, [this](auto reason) {
         if (reason == QSystemTrayIcon::Trigger) {
             menu_.popup(QCursor::pos());

@@ -12,11 +12,11 @@
 
 namespace tovrel {
 
-/// The status item as a tray icon, once the desktop has a place for one. The key equivalents of its menu work
-/// while that is open.
+/// The status item as a tray icon, which appears once the desktop has a place for it. The key equivalents of
+/// its menu work while the menu is open.
 class QtStatusItem final : public QObject, public StatusItem {
   public:
-    /// `windowSystem` outlives it. `onMenuTracking` is told when the menu opens (true) and closes.
+    /// `windowSystem` outlives it. `onMenuTracking` is called when the menu opens (true) and closes (false).
     QtStatusItem(StatusItemDescription description, const WindowSystem& windowSystem,
                  const std::function<void(bool)>& onMenuTracking);
 

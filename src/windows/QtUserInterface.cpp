@@ -30,7 +30,7 @@ bool isOrdinaryWindow(const QWindow& window) {
     return window.isVisible() && window.type() != Qt::Popup && window.type() != Qt::ToolTip;
 }
 
-/// The window that has the focus, or else one that is shown; null without one.
+/// The window that has the focus, else a window that is shown; null without one.
 QWindow* windowInUse() {
     if (QWindow* focused = QGuiApplication::focusWindow(); focused != nullptr && isOrdinaryWindow(*focused)) {
         return focused;
@@ -41,7 +41,7 @@ QWindow* windowInUse() {
     return shown == windows.end() ? nullptr : *shown;
 }
 
-/// In the middle of the owner, or of the screen, and on the screen as a whole.
+/// The place at the middle of the owner, or of the screen without an owner, that is wholly on the screen.
 QPoint centred(QSize size, const QWindow* owner, const QRect& screen) {
     QRect frame(QPoint(), size);
     frame.moveCenter(owner == nullptr ? screen.center() : owner->frameGeometry().center());
@@ -63,13 +63,13 @@ QtUserInterface::QtUserInterface(ViewEngine& engine, WindowSystem& windowSystem)
 }
 
 void QtUserInterface::activate() {
-    // A loss from before must not close what is shown next.
+    // An earlier loss must not close the windows that come next.
     focusLoss_.stop();
     const auto windows = QGuiApplication::topLevelWindows();
     for (QWindow* window : windows) {
         if (isOrdinaryWindow(*window) && window != alert_) {
             window->raise();
-            // On the way to a question keys would come to another window and be lost.
+            // If a window took the focus before the question does, keys would go to that window and be lost.
             if (alert_ == nullptr) {
                 window->requestActivate();
             }
@@ -124,7 +124,7 @@ AlertAnswer QtUserInterface::runAlert(const Alert& alert) {
         loop.quit();
     });
     QObject::connect(&question, &AlertQuestion::dismissed, &loop, [&] { loop.quit(); });
-    // Closed by the window manager.
+    // The window manager may close the window.
     QObject::connect(&window.view(), &QWindow::visibleChanged, &loop, [&](bool isVisible) {
         if (!isVisible) {
             loop.quit();

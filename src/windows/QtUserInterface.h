@@ -11,18 +11,18 @@
 
 namespace tovrel {
 
-/// This process as a Qt application. Made after the application object, which it tells to go on when the last
-/// window is closed.
+/// This process as a Qt application. Must be made after the application object, which it keeps running when
+/// the last window is closed.
 class QtUserInterface final : public QObject, public UserInterface {
   public:
     /// `engine` and `windowSystem` outlive it.
     QtUserInterface(ViewEngine& engine, WindowSystem& windowSystem);
 
-    /// Brings the windows forward that are shown, a question last. Without one there is nothing to do: each
+    /// Brings the shown windows forward, a question last. Does nothing without a shown window, because each
     /// window takes the focus when it is shown.
     void activate() override;
     [[nodiscard]] Subscription onResignActive(std::function<void()> observer) override;
-    /// The screen with the active window, else that with the pointer, by the name that Qt has for it.
+    /// The screen with the active window, else the screen with the pointer, identified by Qt's name for it.
     [[nodiscard]] std::optional<Screen> mainScreen() override;
     [[nodiscard]] AlertAnswer runAlert(const Alert& alert) override;
     [[nodiscard]] bool isAlertOpen() const override { return alert_ != nullptr; }
@@ -38,7 +38,7 @@ class QtUserInterface final : public QObject, public UserInterface {
     ObserverList<> resignActive_;
     std::shared_ptr<ObserverList<bool>> menuTracking_ = std::make_shared<ObserverList<bool>>();
     FocusLossWatch focusLoss_;
-    QWindow* alert_ = nullptr; ///< The question that is being asked.
+    QWindow* alert_ = nullptr; ///< The open question.
 };
 
 } // namespace tovrel

@@ -45,10 +45,10 @@ void notify(const QDBusConnection& bus, const QString& title, const QString& bod
 } // namespace
 
 void QtUserNotifications::show(const Text& title, const Text& body) {
-    // Markup is a matter of the body alone, and each server says for itself whether it reads any.
+    // Only the body can have markup, and each server says whether it reads markup.
     const QDBusConnection bus(connectionName_);
     const QDBusPendingCall question = bus.asyncCall(callOf(QStringLiteral("GetCapabilities")), patience);
-    // Its parent becomes its owner.
+    // The parent owns it.
     auto* call = std::make_unique<QDBusPendingCallWatcher>(question, &pendingCalls_).release();
     QObject::connect(call, &QDBusPendingCallWatcher::finished, &pendingCalls_,
                      [call, bus, title = qtString(title), body = qtString(body)] {

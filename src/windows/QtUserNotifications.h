@@ -8,12 +8,13 @@
 
 namespace tovrel {
 
-/// Notifications by the server that runs on the session bus (Desktop Notifications Specification of
-/// freedesktop.org). None is started for them. What the server has not answered when this ends is dropped.
+/// Shows notifications through the server on the session bus (Desktop Notifications Specification of
+/// freedesktop.org), but never starts one. Notifications that the server has not answered when this object
+/// ends are dropped.
 class QtUserNotifications final : public UserNotifications {
   public:
-    /// `connectionName` is that of a connection to the session bus (QDBusConnection), which may be lost and
-    /// made anew meanwhile.
+    /// `connectionName` names a connection to the session bus (see QDBusConnection), which may be lost and
+    /// made again meanwhile.
     explicit QtUserNotifications(QString connectionName) : connectionName_(std::move(connectionName)) {}
 
     void show(const Text& title, const Text& body) override;

@@ -18,7 +18,7 @@ QWindow* qtWindow(OwnWindow window) {
 } // namespace
 
 OwnWindow ownWindow(const QWindow& window) {
-    // Asking a window that has none would make one.
+    // winId() would create a handle for a window without one.
     return window.handle() != nullptr ? window.winId() : 0;
 }
 

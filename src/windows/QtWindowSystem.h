@@ -6,14 +6,14 @@
 
 namespace tovrel {
 
-/// The window as the display knows it; asking does not make one that the display does not know yet.
+/// The window as the display knows it; 0 for a window that the display does not know yet.
 OwnWindow ownWindow(const QWindow& window);
 
-/// A window system that offers no more than Qt does.
+/// A window system that uses only Qt.
 class QtWindowSystem : public WindowSystem {
   public:
     [[nodiscard]] bool isComposited() const override { return true; }
-    /// As far as Qt calls the window active.
+    /// Whether Qt calls the window active.
     [[nodiscard]] bool hasInputFocus(OwnWindow window) const override;
     void giveFocus(OwnWindow /*window*/) override {}
     void activate(OwnWindow window) override;

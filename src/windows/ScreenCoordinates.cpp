@@ -7,12 +7,12 @@
 namespace tovrel {
 namespace {
 
-/// y of the primary screen's lower edge.
+/// The y of the primary screen's lower edge.
 int baseline(const QScreen& primary) {
     return primary.geometry().y() + primary.geometry().height();
 }
 
-/// Qt scales the size of a screen, but leaves its corner where it is.
+/// The screen in pixels. Qt scales the size of a screen but not the position of its corner.
 QRect inPixels(const QScreen& screen) {
     return {screen.geometry().topLeft(),
             (QSizeF(screen.geometry().size()) * screen.devicePixelRatio()).toSize()};

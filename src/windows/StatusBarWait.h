@@ -10,17 +10,17 @@
 
 namespace tovrel {
 
-/// Waits until the desktop has a status bar. Qt decides once per process, when its tray icon is first
-/// touched, whether icons go to a StatusNotifier host or into a tray of the display, so it must not be
-/// touched before.
+/// Waits until the desktop has a status bar. When its tray icon is first used, Qt decides for the whole
+/// process whether icons go to a StatusNotifier host or into a tray of the display. So the icon must not be
+/// used before a status bar is there.
 ///
-/// A StatusNotifier host counts at once. A tray counts only after some seconds, because at login it may
-/// appear before the StatusNotifier host that the desktop has as well.
+/// A StatusNotifier host counts at once. A tray counts only after some seconds, because at login a desktop
+/// with both may start the tray before the StatusNotifier host.
 class StatusBarWait final : public QObject, private QAbstractNativeEventFilter {
     Q_OBJECT
 
   public:
-    /// Calls `onReady` once, at a later turn of the main thread. `windowSystem` outlives the object.
+    /// Calls `onReady` once, in a later turn of the main loop. `windowSystem` outlives the object.
     StatusBarWait(const WindowSystem& windowSystem, std::function<void()> onReady);
 
   private Q_SLOTS:

@@ -14,7 +14,7 @@ Translations::Translations(std::string_view localeIdentifier) {
                                ? QLocale()
                                : QLocale(QString::fromUtf8(localeIdentifier.data(),
                                                            static_cast<qsizetype>(localeIdentifier.size())));
-    // The one installed last is asked first.
+    // Qt asks the translator that was installed last first.
     if (english_.load(QStringLiteral("tovrel_en"), folder)) {
         QCoreApplication::installTranslator(&english_);
     }

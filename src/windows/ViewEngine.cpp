@@ -12,7 +12,8 @@
 #include "views/shared/SymbolImages.h"
 #include "views/theme/NativeTheme.h"
 
-// Registers the types of the module that the views are; generated, and otherwise left out by the linker.
+// Registers the types of the views' module. The function is generated; the linker would leave it out without
+// this call.
 void qml_register_types_Tovrel_Views(); // NOLINT(readability-identifier-naming)
 
 namespace tovrel {
@@ -33,7 +34,7 @@ void useOpenGLIfAskedFor() {
     if (qEnvironmentVariable("TOVREL_RENDERER") != QLatin1String("opengl")) {
         return;
     }
-    // Qt ends the process when it is told to use an OpenGL that is not there.
+    // Qt ends the process if it is told to use OpenGL where there is none.
     if (QOpenGLContext context; context.create()) {
         QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
     }
@@ -52,7 +53,7 @@ ViewEngine::ViewEngine() {
     qml_register_types_Tovrel_Views();
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Tovrel/Views/SettingsAppIcon.svg")));
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    // The engine becomes their owner.
+    // The engine owns them.
     engine_.addImageProvider(QLatin1String(SymbolImages::scheme), std::make_unique<SymbolImages>().release());
     engine_.addImageProvider(QLatin1String(AppIconImages::scheme),
                              std::make_unique<AppIconImages>().release());

@@ -4,13 +4,13 @@
 
 namespace tovrel {
 
-/// What Qt must know before the application object is made: that it draws without a GPU (see ViewEngine for
-/// the exception), and that it repaints at once instead of after 5 ms.
+/// Configures Qt before the application object is made: it draws without a GPU (see ViewEngine for the
+/// exception), and repaints at once instead of after 5 ms.
 void configureQtEnvironment();
 
-/// Loads the views. One per program, made after the application object and outliving every window.
+/// Loads the views. A program has one, made after the application object; it outlives every window.
 ///
-/// With TOVREL_RENDERER=opengl in the environment windows are drawn by OpenGL, if it can be had.
+/// With TOVREL_RENDERER=opengl in the environment, OpenGL draws the windows if it is available.
 class ViewEngine {
   public:
     ViewEngine();

@@ -9,7 +9,7 @@ namespace {
 
 using std::chrono_literals::operator""ms;
 
-/// Window managers that grant the focus at all do it within a few milliseconds.
+/// Window managers that grant the focus do so within a few milliseconds.
 constexpr auto activationPatience = 50ms;
 
 } // namespace
@@ -18,7 +18,7 @@ WindowActivation::WindowActivation(QWindow& window, WindowSystem& windowSystem, 
     : window_(&window), windowSystem_(&windowSystem), stay_(stay) {
     activation_.setSingleShot(true);
     activation_.setInterval(activationPatience);
-    // Once granted, the focus may have gone on to where the user wants it.
+    // Once granted, the focus must not be asked for again: the user may have moved it since.
     QObject::connect(window_, &QWindow::activeChanged, &activation_, [this] {
         if (window_->isActive()) {
             activation_.stop();

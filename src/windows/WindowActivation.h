@@ -8,22 +8,22 @@
 
 namespace tovrel {
 
-/// Whether a window goes away as soon as the user turns to another one.
+/// Whether a window closes as soon as the user turns to another one.
 enum class WindowStay { brief, lasting };
 
-/// Shows a window above the others and with the keyboard focus, also where the window manager is strict about
-/// who may take it.
+/// Shows a window above the others and with the keyboard focus, even where the window manager restricts who
+/// may take it.
 class WindowActivation {
   public:
     /// `window` and `windowSystem` outlive the object.
     WindowActivation(QWindow& window, WindowSystem& windowSystem, WindowStay stay);
 
-    /// Above the others, as yet without the focus.
+    /// Shows the window above the others, without taking the focus.
     void show();
-    /// Gives the window, which is shown, the focus; where that is refused, once more after a moment.
+    /// Gives the shown window the focus, and tries once more after a moment if that was refused.
     void takeFocus();
-    /// If the window has the focus, it goes back to where it was; from a window that has stayed for long, to
-    /// where the window manager thinks best.
+    /// Hides the window. If it has the focus, the focus goes back to where it was; for a lasting window, the
+    /// window manager, if any, chooses.
     void hide();
 
   private:

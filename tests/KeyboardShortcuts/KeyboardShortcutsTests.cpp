@@ -131,7 +131,7 @@ TEST_F(KeyboardShortcutsTest, HandlersAreCalledInOrderForTheStoredShortcutOnly) 
     EXPECT_TRUE(center_.press(other));
     EXPECT_EQ(calls, "abuab");
 
-    // Changed behind our back: the registered combination is no longer the name's.
+    // Another process changes it, so the registered combination is no longer the name's.
     preferences_.set(key, false);
     center_.press(other);
     EXPECT_EQ(calls, "abuab");
@@ -177,7 +177,7 @@ TEST_F(KeyboardShortcutsTest, ARefusedCombinationIsTriedAgain) {
     EXPECT_TRUE(center_.press(standard));
     EXPECT_EQ(std::pair(calls, told), std::pair(1, 1));
 
-    // With another keyboard it is lost, and comes back.
+    // Another keyboard takes it away and gives it back.
     center_.refuse(standard);
     center_.changeKeyboard();
     EXPECT_EQ(shortcuts_.refusal(name), HotKeyError::takenByAnother);
@@ -239,7 +239,8 @@ TEST_F(KeyboardShortcutsTest, WhatIsGivenBackBeforeTheAnswerDoesNotComeAlive) {
     EXPECT_EQ(center_.registrations(other), 0U);
     EXPECT_EQ(center_.registrations(standard), 1U) << "asked for anew meanwhile";
 
-    // Answered while a menu is open, it is matched raw, and asked for once more when the menu closes.
+    // A shortcut that is answered while a menu is open is matched raw, and requested again when the menu
+    // closes.
     shortcuts_.setShortcut(other, name);
     userInterface_.setMenuOpen(true);
     center_.answer();

@@ -68,7 +68,7 @@ class RecorderCocoaTest : public testing::Test {
 };
 
 TEST_F(RecorderCocoaTest, WhileItRecordsNothingFires) {
-    center_.giveKeyboardBack(false); // as if it could not be had
+    center_.giveKeyboardBack(false); // as if it could not be taken
     std::vector<bool> told;
     const Subscription subscription =
         shortcuts_.onRecorderActiveStatusDidChange([&](bool isActive) { told.push_back(isActive); });

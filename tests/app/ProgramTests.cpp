@@ -33,7 +33,7 @@ class Program : public testing::Test {
     }
     void TearDown() override { std::filesystem::remove_all(directory_); }
 
-    /// Runs the program with the arguments and a preferences database of its own; returns the exit status.
+    /// Runs the program with the arguments and a separate preferences database; returns the exit status.
     int run(std::vector<std::string> arguments, const std::string& input = "") {
         std::ostringstream output;
         const int status = runInto(output, std::move(arguments), input);
@@ -60,7 +60,7 @@ class Program : public testing::Test {
         return status;
     }
 
-    /// Whether it failed with the status, nothing on standard output and one line on standard error.
+    /// Whether the program failed with the status, nothing on standard output and one line on standard error.
     testing::AssertionResult failed(int status, int expected) {
         if (status == expected && output_.empty() && error_.starts_with("tovrel: ") &&
             error_.find('\n') == error_.size() - 1) {

@@ -19,7 +19,7 @@ ScannedMenuItem item(std::vector<Text> path, std::vector<ScannedMenuItem> childr
             .element = nullptr};
 }
 
-/// File with Save and Export › PDF, as a toolkit with untitled submenu containers reports it.
+/// File with Save and Export › PDF, in the form of a toolkit with untitled submenu containers.
 std::vector<ScannedMenuItem> fileMenu() {
     ScannedMenuItem container = item({"File", "Export"}, {item({"File", "Export", "PDF"})});
     container.title = "";

@@ -8,7 +8,7 @@
 
 namespace tovrel::samples {
 
-/// A menu command as the command list holds it.
+/// A menu command as it is in the command list.
 inline Command menuCommand(const std::vector<Text>& path, std::optional<Text> shortcut = std::nullopt) {
     return {.id = "menu:org.example.Editor:" + joined(path, "/").utf8(),
             .source = CommandSource::menu,

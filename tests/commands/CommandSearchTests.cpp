@@ -37,7 +37,7 @@ TEST_F(CommandSearchTest, TiersAndTheCutOff) {
     EXPECT_EQ(found("fs", {menuCommand({"File", "Save"})}), (Rows{{"Save", 320}}));
     EXPECT_EQ(found("zx", {menuCommand({"A", "Zaaaaaax"})}), Rows{});      // a span of 8, limit 6
     EXPECT_EQ(found("zx", {menuCommand({"A", "Zaaaax"})}).size(), 1U);     // 6
-    EXPECT_EQ(found("ab", {menuCommand({"O", "AxxxxxxxAB"})}).size(), 1U); // contained all the same
+    EXPECT_EQ(found("ab", {menuCommand({"O", "AxxxxxxxAB"})}).size(), 1U); // but contained
     EXPECT_EQ(found("axb", {menuCommand({"O", "AcxcccccAxcb"})}), Rows{}); // the earliest start counts
 
     Command aliased = menuCommand({"File", "Save"});
@@ -64,7 +64,7 @@ TEST_F(CommandSearchTest, BoostsAddUpAndRank) {
     favorite.rankSignals = {.isFavorite = true, .usageCount = INT64_MAX, .lastUsedAt = PointInTime{0}};
     EXPECT_EQ(found("sa", {often, favorite}), (Rows{{"Sabotage", 780 + 225}, {"Save", 780 + 49}}));
 
-    // A count below zero, which only a damaged history has, can take a match below the cut-off.
+    // A negative count, which only a damaged history has, can lower a match below the cut-off.
     Command damaged = menuCommand({"File", "Saturn"});
     damaged.rankSignals.usageCount = -1000;
     EXPECT_EQ(found("satu", {damaged, menuCommand({"Sa", "Txxxu"})}),
@@ -111,7 +111,7 @@ TEST_F(CommandSearchTest, GraphemeClustersCountAsOneCharacter) {
     EXPECT_EQ(found("किमी", commands).size(), 1U);
     EXPECT_EQ(found("किम", commands), Rows{});
     EXPECT_EQ(found("किमी", {menuCommand({"अ", "किxxxxxमी"})}), Rows{}); // span 7, limit 6
-    // A key whose last character goes on in a longer key matches on its own.
+    // A key whose last character continues in a longer key still matches by itself.
     Command aliased = menuCommand({"अ", "x"});
     aliased.aliases = {"मअक", "मअकिy"};
     EXPECT_EQ(found("मक", {aliased}), (Rows{{"x", 420}}));

@@ -11,7 +11,7 @@
 #include "model/Command.h"
 #include "support/TextServices.h"
 
-/// Search and ranking written down as directly as possible, text by text and with nothing precomputed or
+/// Implements search and ranking as directly as possible, text by text and with nothing precomputed or
 /// skipped. The index must agree with it.
 namespace tovrel::plain {
 

@@ -33,7 +33,7 @@ TEST(SearchKeys, DiacriticsGoFromLatinGreekAndCyrillicOnly) {
     EXPECT_EQ(key("שָׁלוֹם"), key("ש\u05C1\u05B8לו\u05B9ם"));
     EXPECT_NE(key("שָׁלוֹם"), "שלום");
     EXPECT_EQ(key("각"), key("\u1100\u1161\u11A8"));
-    // A mark whose letter's neighbour was dropped composes with what is left.
+    // A mark composes with the letter before it once the character between them is dropped.
     EXPECT_EQ(key("か-\u3099"), "が");
 }
 
@@ -60,7 +60,7 @@ TEST(SearchKeys, OtherScriptsHaveALatinVariantToo) {
               (TextKeys{"editioncoller", std::nullopt}));
     EXPECT_FALSE(searchVariants("Insert", english).byDefault);
     EXPECT_FALSE(TextServices::hasNonLatinScript("Édition › … ½"));
-    // Transliteration leaves these texts unchanged, so they may be passed over as all Latin.
+    // Transliteration does not change these texts, so they may count as all Latin.
     for (const char* text : {"Édition…", "Œuvre ‘x’", "naïve – ½ ²", "ﬁn", "Ｆｉｌｅ"}) {
         EXPECT_EQ(english.transliteratedToLatin(text), text);
     }

@@ -89,7 +89,7 @@ class ForwardingTests(PaletteTestCase):
         self.start_resident()
         for turn in (1, 2):
             self.press(*HOT_KEY)
-            # State 0x5: Control and Shift are held with it.
+            # State 0x5 means that Control and Shift are held.
             self.wait_until(lambda: self._presses(keys, "state 0x5, keycode 33 (keysym 0x50, P)") == turn,
                             "the keystroke to arrive")
             self.wait_until(lambda: not self.keyboard.is_any_key_down(), "the keys to be up")

@@ -14,7 +14,7 @@ from harness.process_tree import descendants, is_alive
 from harness.testing import main
 from harness.waiting import wait_until
 
-# A program that opens a desktop with a hung application in it and then waits to be ended.
+# A program that opens a desktop with a hung application and then waits to be ended.
 HOLDER = """
     import sys
     sys.path.insert(0, {tests!r})

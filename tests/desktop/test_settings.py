@@ -120,7 +120,8 @@ class SettingsTests(PaletteTestCase):
     def test_commands_of_each_kind_are_added_edited_and_deleted(self):
         self.start()
         self.open_settings("Commands")
-        # The kind of a new form is to open something; the other kinds are so many steps to its left and right.
+        # The first form has the kind "open", and each later one keeps the kind; a number is the steps from the kind
+        # before.
         fields = {"shellScript": ("Shell command or script path", -2), "appleScript": ("AppleScript text or .scpt path", 1),
                   "open": ("App, file, folder, or URL", 1), "shortcut": ("Shortcut name or URL", 1)}
         for number, (kind, (payload, steps)) in enumerate(fields.items()):
@@ -173,7 +174,7 @@ class SettingsTests(PaletteTestCase):
                        for geometry in map(self.desktop.windows.geometry, (alert, owner))]
             self.assertAlmostEqual(*middles, delta=30)
         self.desktop.take_picture(PICTURES / "question over the settings.png")
-        # Clicks on what lies behind it do nothing but bring it forward again.
+        # Clicks on controls behind it only bring it forward again.
         left, top, width, height = self.settings.node("History", "page tab").extents
         middle_of_the_tab = left + width // 2, top + height // 2
         self.desktop.windows.click(*middle_of_the_tab)

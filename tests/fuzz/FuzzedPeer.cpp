@@ -27,7 +27,7 @@ class Input {
 
     std::uint64_t number() {
         const std::uint8_t first = byte();
-        if (first < 0xF0) { // small numbers let trees come about
+        if (first < 0xF0) { // small numbers produce trees
             return first % 16;
         }
         std::uint64_t value = 0;
@@ -71,8 +71,7 @@ class Input {
                                           "org.a11y.atspi.Component",
                                           "",
                                           "icon"};
-        const std::size_t first =
-            byte() % 64; // so that letters name words, and inputs can be written by hand
+        const std::size_t first = byte() % 64; // letters then name words, and inputs can be written by hand
         if (first < words.size()) {
             return words.at(first);
         }

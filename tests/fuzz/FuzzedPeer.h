@@ -10,8 +10,8 @@
 namespace tovrel::fuzzing {
 
 /// The only peer of a connection, on a socket of this process: bus and application in one. It answers every
-/// call with a message whose values are made of the input, and whose type is that of a proper answer or
-/// another. The readers are thus tested whole, over real messages, through their public interface.
+/// call with a message whose values are made from the input, of the proper type or another. So the readers
+/// are tested as a whole, with real messages, through their public interface.
 class FuzzedPeer {
   public:
     /// The one peer of the process.
@@ -26,7 +26,7 @@ class FuzzedPeer {
     /// Small limits, so that an input costs little and a lost answer soon shows.
     static MenuReadLimits limits();
 
-    /// Makes all answers from now on of these bytes, starting with the first.
+    /// Makes all further answers from these bytes, starting with the first.
     void answerWith(const std::uint8_t* data, std::size_t size);
 
   private:

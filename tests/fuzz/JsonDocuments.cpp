@@ -1,5 +1,5 @@
-// Reads a document of any content under the keys of all stores: reading it does no harm, and a change leaves
-// a document that reads as it was written.
+// Reads a document of any content under the keys of all stores. Reading it must do no harm, and a change must
+// leave a document that reads back as written.
 
 #include <sstream>
 #include <string>
@@ -20,7 +20,7 @@ namespace {
 using namespace tovrel;
 using fuzzing::require;
 
-/// A search finds the command, whatever counts the history holds.
+/// A search finds the command, whatever counts the history has.
 void trySearch(CommandHistoryStore& history, const TextServices& text) {
     ScannedMenuItem save;
     save.title = "Save";

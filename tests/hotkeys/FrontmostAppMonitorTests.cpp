@@ -49,7 +49,8 @@ TEST_F(FrontmostAppMonitorTest, StopsWatchingWithItsEnd) {
         FrontmostAppMonitor monitor(workspace_, {std::nullopt});
         monitor.start();
     }
-    workspace_.bringToFront(editor_); // under the sanitizers, a call into what is gone would end the test
+    // Under the sanitizers, a call into a destroyed object would end the test.
+    workspace_.bringToFront(editor_);
     EXPECT_EQ(editor_.use_count(), 2) << "held by this test and the workspace alone";
 }
 

@@ -53,7 +53,7 @@ TEST_F(HotKeyManagerTest, ForwardingGivesTheKeyBackPostsItAndTakesItAgain) {
     manager_->handleKeyDown();
     manager_->forwardToggleShortcut();
     EXPECT_EQ(center_.registrations(standard), 0U);
-    manager_->forwardToggleShortcut(); // one is under way
+    manager_->forwardToggleShortcut(); // a forwarding is under way
     queue_.advance(49ms);
     EXPECT_EQ(poster_.presses(), Presses{});
     queue_.advance(1ms);

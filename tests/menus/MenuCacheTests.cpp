@@ -46,7 +46,7 @@ TEST(MenuCache, EntriesOfEndedApplicationsAreDropped) {
     EXPECT_EQ(editor.use_count(), 1);
     EXPECT_FALSE(cache.cachedItems({"X", 100}, 0s));
 
-    // The end of an application cannot be told when it seemed to have ended while its menus were read.
+    // The end of an application cannot be detected if it seemed to have ended while its menus were read.
     cache.store(editor, oneItem, 0s);
     EXPECT_TRUE(cache.cachedItems({"X", 100}, 0s));
 }

@@ -22,7 +22,7 @@ TEST(MenuTitle, EndsAfterTheLastWholeCharacterThatFits) {
     EXPECT_EQ(menuTitle(std::string(1023, 'x') + " y").view(), std::string(1023, 'x'));
     EXPECT_TRUE(menuTitle(std::string(70'000, ' ') + "x").empty());
 
-    // A user takes each for one character: a family of 25 bytes, a flag, a letter with its accent.
+    // Users perceive each of these as one character: a family of 25 bytes, a flag, a letter with its accent.
     const std::string family = "👨‍👩‍👧‍👦";
     ASSERT_EQ(family.size(), 25U);
     EXPECT_EQ(menuTitle(repeated(family, 50)).view(), repeated(family, 40));

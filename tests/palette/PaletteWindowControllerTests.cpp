@@ -95,7 +95,7 @@ TEST_F(PaletteWindowControllerTest, EveryWayOfTurningToSomethingElseClosesThePal
         way();
         EXPECT_FALSE(panel_->isVisible());
         EXPECT_FALSE(panel_->hasKeyHandler());
-        panel_->resignKey(); // as the window system tells once more after closing
+        panel_->resignKey(); // the window system reports this again after closing
         controller_.close();
     }
     EXPECT_EQ(panel_->showings(), static_cast<int>(ways.size()));
@@ -111,7 +111,7 @@ TEST_F(PaletteWindowControllerTest, ThePanelIsCentredAboveTheMiddleOfTheMainScre
         return panel_->placement().offset;
     };
     EXPECT_EQ(offsetOn({"left", {1280, 700}}), (Point{300, 200}));
-    // Where there is less room, what matters most stays in sight: the search field at the top.
+    // With less room, the search field at the top stays visible.
     EXPECT_EQ(offsetOn({"low", {960, 540}}), (Point{(960 - 680) / 2.0, 540 - 460}));
     EXPECT_EQ(offsetOn({"small", {400, 300}}), (Point{0, 300 - 460}));
 }

@@ -27,7 +27,7 @@ TEST(QtKeyEventsTest, CharactersAreThoseOfTheKeyAndShift) {
         {converted(Qt::Key_Odiaeresis, {}, XKB_KEY_odiaeresis), "ö"},
         {converted(Qt::Key_1, Qt::KeypadModifier, XKB_KEY_KP_1), "1"},
         {converted(Qt::Key_Space, Qt::ShiftModifier, XKB_KEY_space), " "},
-        // A Russian layout: the letter itself when it is typed, the Latin one of the key in shortcuts.
+        // A Russian layout gives the letter itself in typing, and the key's Latin letter in shortcuts.
         {converted(0x042B, {}, XKB_KEY_Cyrillic_yeru), "ы"},
         {converted(Qt::Key_S, Qt::ControlModifier, XKB_KEY_Cyrillic_yeru), "s"},
         {converted(0x042B, Qt::ControlModifier, XKB_KEY_Cyrillic_yeru), "ы"},
@@ -37,7 +37,7 @@ TEST(QtKeyEventsTest, CharactersAreThoseOfTheKeyAndShift) {
         {converted(Qt::Key_Delete, {}, XKB_KEY_Delete), std::nullopt},
         {converted(Qt::Key_Left, Qt::ShiftModifier, XKB_KEY_Left), std::nullopt},
         {converted(Qt::Key_Return, {}, XKB_KEY_Return), std::nullopt},
-        // Without a native key, as from other window systems.
+        // Other window systems give no native key.
         {converted(Qt::Key_V, Qt::ControlModifier), "v"},
         {converted(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier), "V"},
         {converted(Qt::Key_Comma, Qt::ControlModifier), ","},

@@ -94,7 +94,7 @@ TEST_F(CommandHistory, ADocumentWithOneBadElementReadsAsEmptyAndIsReplacedByTheN
     for (const char* bad : {"", "not JSON", "[]", "null", "\"A\"", "{} {}"}) {
         putDocument(bad);
         EXPECT_THAT(store.entries(), IsEmpty()) << bad;
-        EXPECT_EQ(document(), bad); // left as it is until something is written
+        EXPECT_EQ(document(), bad); // unchanged until something is written
     }
     store.recordUse("B", {5});
     EXPECT_EQ(document(), R"({"B":{"isFavorite":false,"lastUsedAt":5,"usageCount":1}})");
@@ -159,7 +159,7 @@ TEST_F(CommandHistory, IsReadOncePerChangeAndNeverStale) {
 
 TEST_F(CommandHistory, ADocumentThatCouldNotBeReadIsReadAgain) {
     struct : FailingPreferencesDomain {
-        // The lock comes after the look at the revision. NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        // The lock comes after the revision is read. NOLINTNEXTLINE(bugprone-parent-virtual-call)
         [[nodiscard]] std::uint64_t revision() override { return MemoryPreferencesDomain::revision(); }
     } locked;
     CommandHistoryStore here(locked, storageKey, text);

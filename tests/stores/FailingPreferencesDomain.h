@@ -6,8 +6,8 @@
 
 namespace tovrel {
 
-/// A domain in memory that counts reads, and that can refuse reads, as a lock does, and writes, as a full
-/// disk does.
+/// A domain in memory that counts reads. It can refuse reads, as a lock does, and writes, as a full disk
+/// does.
 class FailingPreferencesDomain : public MemoryPreferencesDomain {
   public:
     std::optional<PreferenceValue> value(const std::string& key) override {
@@ -31,7 +31,7 @@ class FailingPreferencesDomain : public MemoryPreferencesDomain {
         }
         return MemoryPreferencesDomain::all();
     }
-    /// A store that cannot be looked at may have changed.
+    /// Changes while reads are refused, because a store that cannot be read may have changed.
     [[nodiscard]] std::uint64_t revision() override {
         return refusesReads ? unknownRevision_-- : MemoryPreferencesDomain::revision();
     }

@@ -128,7 +128,7 @@ TEST_F(Rules, AliasesAreNormalisedAndKeptOncePerScopeAndPath) {
     store.setMenuCommandAliases(std::nullopt, path, {});
     EXPECT_THAT(store.menuCommandAliasRules(), ElementsAre(ofFile));
 
-    // Scope and path compare by canonical equivalence, lower-casing knows every script.
+    // Scope and path compare by canonical equivalence; lower-casing works for every script.
     store.setMenuCommandAliases("org.e\u0301", {"E\u0301dition"},
                                 {"\u0401\u0416", "\u0451\u0436", "e\u0301", "\u00c9"});
     EXPECT_THAT(store.menuCommandAliasRules().back().aliases, ElementsAre("\u0401\u0416", "e\u0301"));

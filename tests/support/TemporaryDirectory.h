@@ -7,7 +7,7 @@
 
 namespace tovrel::testing_support {
 
-/// A directory of a test's own, removed with everything in it.
+/// A test's own directory, which is removed with everything in it.
 class TemporaryDirectory {
   public:
     TemporaryDirectory() {

@@ -20,7 +20,7 @@ TEST(Text, EqualityOrderAndHashFollowCanonicalEquivalence) {
     EXPECT_EQ(precomposed.hash(), decomposed.hash());
     EXPECT_TRUE((std::unordered_set<Text>{precomposed}.contains(decomposed)));
 
-    // Marks of different classes commute; a singleton equals what it decomposes to; Hangul composes.
+    // Marks of different classes commute; a singleton equals its decomposition; Hangul composes.
     EXPECT_EQ(Text("q\u0307\u0323"), Text("q\u0323\u0307"));
     EXPECT_EQ(Text("\u212B"), Text("\u00C5"));
     EXPECT_EQ(Text("\uAC01"), Text("\u1100\u1161\u11A8"));
@@ -46,7 +46,7 @@ TEST(Text, KeepsItsBytesAndRepairsIllFormedOnes) {
 
 TEST(TextServices, TitlesAreOrderedForPeopleInEveryLocale) {
     const icu::Locale before = icu::Locale::getDefault();
-    for (const char* environment : {"en_US_POSIX", "de_DE"}) { // what ICU makes of LC_ALL=C, and a real one
+    for (const char* environment : {"en_US_POSIX", "de_DE"}) { // ICU's locale for LC_ALL=C, and a real one
         UErrorCode status = U_ZERO_ERROR;
         icu::Locale::setDefault(icu::Locale(environment), status);
         for (const char* identifier : {"", "C", "POSIX", "C.UTF-8", "C.utf8", "en_US_POSIX", "xx", "en_US"}) {

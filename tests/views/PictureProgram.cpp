@@ -10,7 +10,7 @@
 namespace tovrel {
 namespace {
 
-/// Qt reads it when the application object is made.
+/// Qt reads this variable when the application object is made.
 constexpr const char* scaleVariable = "QT_SCALE_FACTOR";
 
 } // namespace

@@ -19,7 +19,7 @@ namespace {
 
 class QtUserInterfaceTest : public testing::Test {
   protected:
-    /// Shows an alert, does something to its window once it can be used, and returns the answer.
+    /// Shows an alert, acts on its window once it can be used, and returns the answer.
     AlertAnswer answerAfter(const std::function<void(QQuickView&)>& act) {
         QTimer::singleShot(0, [&] {
             const auto windows = QGuiApplication::topLevelWindows();

@@ -18,15 +18,15 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Preferences that cannot be stored are tried again so much later.
+/// The time after which preferences that could not be stored are tried again.
 constexpr auto beforeNextAttempt = 5s;
 
-/// What the application needs to be in front again before its menu item is pressed.
+/// The time that the application needs to come to the front again before its menu item is pressed.
 constexpr auto beforePress = 200ms;
 
 constexpr Shortcut defaultToggleShortcut{key_codes::p, carbon_modifiers::command | carbon_modifiers::shift};
 
-/// The kind as the question before running such a command names it; absent when none is asked.
+/// The kind's name in the question before such a command runs; absent when no question is asked.
 std::optional<Text> confirmationLabel(CustomCommandKind kind) {
     switch (kind) {
     case CustomCommandKind::shellScript:
@@ -89,7 +89,7 @@ void AppCoordinator::start() {
 
 void AppCoordinator::warmUp() {
     paletteWindowController();
-    // Of each script the rules are loaded at its first use.
+    // The transliteration rules of each script are loaded at its first use.
     for (const char* sample : {"Ж", "あ", "ア", "漢", "한", "α", "א", "ع"}) {
         static_cast<void>(platform_.textServices.transliteratedToLatin(sample));
     }
@@ -172,7 +172,7 @@ void AppCoordinator::forwardToggleShortcut() {
         hotKeyManager_->forwardToggleShortcut();
         return;
     }
-    // The palette stays closed, for the user wants none here; but nobody should press a key in vain unawares.
+    // The palette stays closed, because the user wants none here; the beep says that the key has no effect.
     platform_.userInterface.beep();
     const std::shared_ptr<RunningApplication> target = frontmostAppMonitor_.resolveTargetApplication();
     const std::optional<Text> bundleID = target ? target->bundleIdentifier() : std::nullopt;
@@ -234,7 +234,7 @@ AppCoordinator::menuItems(const std::shared_ptr<RunningApplication>& application
 
 void AppCoordinator::executeCustom(const Command& command, const CustomCommand& custom) {
     if (confirmCustomCommand(custom)) {
-        // The history counts that it was used, not that it succeeded.
+        // The history counts uses, not successes.
         commandExecutor_.execute(
             custom, [weak = weak_from_this(), title = custom.title](const CommandExecutionResult& result) {
                 if (const auto coordinator = weak.lock()) {
@@ -260,7 +260,7 @@ void AppCoordinator::executeMenu(const Command& command, const MenuAction& actio
         paletteWindowController().close();
         return;
     }
-    const ScannedMenuItem item = *found; // the tree may be another one by the time of the press
+    const ScannedMenuItem item = *found; // the tree may have been replaced when the press comes
     paletteWindowController().close();
     if (currentApplication_) {
         platform_.workspace.activate(*currentApplication_);
@@ -360,7 +360,7 @@ void AppCoordinator::showSettings() {
     }
     platform_.shortcuts.retryRefused();
     const std::shared_ptr<RunningApplication> target = frontmostAppMonitor_.resolveTargetApplication();
-    // What the settings see of the application is what it is now.
+    // The settings see the application as it is now.
     auto model = std::make_shared<SettingsViewModel>(
         SettingsStores{rulesStore_, commandHistoryStore_, customCommandStore_, paletteSettingsStore_,
                        notificationSettingsStore_, platform_.preferences.unstoredChange()},

@@ -41,7 +41,7 @@
 
 namespace tovrel {
 
-/// The platform as the program sees it. Everything outlives the coordinator and the queue's tasks.
+/// The platform as the program sees it. Every member outlives the coordinator and the queue's tasks.
 struct Platform {
     Accessibility& accessibility;
     Workspace& workspace;
@@ -67,50 +67,51 @@ struct Platform {
 /// Owns every store and service, prepares the palette for the application in front when the global shortcut
 /// fires, and runs the command that the user picks.
 class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
-    /// Only `make` has one.
+    /// Lets only `make` call the constructor.
     class Key {
         friend AppCoordinator;
         Key() = default;
     };
 
   public:
-    /// Shared, for callbacks hold it weakly.
+    /// Returns a shared coordinator, because callbacks hold it weakly.
     [[nodiscard]] static std::shared_ptr<AppCoordinator> make(Platform platform);
     AppCoordinator(Key key, Platform platform);
     ~AppCoordinator() = default;
     AppCoordinator(const AppCoordinator&) = delete;
     AppCoordinator& operator=(const AppCoordinator&) = delete;
 
-    /// Status item, watch over the front application, global shortcut, onboarding. Called once.
+    /// Starts the status item, the monitor of the front application, the global shortcut and the onboarding.
+    /// Called once.
     void start();
 
-    /// Does ahead of time what the first use would wait for.
+    /// Does work ahead that the first use would otherwise wait for.
     void warmUp();
 
-    /// Opens the palette for the application in front, closes it when it is already open for that, or lets
-    /// the application have the shortcut.
+    /// Opens the palette for the application in front, closes the palette when it is already open for that
+    /// application, or forwards the shortcut to the application.
     void handleTogglePalette();
 
     /// Opens the palette unless it is open.
     void showPalette();
 
-    /// Opens the settings, or brings them forward, for the application in front as it is now.
+    /// Opens the settings for the application in front, or brings them forward.
     void showSettings();
 
-    /// Takes the target and its menus anew; the commands to offer for it.
+    /// Determines the target and its menus again, and returns the commands to offer for it.
     std::vector<Command> refreshCommands();
 
     /// Runs a chosen command and closes the palette. A menu item is pressed 200 ms later, when its
-    /// application is in front again; a custom command is confirmed first, unless it only opens something,
-    /// and then goes on by itself: any number may run at once, and this program's end is not theirs. One that
-    /// fails is told by a notification, unless the user wants none.
+    /// application is in front again. A custom command is confirmed first, unless it only opens something,
+    /// and then runs independently: any number may run at once, and they outlive this program. A notification
+    /// reports a failed one, unless the user wants none.
     void execute(const Command& command);
 
     [[nodiscard]] bool isPaletteVisible() const {
         return paletteWindowController_ && paletteWindowController_->isVisible();
     }
 
-    /// The application the palette was last prepared for; null when there was none.
+    /// The application for which the palette was last prepared; null when there was none.
     [[nodiscard]] const std::shared_ptr<RunningApplication>& currentApplication() const {
         return currentApplication_;
     }
@@ -122,8 +123,8 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
         return platform_.shortcuts.getShortcut(togglePalette_);
     }
 
-    /// What the user presses for the palette: the desktop's words where it has its own, else the global
-    /// shortcut spelled out. Empty when the user has none.
+    /// What the user presses for the palette: the desktop's own words if it has any, else the global shortcut
+    /// spelled out. Empty without a global shortcut.
     [[nodiscard]] Text toggleShortcutForPeople() const;
 
     /// Why the last change of the preferences could not be stored; absent when it could.
@@ -136,7 +137,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
         return platform_.shortcuts.refusal(togglePalette_);
     }
 
-    /// By which the global shortcut is known.
+    /// The name of the global shortcut.
     [[nodiscard]] const KeyboardShortcuts::Name& togglePalette() const { return togglePalette_; }
 
   private:
@@ -160,7 +161,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     [[nodiscard]] bool confirmCustomCommand(const CustomCommand& command);
     void addStatusItem();
     void addShortcutNotice();
-    /// Whether a question of ours waits for its answer. It comes forward, and nothing else is to be opened.
+    /// Whether a question of ours waits for its answer. If so, brings it forward; nothing else may be opened.
     [[nodiscard]] bool isAsking();
     [[nodiscard]] StatusMenuItem statusMenuItem(Text title, std::optional<Text> keyEquivalent, Text symbol,
                                                 void (AppCoordinator::*action)());
@@ -186,7 +187,7 @@ class AppCoordinator : public std::enable_shared_from_this<AppCoordinator> {
     NotificationSettingsStore notificationSettingsStore_;
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<ShortcutNotice> shortcutNotice_;
-    std::set<Text> toldOfLostShortcut_; ///< Applications of which the user knows that they do not get it.
+    std::set<Text> toldOfLostShortcut_; ///< Applications whose lost shortcut the user has been told about.
     std::shared_ptr<RunningApplication> currentApplication_;
     std::vector<ScannedMenuItem> currentMenuItems_;
     std::unique_ptr<PaletteWindowController> paletteWindowController_;

@@ -8,7 +8,7 @@
 
 namespace tovrel {
 
-/// How a custom command went wrong, as a sentence; absent when it did not.
+/// A sentence that says how a custom command failed; absent when it succeeded.
 [[nodiscard]] std::optional<Text> commandFailureForPeople(const CommandExecutionResult& result,
                                                           const LocalizedString& localized);
 

@@ -8,7 +8,7 @@
 
 namespace tovrel {
 
-/// A global shortcut spelled with the names that keys have on this desktop's keyboards: "Ctrl+Shift+P".
+/// A global shortcut spelled with the key names of this desktop's keyboards: "Ctrl+Shift+P".
 [[nodiscard]] Text shortcutForPeople(const Shortcut& shortcut, const CharacterForKeyCode& characterForKeyCode,
                                      const TextServices& textServices, const LocalizedString& localized);
 

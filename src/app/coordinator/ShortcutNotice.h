@@ -11,8 +11,8 @@
 
 namespace tovrel {
 
-/// Tells the user, who would else press it in vain, that the global shortcut does not work: by the status
-/// item's tool tip as long as that lasts, and by one notification.
+/// Tells the user that the global shortcut does not work: by the status item's tool tip while that lasts, and
+/// by one notification.
 class ShortcutNotice {
   public:
     struct Surroundings {
@@ -23,7 +23,8 @@ class ShortcutNotice {
         std::function<void(const Text&)> setToolTip;
     };
 
-    /// Everything referred to outlives it. What is the case already is told at once.
+    /// Everything that `surroundings` refers to outlives the notice. A shortcut that does not work already is
+    /// reported at once.
     ShortcutNotice(Surroundings surroundings, KeyboardShortcuts::Name name);
     ~ShortcutNotice() = default;
     ShortcutNotice(const ShortcutNotice&) = delete;
@@ -34,7 +35,7 @@ class ShortcutNotice {
 
     Surroundings surroundings_;
     KeyboardShortcuts::Name name_;
-    std::optional<Shortcut> notified_; ///< The last that was; it is not told of again.
+    std::optional<Shortcut> notified_; ///< The last reported one; it is not reported again.
     Subscription availability_;
     Subscription change_;
 };

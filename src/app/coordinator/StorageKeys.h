@@ -4,7 +4,7 @@
 namespace tovrel::storage_keys {
 inline constexpr const char* commandHistory = "Tovrel.commandHistory";
 inline constexpr const char* customCommands = "customCommands";
-inline constexpr const char* paletteSettings = "paletteSettings"; ///< A prefix.
+inline constexpr const char* paletteSettings = "paletteSettings"; ///< A prefix of keys.
 inline constexpr const char* accessibilityOnboardingShown =
     "firstLaunchOnboarding.accessibilityOnboardingShown";
 inline constexpr const char* commandFailureNotifications = "notifications.commandFailures";

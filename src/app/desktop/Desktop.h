@@ -23,58 +23,58 @@
 
 namespace tovrel {
 
-/// How the last read of an application's menus fell short.
+/// Says what was missing in the last read of an application's menus.
 struct MenuReadShortfall {
     std::string reason;      ///< A clause without a full stop: "mousepad did not answer within 0.3 s".
-    bool wasCutShort = true; ///< What was read is a part only; false when there was nothing to read.
+    bool wasCutShort = true; ///< A part of the menus was read; false when nothing was.
 };
 
-/// Whether applications publish what they show, as far as that is the user's to switch.
+/// The user's switch for whether applications publish their user interfaces.
 struct AccessibilitySwitch {
     std::function<bool()> isEnabled;
-    /// Whether it is switched so now.
+    /// Switches it; returns whether it is switched that way now.
     std::function<bool(bool)> setEnabled;
-    /// The names of the applications that take no notice of the switch until they are started anew.
+    /// The names of the applications that do not notice the switch until they are restarted.
     std::function<std::vector<Text>()> applicationsToRestart;
 };
 
-/// The connection to the display that the user interface's toolkit itself has.
+/// The toolkit's own connection to the display.
 struct ToolkitConnection {
     enum class Kind { unknown, x11 };
 
     Kind kind = Kind::unknown;
-    void* handle = nullptr; ///< Of x11, an xcb_connection_t; null of an unknown kind. It outlives its users.
+    void* handle = nullptr; ///< An xcb_connection_t for x11; null for an unknown kind. It outlives its users.
 };
 
-/// What the main loop watches.
+/// An event source for the main loop to watch.
 struct WatchedEvents {
     EventSource* source = nullptr;
-    /// Dispatched before `source` each time: what came from there must not be taken for something later than
-    /// what comes from here. May be null.
+    /// Dispatched before `source` each time, because its waiting events must count as older than those of
+    /// `source`. May be null.
     EventSource* earlier = nullptr;
 };
 
-/// What the resident program has of a desktop besides what the command line has. Of the members, each may
-/// need those before it. All are to go before the desktop.
+/// The parts of a desktop that only the resident program needs. Each member may need those before it. All
+/// must be destroyed before the desktop.
 struct ResidentSeams {
     std::unique_ptr<HotKeyCenter> hotKeys;
     std::unique_ptr<KeyEventPoster> keyPoster;
-    std::unique_ptr<WindowSystem> windowSystem; ///< Null where the toolkit's own means are all there is.
+    std::unique_ptr<WindowSystem> windowSystem; ///< Null where only the toolkit's own means exist.
     std::unique_ptr<ProcessRunner> processRunner;
-    std::vector<WatchedEvents> events; ///< Nothing of the above is told unless they are watched.
+    std::vector<WatchedEvents> events; ///< The members above report nothing unless these are watched.
 };
 
-/// The desktop that this program runs on, of whichever system and display. Nothing is connected to before it
-/// is needed, but for the display.
+/// The desktop that this program runs on, whatever the system and the display. Only the display is connected
+/// at once; other connections are made when they are needed.
 class Desktop {
   public:
     virtual ~Desktop() = default;
 
-    /// What kind it is, for people who look for a fault: "X11".
+    /// The kind of desktop, for people who look for a fault: "X11".
     [[nodiscard]] virtual std::string_view name() const = 0;
 
-    /// Why neither windows of others can be seen nor own ones be shown, as the start of a sentence: "there is
-    /// no X display". Absent where they can. Menus may be read nevertheless.
+    /// Why other programs' windows cannot be seen and own ones cannot be shown, as the start of a sentence:
+    /// "there is no X display". Absent where both work. Menus may be readable nevertheless.
     [[nodiscard]] virtual std::optional<std::string> displayProblem() const = 0;
 
     [[nodiscard]] virtual WindowList& windows() = 0;
@@ -88,18 +88,19 @@ class Desktop {
     [[nodiscard]] virtual std::vector<std::shared_ptr<RunningApplication>>
     applicationsWithIdentifier(const Text& bundleIdentifier) = 0;
 
-    /// What was missing in the last read of menus, which were this application's; absent when nothing was, or
-    /// none were read yet.
+    /// What was missing in the last read of menus, which must have been this application's; absent when
+    /// nothing was missing or nothing was read yet.
     [[nodiscard]] virtual std::optional<MenuReadShortfall>
     menuShortfall(const RunningApplication& application) = 0;
 
     [[nodiscard]] virtual AccessibilitySwitch accessibilitySwitch() = 0;
 
-    /// The virtual key code of a key by the number that the toolkit reports for it; absent for one without.
+    /// The virtual key code of the key for which the toolkit reports this number; absent for a key without
+    /// one.
     [[nodiscard]] virtual std::optional<std::uint32_t> keyCode(std::uint32_t nativeScanCode) const = 0;
 
-    /// `queue` outlives what is made. `keyDestination` is asked at each press of a hot key, before it is
-    /// reported and after.
+    /// `queue` must outlive the result. `keyDestination` is called at each press of a hot key, before and
+    /// after the press is reported.
     [[nodiscard]] virtual ResidentSeams makeResidentSeams(MainQueue& queue,
                                                           std::function<KeyDestination()> keyDestination,
                                                           const ToolkitConnection& toolkit) = 0;

@@ -10,7 +10,7 @@
 
 namespace tovrel {
 
-/// A Linux desktop on whichever display: desktop entries, processes, and menus over the buses.
+/// A Linux desktop on any display: desktop entries, processes, and menus over the buses.
 class LinuxDesktop final : public Desktop {
   public:
     explicit LinuxDesktop(std::unique_ptr<LinuxDisplay> display);

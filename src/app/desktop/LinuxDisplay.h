@@ -10,8 +10,7 @@
 
 namespace tovrel {
 
-/// What a display gives to a Linux desktop; the rest is the same on all of them. What a member of the same
-/// name means stands in Desktop.h.
+/// The parts of a Linux desktop that depend on the display. Desktop.h documents members of the same name.
 class LinuxDisplay {
   public:
     virtual ~LinuxDisplay() = default;
@@ -22,11 +21,11 @@ class LinuxDisplay {
     /// Never null.
     [[nodiscard]] virtual std::shared_ptr<WindowList> windows() = 0;
 
-    /// The accessibility bus's address as the display carries it; absent where it carries none. May be asked
-    /// as long as the window list is there.
+    /// Returns the accessibility bus's address that the display publishes; absent where it publishes none.
+    /// May be called as long as the window list exists.
     [[nodiscard]] virtual std::function<std::optional<std::string>()> accessibilityBusAddress() = 0;
 
-    /// All of them but the process runner, in which a display has no part.
+    /// Makes all seams except the process runner, which does not depend on the display.
     [[nodiscard]] virtual ResidentSeams makeResidentSeams(MainQueue& queue,
                                                           std::function<KeyDestination()> keyDestination,
                                                           const ToolkitConnection& toolkit) = 0;

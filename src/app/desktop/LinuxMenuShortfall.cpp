@@ -21,7 +21,7 @@ std::string inSeconds(std::chrono::milliseconds time) {
     return text.str();
 }
 
-/// Why an application gives no menus, and what its user can do, as the end of a sentence about it.
+/// The end of a sentence: says why the application gives no menus, and what the user can do.
 std::string adviceOn(MenuObstacle obstacle, bool isRegistered, bool isEnabled) {
     switch (obstacle) {
     case MenuObstacle::switchedOff:

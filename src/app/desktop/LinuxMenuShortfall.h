@@ -7,8 +7,8 @@
 
 namespace tovrel {
 
-/// What a report means for the user, and what the user can do. `isEnabled`: toolkits are told to publish what
-/// they show. Absent when everything was read.
+/// Says what a report means for the user, and what the user can do; absent when everything was read.
+/// `isEnabled` tells whether toolkits are asked to publish their user interfaces.
 std::optional<MenuReadShortfall> linuxMenuShortfall(const MenuReadReport& report,
                                                     const RunningApplication& application, bool isEnabled);
 

@@ -7,11 +7,12 @@
 
 namespace tovrel {
 
-/// The desktop that this process finds in its environment. This alone chooses a system and a display. Null on
-/// a system whose applications cannot be reached yet; on others there is a desktop even without a display.
+/// Opens the desktop that this process finds in its environment. Only this function chooses a system and a
+/// display. Null on a system whose applications cannot be reached yet; other systems have a desktop even
+/// without a display.
 [[nodiscard]] std::shared_ptr<Desktop> openDesktop();
 
-/// Where this system's programs keep what the user sets, in a folder each.
+/// The directory in which this system's programs keep their settings, each in a folder of its own.
 [[nodiscard]] std::filesystem::path configurationDirectory();
 
 } // namespace tovrel

@@ -9,10 +9,10 @@
 
 namespace tovrel {
 
-/// The X display that $DISPLAY names, or its absence: then there are no windows and no hot keys.
+/// The X display that $DISPLAY names. Without such a display there are no windows and no hot keys.
 class X11Display final : public LinuxDisplay {
   public:
-    /// `absence` is the problem where there is no such display.
+    /// `absence` is the `problem` to report where there is no such display.
     explicit X11Display(std::string absence) : absence_(std::move(absence)) {}
 
     [[nodiscard]] std::string_view name() const override { return "X11"; }
@@ -20,8 +20,8 @@ class X11Display final : public LinuxDisplay {
     [[nodiscard]] std::shared_ptr<WindowList> windows() override { return windows_; }
     [[nodiscard]] std::function<std::optional<std::string>()> accessibilityBusAddress() override;
 
-    /// Each has a connection of its own, but for the window system. Activations are told before hot keys: the
-    /// one that brought the user back to an application is older than the hot key pressed there.
+    /// Each seam has a connection of its own, except the window system. Activations are dispatched before hot
+    /// keys, because the user presses a hot key after the activation that brought the application back.
     [[nodiscard]] ResidentSeams makeResidentSeams(MainQueue& queue,
                                                   std::function<KeyDestination()> keyDestination,
                                                   const ToolkitConnection& toolkit) override;

@@ -7,10 +7,10 @@
 namespace tovrel {
 namespace {
 
-/// So many applications are named; of the rest only the number is told.
+/// The most applications that are named; the rest are only counted.
 constexpr std::size_t longestList = 5;
 
-/// "These must be restarted …", with a space before; empty when nothing must be.
+/// The sentence "These must be restarted …" after a space; empty when nothing must be restarted.
 Text toBeRestarted(const std::vector<Text>& names, const LocalizedString& localized) {
     if (names.empty()) {
         return {};

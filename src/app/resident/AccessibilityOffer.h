@@ -9,11 +9,11 @@
 
 namespace tovrel {
 
-/// What stands on this desktop for the system's privacy settings: asks whether toolkits shall publish their
-/// menus, says what that changes and which applications must be restarted to take notice, and can undo it.
+/// This desktop's counterpart of the system's privacy settings. Asks whether toolkits shall publish their
+/// menus, says what that changes and which applications must be restarted to notice, and can undo it.
 class AccessibilityOffer {
   public:
-    /// The address that opens it, as a custom command or the settings have it.
+    /// The address that opens the offer, used by custom commands and the settings.
     static constexpr std::string_view address =
         "x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility";
 

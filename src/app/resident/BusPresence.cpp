@@ -15,13 +15,13 @@ using std::chrono_literals::operator""ms;
 using std::chrono_literals::operator""s;
 
 constexpr auto patienceAtStart = 5s;
-/// Nothing else of the program goes on meanwhile.
+/// The main thread is blocked meanwhile.
 constexpr auto patienceLater = 100ms;
 constexpr auto firstRetry = 250ms;
-/// A session without its bus has other troubles than a wake-up now and then.
+/// A session without its bus can bear a wake-up now and then.
 constexpr auto longestRetry = 8s;
 
-/// Qt waits for a bus that does not answer as long as it takes.
+/// Qt itself would wait without limit for a bus that does not answer.
 bool isBusAnswering(std::chrono::milliseconds patience) {
     auto bus = DBusConnection::openSessionBus();
     return bus && bus->call(bus->busCall("GetId"), std::chrono::steady_clock::now() + patience);

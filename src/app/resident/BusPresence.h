@@ -7,15 +7,16 @@
 
 namespace tovrel {
 
-/// Has an object on the session bus under the program's name, and again after the bus has gone and come back
-/// at its address: the connection that Qt shares stays lost for good, so this one is made anew each time.
+/// Offers an object on the session bus under the program's name, and offers it again after the bus has gone
+/// and come back at its address. The connection that Qt shares stays lost then, so this class makes a new one
+/// each time.
 class BusPresence : public QObject {
     Q_OBJECT
 
   public:
     enum class Outcome {
         hasName,
-        waitsForName, ///< Another process has it; it comes here when that one ends.
+        waitsForName, ///< Another process has the name; this one gets it when that process ends.
         noBus,
     };
 
@@ -25,7 +26,7 @@ class BusPresence : public QObject {
     BusPresence(const BusPresence&) = delete;
     BusPresence& operator=(const BusPresence&) = delete;
 
-    /// Of the connection, for others who speak to the bus (QDBusConnection).
+    /// The connection's name (see QDBusConnection), for other code that uses the bus.
     [[nodiscard]] static QString connectionName();
 
     /// Offers the object and then asks for the name. Waits up to 5 s for a bus that does not answer.

@@ -9,8 +9,8 @@
 
 namespace tovrel {
 
-/// What other programs may ask of the resident one, over D-Bus. Nothing here runs a command: it can
-/// only show the palette and the settings, where the user chooses.
+/// The D-Bus service of the resident program. It runs no command: it can only show the palette and the
+/// settings, where the user chooses.
 class DBusService : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.tovrel.Tovrel")
@@ -25,7 +25,7 @@ class DBusService : public QObject {
     Q_PROPERTY(QString UnstoredChange READ unstoredChange)
 
   public:
-    /// What people read of the shortcut; each may be empty.
+    /// Texts about the shortcut for people; each may be empty.
     struct ShortcutTexts {
         std::function<Text()> shortcut;
         std::function<Text()> problem; ///< Why it does not work.
@@ -44,7 +44,7 @@ class DBusService : public QObject {
     [[nodiscard]] QString display() const;
     [[nodiscard]] QString unstoredChange() const;
 
-    // Named as methods are on the bus. NOLINTBEGIN(readability-identifier-naming)
+    // Methods on the bus have such names. NOLINTBEGIN(readability-identifier-naming)
   public Q_SLOTS:
     void Toggle();
     void Show();

@@ -9,8 +9,8 @@
 
 namespace tovrel {
 
-/// Turns SIGINT, SIGTERM and SIGHUP into a call on the main thread. Made before any other thread starts,
-/// which would get the signals otherwise; when it ends, the signals do again what they did before.
+/// Turns SIGINT, SIGTERM and SIGHUP into a call on the main thread. Must be made before any other thread
+/// starts, because that thread would get the signals. The destructor restores the signals' former effect.
 class EndSignals {
   public:
     EndSignals();
@@ -18,7 +18,7 @@ class EndSignals {
     EndSignals(const EndSignals&) = delete;
     EndSignals& operator=(const EndSignals&) = delete;
 
-    /// `handler` is called by the main loop for each such signal, those before this call included.
+    /// Sets the handler, which the main loop calls for each such signal, including signals before this call.
     void onSignal(std::function<void()> handler);
 
   private:

@@ -8,8 +8,8 @@
 
 namespace tovrel {
 
-/// Has the main loop dispatch a source's events: when its descriptor becomes readable, and before the loop
-/// goes to sleep, since a question asked over the same connection may have brought events into memory.
+/// Has the main loop dispatch a source's events when its descriptor becomes readable. Also dispatches before
+/// the loop goes to sleep, because a request over the same connection may have brought events into memory.
 class EventSourceWatch {
   public:
     /// The sources must outlive the watch.

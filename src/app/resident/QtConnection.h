@@ -4,7 +4,7 @@
 
 namespace tovrel {
 
-/// Qt's own connection to the display, for what must come in one order with what Qt asks. Lives as long as
+/// Qt's own connection to the display, for requests that must keep their order with Qt's. Lives as long as
 /// the application object.
 ToolkitConnection connectionOfQt();
 

@@ -25,11 +25,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Of one that is just starting and does not listen yet, or just ending.
+/// The time to wait for another resident program that is starting and does not listen yet, or is ending.
 constexpr auto patienceWithAnother = 5s;
 constexpr auto pauseBetweenAttempts = 10ms;
 
-/// The seat of this display for this process; null when another has it, which then has shown its palette.
+/// Takes the seat of this display; null when another process has it and has shown its palette.
 std::unique_ptr<SeatLock> lockUnlessShown(const ResidentSeat& seat) {
     const auto deadline = std::chrono::steady_clock::now() + patienceWithAnother;
     for (;;) {
@@ -48,18 +48,18 @@ std::unique_ptr<SeatLock> lockUnlessShown(const ResidentSeat& seat) {
                 throw;
             }
         }
-        // The socket may have been taken away from it.
+        // The other process may have lost its socket.
         if (isLate && isShownOverSessionBus()) {
             return nullptr;
         }
         if (isLate) {
             throw Failure("the running tovrel does not answer");
         }
-        std::this_thread::sleep_for(pauseBetweenAttempts); // Nothing tells when it listens, or has ended.
+        std::this_thread::sleep_for(pauseBetweenAttempts); // No event tells when it listens or has ended.
     }
 }
 
-/// Drops what cannot be written: a program that serves the user goes on, whoever stops reading it.
+/// Drops output that cannot be written: the program must go on serving the user when nobody reads it.
 class DroppingBuffer : public DescriptorBuffer {
   public:
     using DescriptorBuffer::DescriptorBuffer;
@@ -91,7 +91,7 @@ int runResident(const command_line::Invocation& invocation, const Console& conso
     }
     EndSignals endSignals;
     configureQtEnvironment();
-    // Qt takes what it knows of the arguments; ours have been read already.
+    // Qt would take arguments that it knows; ours have been parsed already.
     int argc = 1;
     std::string name = "tovrel";
     char* argv[] = {name.data(), nullptr};

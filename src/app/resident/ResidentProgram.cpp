@@ -150,7 +150,7 @@ void ResidentProgram::performMenuAction(window_menu::Action action) {
     case window_menu::Action::openSettings:
         coordinator_->showSettings();
         break;
-    case window_menu::Action::closeWindow: // Done already.
+    case window_menu::Action::closeWindow: // The caller has done it.
         break;
     case window_menu::Action::quit:
         userInterface_.terminate();

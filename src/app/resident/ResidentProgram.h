@@ -31,20 +31,20 @@
 
 namespace tovrel {
 
-/// The resident program put together: what the desktop and Qt give, the coordinator on it, and the service on
-/// D-Bus. Needs the application object, and is gone before that is.
+/// Puts the resident program together: the platform from the desktop and Qt, the coordinator on it, and the
+/// service on D-Bus. Needs the application object, which must outlive it.
 class ResidentProgram {
   public:
-    /// `seat` is this process's own; without one it is only to be found on the session bus. `console` and
-    /// `desktop` outlive it.
+    /// `seat` is this process's own; without one the program can be found only on the session bus. `console`
+    /// and `desktop` must outlive the program.
     ResidentProgram(const command_line::Invocation& invocation, const Console& console,
                     const std::optional<ResidentSeat>& seat, Desktop& desktop);
     ~ResidentProgram() = default;
     ResidentProgram(const ResidentProgram&) = delete;
     ResidentProgram& operator=(const ResidentProgram&) = delete;
 
-    /// False when another process has become the resident program of this display meanwhile; it shows its
-    /// palette then. Without a session bus this one runs all the same and says so.
+    /// Returns false when another process has become the resident program of this display meanwhile; that one
+    /// then shows its palette. Without a session bus this program runs nevertheless and says so.
     [[nodiscard]] bool start();
 
   private:
@@ -60,7 +60,7 @@ class ResidentProgram {
     [[nodiscard]] Text forPeople(const Shortcut& shortcut);
     [[nodiscard]] Text shortcutProblem();
 
-    // In the order in which they need each other; they end in the opposite one.
+    // Each member may need those before it.
     const Console* console_;
     Desktop* desktop_;
     SqlitePreferencesDomain storedPreferences_;
@@ -78,7 +78,7 @@ class ResidentProgram {
     SettingsWindowController settingsWindowController_;
     std::shared_ptr<AppCoordinator> coordinator_;
     DBusService service_;
-    // They go before what they offer.
+    // These must be destroyed before the objects that they offer.
     BusPresence busPresence_;
     std::optional<SeatServer> seatServer_;
     std::deque<EventSourceWatch> eventWatches_;

@@ -5,11 +5,11 @@
 
 namespace tovrel {
 
-/// Has the seat of the resident program, or tries to, as long as the object lives; however the process ends,
-/// the seat is free then.
+/// Tries to take the seat of the resident program and keeps it until the object is destroyed. The seat also
+/// becomes free however the process ends.
 class SeatLock {
   public:
-    /// Does not wait for who has it.
+    /// Does not wait for another process to give the seat up.
     explicit SeatLock(const ResidentSeat& seat);
 
     /// Whether another process has the seat. Where the file can be neither made nor locked, nobody has it.

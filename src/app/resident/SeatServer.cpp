@@ -11,7 +11,7 @@ SeatServer::SeatServer(const ResidentSeat& seat, QObject& object)
     : server_(QString::fromStdString(seat.address())) {
     QObject::connect(
         &server_, &QDBusServer::newConnection, this, [this, &object](const QDBusConnection& connection) {
-            // Its parent owns it.
+            // The server, its parent, owns it.
             static_cast<void>(std::make_unique<SeatVisitor>(connection, object, *this).release());
         });
 }

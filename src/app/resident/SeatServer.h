@@ -7,21 +7,20 @@
 
 namespace tovrel {
 
-/// Offers an object to whoever connects to the seat's socket, as the session bus does to others. Only
-/// processes of this user are let in.
+/// Offers an object to processes of this user that connect to the seat's socket, as the session bus offers it
+/// to others.
 class SeatServer : public QObject {
     Q_OBJECT
 
   public:
-    /// The seat is this process's own; a socket that was left there is replaced. `object` outlives the
-    /// server.
+    /// The seat must be this process's own; a leftover socket is replaced. `object` must outlive the server.
     SeatServer(const ResidentSeat& seat, QObject& object);
 
   private:
     QDBusServer server_;
 };
 
-/// One who has connected, until it is gone.
+/// A connection to the socket, until the other side ends it.
 class SeatVisitor : public QObject {
     Q_OBJECT
 

@@ -26,8 +26,8 @@ bool isOfAnotherDisplay(const ResidentStatus& status) {
     return !status.display.empty() && !own.empty() && status.display != own;
 }
 
-/// The unique bus name of the program that owns the service name. With `mayStart` the bus starts it when it
-/// does not run, which is what a user wants who asks it to show something.
+/// The unique bus name of the program that owns the service name. With `mayStart` the bus starts the program
+/// if it does not run, for users who ask it to show something.
 std::string ownerOnBus(DBusConnection& bus, bool mayStart) {
     const auto deadline = std::chrono::steady_clock::now() + patience;
     auto owner = bus.owner(dbus_names::service, deadline);
@@ -135,7 +135,7 @@ ResidentClient ResidentClient::ofThisDisplay() {
             return client;
         }
     } catch (const NotRunning&) {
-        return client; // The bus may know how to start it.
+        return client; // The bus may be able to start it.
     }
     throw Failure("tovrel is not running on this display");
 }

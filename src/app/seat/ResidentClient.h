@@ -24,15 +24,14 @@ struct ResidentStatus {
     std::string unstoredChange;
 };
 
-/// Speaks to the resident program: directly to the one of this display, or, when none has its seat there, to
-/// whichever owns the name on the session bus. Throws Failure when neither can be found, or when the program
-/// does not answer within 5 s.
+/// Calls the resident program: directly if one has the seat of this display, else through its name on the
+/// session bus. Throws Failure when neither can be found, or when the program does not answer within 5 s.
 class ResidentClient {
   public:
     ResidentClient();
 
     /// Connects directly to the process that has this seat; absent when nobody listens there, for instance
-    /// while one is just starting or ending.
+    /// while it is starting or ending.
     static std::optional<ResidentClient> ofSeat(const ResidentSeat& seat);
     /// Connects to the process that owns the name on the session bus.
     static ResidentClient ofSessionBus();
@@ -60,8 +59,8 @@ class ResidentClient {
     Road road_;
 };
 
-/// Has a resident program of this display show its palette if the session bus knows one, and returns whether
-/// it does.
+/// Asks the resident program of this display over the session bus to show its palette; returns whether there
+/// is one.
 bool isShownOverSessionBus();
 
 } // namespace tovrel

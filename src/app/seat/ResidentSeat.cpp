@@ -43,7 +43,7 @@ std::optional<ResidentSeat> ResidentSeat::ofEnvironment() {
 }
 
 std::string ResidentSeat::address() const {
-    // Everything else is escaped in an address (D-Bus Specification, Server Addresses).
+    // All other characters are escaped in an address (D-Bus Specification, Server Addresses).
     constexpr std::string_view digits = "0123456789abcdef";
     std::string escaped = "unix:path=";
     for (const char each : socket.native()) {

@@ -6,13 +6,13 @@
 
 namespace tovrel {
 
-/// The files by which the resident program of this display is found, in the user's runtime directory. One
-/// process at a time has the seat. It works also while there is no session bus, and where one bus serves
-/// several displays of the user, each of which has a resident program of its own.
+/// The files in the user's runtime directory through which the resident program of this display is found. One
+/// process at a time has the seat. The seat works without a session bus, and also where one bus serves
+/// several displays of the user, each with a resident program of its own.
 struct ResidentSeat {
-    /// Locked as long as a process has the seat; the file stays and means nothing by itself.
+    /// Locked while a process has the seat; the file's existence means nothing.
     std::filesystem::path lock;
-    /// The process with the seat answers on it, as it does on the session bus.
+    /// The process with the seat answers here as it does on the session bus.
     std::filesystem::path socket;
 
     /// Absent where $XDG_RUNTIME_DIR names no directory.

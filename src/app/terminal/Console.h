@@ -14,7 +14,7 @@ struct OutputStyle {
     std::optional<std::size_t> width; ///< Columns of the terminal, where they are known.
 };
 
-/// The streams the program talks to.
+/// The standard streams of the program.
 struct Console {
     std::istream& input;
     std::ostream& output;

@@ -7,15 +7,15 @@
 
 namespace tovrel {
 
-/// Standard output could not be written.
+/// Thrown when standard output could not be written.
 class OutputError : public std::system_error {
   public:
     using std::system_error::system_error;
 };
 
 /// Writes a stream to an open file descriptor, which stays open. A failed write throws OutputError with the
-/// reason, which an ordinary file stream would lose; a stream passes it on if its exceptions() ask for
-/// std::ios::badbit. Output arrives when the stream is flushed, not on destruction.
+/// reason, which an ordinary file stream would lose. A stream passes the exception on if its exceptions()
+/// include std::ios::badbit. Output arrives when the stream is flushed, not on destruction.
 class DescriptorBuffer : public std::streambuf {
   public:
     explicit DescriptorBuffer(int fileDescriptor);

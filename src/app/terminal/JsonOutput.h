@@ -7,12 +7,12 @@
 
 namespace tovrel {
 
-/// Prints a value as compact JSON that is safe to be looked at on a terminal.
+/// Prints a value as compact JSON that is safe to show on a terminal.
 inline void printJson(std::ostream& out, const json::Value& value) {
     out << printableJson(json::dump(value));
 }
 
-/// Prints an array as printJson would, one element after the other, so that a long list is never in memory
+/// Prints an array as printJson would, but element by element, so that a long list is never in memory as a
 /// whole.
 template <typename Range, typename Encode>
 void printJsonArray(std::ostream& out, const Range& range, const Encode& encode) {

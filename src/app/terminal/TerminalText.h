@@ -4,8 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// Measuring and cutting of texts for the columns of a terminal. All texts are printable
-/// (support/PrintableText.h).
+/// Measures and cuts texts for the columns of a terminal. All texts are printable (support/PrintableText.h).
 namespace tovrel::terminal_text {
 
 /// The number of columns the text takes: two for wide and full-width characters (Unicode Standard Annex 11),
@@ -14,7 +13,7 @@ std::size_t displayWidth(std::string_view text);
 
 enum class ElideAt { start, end };
 
-/// The text, or what fits of it with "…" where it was cut, in at most `width` columns.
+/// The text in at most `width` columns; a longer one is cut, with "…" in place of the rest.
 std::string elided(std::string_view text, std::size_t width, ElideAt side);
 
 } // namespace tovrel::terminal_text

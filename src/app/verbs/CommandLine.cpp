@@ -13,8 +13,8 @@ namespace tovrel::command_line {
 namespace {
 
 /// The parsing library takes "[a,b]" apart, ends a verb at "++", takes the next argument for the value of
-/// "--string=", and loses arguments after "--". Arguments that it must take literally and that are no options
-/// are therefore passed with this character in front, which is removed when the value arrives.
+/// "--string=", and loses arguments after "--". So arguments that are no options get this character in front,
+/// which makes the library take them literally; it is removed when the value arrives.
 constexpr char literalMark = '\x01';
 
 std::vector<std::string> protectedArguments(int argc, const char* const* argv) {
@@ -116,7 +116,7 @@ class Parser {
 
     Parsed parse(int argc, const char* const* argv) {
         std::vector<std::string> arguments = protectedArguments(argc, argv);
-        std::reverse(arguments.begin(), arguments.end()); // as the library expects them
+        std::reverse(arguments.begin(), arguments.end()); // the library expects this order
         try {
             app_.parse(std::move(arguments));
         } catch (const CLI::CallForHelp&) {
@@ -188,7 +188,7 @@ class Parser {
             addVerb("record", Verb::record,
                     "Write an application's menus as a recording, which --recording reads in its place");
         addSharedOptions(*verb);
-        addJsonFlag(*verb); // it prints nothing else anyway
+        addJsonFlag(*verb); // accepted for consistency: the verb always prints JSON
     }
 
     void addPreferences() {
@@ -245,7 +245,7 @@ class Parser {
             ->required();
     }
 
-    /// Adds the options that all verbs about menus share; they may stand before the verb as well.
+    /// Adds the options that all verbs about menus share; they are also accepted before the verb.
     void addSharedOptions(CLI::App& app) {
         addSourceOptions(app);
         addPreferencesOption(app);

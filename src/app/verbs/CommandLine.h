@@ -9,7 +9,7 @@
 
 #include "app/verbs/PreferencesCommands.h"
 
-/// Parses the command line. Nothing here looks at a file or runs anything.
+/// Parses the command line. Nothing here opens a file or runs anything.
 namespace tovrel::command_line {
 
 enum class Verb {
@@ -26,7 +26,8 @@ enum class Verb {
     preferences
 };
 
-/// Names the application whose menus are meant: at most one is set; none stands for the front application.
+/// Names the application whose menus to use. At most one member is set; without any, it is the front
+/// application.
 struct MenuSourceOptions {
     std::optional<std::string> recordingFile; ///< "-" for standard input.
     std::optional<std::int32_t> processIdentifier;
@@ -45,10 +46,10 @@ struct Invocation {
     Verb verb = Verb::run;
     MenuSourceOptions source;
     std::optional<std::string> preferencesFile;
-    std::string localeIdentifier; ///< Empty for the environment's.
+    std::string localeIdentifier; ///< Empty for the locale of the environment.
     bool asJson = false;
     bool showsIDs = false;            ///< In tables for people; JSON always has them.
-    std::optional<std::size_t> limit; ///< For the results of each query.
+    std::optional<std::size_t> limit; ///< The most results for each query.
     std::vector<std::string> queries; ///< At least one for `search`; each may be empty.
     std::string commandID;
     PreferencesArguments preferences;
@@ -66,7 +67,7 @@ struct WrongUsage {
 
 using Parsed = std::variant<Invocation, Information, WrongUsage>;
 
-/// The arguments as main() gets them, the program's own name first.
+/// Takes the arguments as main() gets them, with the program's own name first.
 Parsed parse(int argc, const char* const* argv);
 
 } // namespace tovrel::command_line

@@ -16,8 +16,8 @@ struct CommandList {
     ScannedMenus menus;
 };
 
-/// Reads the application's menus and builds the list from them and the preferences. An application for which
-/// the palette is turned off has its commands listed all the same.
+/// Reads the application's menus and builds the list from them and the preferences. Also lists commands of an
+/// application for which the palette is turned off.
 CommandList buildCommandList(const MenuSource& source, PreferencesDomain& preferences,
                              const TextServices& textServices);
 

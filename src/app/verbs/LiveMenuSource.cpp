@@ -45,7 +45,8 @@ MenuSource liveMenuSource(const command_line::MenuSourceOptions& options) {
             .shortfall = [=] { return desktop->menuShortfall(*application); },
             .bringToFront =
                 [=] {
-                    constexpr std::chrono::milliseconds patience{500}; // a window manager takes a few
+                    // A window manager needs a few milliseconds.
+                    constexpr std::chrono::milliseconds patience{500};
                     Workspace& workspace = desktop->workspace();
                     const auto front = workspace.frontApplication();
                     const bool isFront =

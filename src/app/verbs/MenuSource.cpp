@@ -12,7 +12,8 @@
 namespace tovrel {
 namespace {
 
-/// Reads the whole stream, or one byte more than a recording may have, because it may be endless.
+/// Reads the whole stream, but at most one byte more than a recording may have, because the stream may be
+/// endless.
 std::string readBounded(std::istream& stream) {
     constexpr std::size_t chunk = std::size_t{1} << 20U;
     std::string bytes;

@@ -12,15 +12,16 @@
 
 namespace tovrel {
 
-/// Where the menus come from: an application and the door to it, be it live or recorded.
+/// An application, live or recorded, and the accessibility service that reads its menus.
 struct MenuSource {
     std::shared_ptr<RunningApplication> application;
     std::shared_ptr<Accessibility> accessibility;
     bool isRecording = false; ///< The menus belong to no running application and cannot be pressed.
-    /// Tells what the last read missed; absent when it read everything. May be null for complete reads.
+    /// Tells what was missing in the last read; absent when nothing was. Null where reads are always
+    /// complete.
     std::function<std::optional<MenuReadShortfall>()> shortfall;
-    /// Brings the application to the front and waits for it, within half a second. False when it was there
-    /// already or could not be brought there. Null when there is no such application.
+    /// Brings the application to the front and waits up to half a second for that. Returns false when it was
+    /// in front already or could not be brought there. Null when no live application can be activated.
     std::function<bool()> bringToFront;
 };
 

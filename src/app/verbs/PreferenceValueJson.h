@@ -9,10 +9,10 @@ namespace tovrel {
 const char* typeName(const PreferenceValue& value);
 
 /// {"type": …, "value": …}. Data that is not UTF-8 is written in Base64 beside "encoding": "base64", so that
-/// no value loses anything.
+/// every value can be restored exactly.
 json::Value toJson(const PreferenceValue& value);
 
-/// The value that `toJson` wrote; throws json::DecodeError.
+/// Reads a value that `toJson` wrote; throws json::DecodeError.
 PreferenceValue preferenceValueFrom(const json::Value& value);
 
 } // namespace tovrel

@@ -27,7 +27,7 @@ int report(std::ostream& error, int status, const std::string& what) {
     return status;
 }
 
-/// Flushes the output, because a full disk shows only then, and returns the exit status.
+/// Flushes the output, because only that detects a full disk, and returns the exit status.
 int finished(std::ostream& out, std::ostream& error) {
     return out.flush() ? success : report(error, failure, "the output cannot be written");
 }
@@ -38,7 +38,7 @@ int print(const json::Value& value, std::ostream& out, std::ostream& error) {
     return finished(out, error);
 }
 
-/// The bytes as a string of a JSON document: on one line and well formed, whatever they are.
+/// The bytes as a string of a JSON document, which is well formed and on one line for any bytes.
 std::string quoted(const std::string& bytes) {
     return printableJson(json::dump(json::toJson(Text(bytes))));
 }
@@ -50,7 +50,7 @@ std::size_t sizeOf(const PreferenceValue& value) {
                       value);
 }
 
-/// The key as it is shown in a column: quoted if it is empty or a part of it would be invisible.
+/// The key for a column: quoted if it is empty or a part of it would be invisible.
 std::string shownKey(const std::string& key) {
     return !key.empty() && printable(key) == key ? key : quoted(key);
 }

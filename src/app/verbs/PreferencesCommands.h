@@ -9,7 +9,7 @@
 
 /// The verbs of `tovrel preferences …`. Each function writes results to `out`, at most one line about a
 /// failure to `error`, and returns the exit status: 0 on success, 1 on failure, 2 on wrong usage. When the
-/// domain itself fails nothing more is written here, because the domain has already reported the reason.
+/// domain itself fails, they write no line, because the domain has already reported the reason.
 namespace tovrel::preferences_commands {
 
 /// The form in which `read` prints a value.
@@ -32,7 +32,7 @@ struct NewValue {
     std::optional<std::string> string = std::nullopt;
     /// "true" or "false".
     std::optional<std::string> boolean = std::nullopt;
-    /// Any bytes, unchecked, for trying out documents that are not valid.
+    /// Any bytes, unchecked, for trying out invalid documents.
     std::optional<std::string> data = std::nullopt;
 };
 
@@ -49,8 +49,8 @@ int list(PreferencesDomain& domain, bool asJson, std::ostream& out, std::ostream
 /// `export`: the whole domain as a JSON object with a member for each key, its value in the form of `read`.
 int exportAll(PreferencesDomain& domain, std::ostream& out, std::ostream& error);
 
-/// `import`: stores every value of an exported document, or none if any part of it is not valid. Values under
-/// keys that the document does not name stay.
+/// `import`: stores every value of an exported document, or none if any part of it is invalid. Values under
+/// other keys stay.
 int importAll(PreferencesDomain& domain, std::istream& document, std::ostream& error);
 
 } // namespace tovrel::preferences_commands

@@ -2,8 +2,8 @@
 
 #include "app/terminal/Console.h"
 
-/// The verbs that speak to the resident program. Each returns the exit status and throws Failure when the
-/// program does not run or answer.
+/// The verbs that call the resident program. Each returns the exit status and throws Failure when the program
+/// does not run or answer.
 namespace tovrel::verbs {
 
 int toggle();

@@ -18,8 +18,8 @@ struct ScannedMenus {
 
 ScannedMenus scanMenus(const MenuSource& source, const TextServices& textServices);
 
-/// Reports in one line on standard error what could not be read, if anything, and returns the exit status: 1
-/// when nothing at all was read. Call it after printing what was read.
+/// Reports in one line on standard error what could not be read, if anything. Returns the exit status, which
+/// is 1 when nothing was read. Must be called after the menus are printed.
 int reportShortfall(const ScannedMenus& menus, std::ostream& error);
 
 } // namespace tovrel

@@ -12,7 +12,7 @@
 /// returns the exit status; it throws Failure when it cannot do its work.
 namespace tovrel::verbs {
 
-/// Everything a verb about menus works on.
+/// The input of a verb about menus.
 struct Context {
     const command_line::Invocation& invocation;
     const Console& console;
@@ -30,7 +30,7 @@ int commands(const Context& context);
 /// `search QUERY…`: the ranked commands of each query.
 int search(const Context& context);
 
-/// `press ID`: presses the menu item of a command. Activates nothing first.
+/// `press ID`: brings the application to the front and presses the menu item of a command.
 int press(const Context& context);
 
 /// `record`: writes a recording of the menus.

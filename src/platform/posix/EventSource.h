@@ -8,9 +8,8 @@ class EventSource {
   public:
     virtual ~EventSource() = default;
 
-    /// The descriptor to watch for reading; -1 when there is none, or none any more because the other side is
-    /// gone. Ask for it again after each `dispatch`: a descriptor whose other side is gone stays readable for
-    /// ever.
+    /// The descriptor to watch for reading; -1 when there is none, or when the other side is gone. Ask for it
+    /// again after each `dispatch`: a descriptor whose other side is gone stays readable forever.
     [[nodiscard]] virtual int fileDescriptor() const = 0;
 
     /// Handles every event that has arrived, including those already in memory, and returns without waiting

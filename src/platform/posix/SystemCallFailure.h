@@ -4,7 +4,7 @@
 
 namespace tovrel {
 
-/// The failure of the preferences that this errno of a system call on their file stands for.
+/// The failure of the preferences for this errno of a system call on their file.
 [[nodiscard]] PreferencesFailure systemCallFailure(int number);
 
 } // namespace tovrel

@@ -23,7 +23,7 @@ std::vector<std::string_view> partsOf(std::string_view text, char separator) {
     return parts;
 }
 
-/// A value in an address has most bytes as "%" and two hexadecimal digits.
+/// Decodes a value of an address, in which most bytes are written as "%" and two hexadecimal digits.
 std::optional<std::string> unescaped(std::string_view value) {
     std::string bytes;
     for (std::size_t index = 0; index < value.size(); ++index) {
@@ -53,7 +53,7 @@ std::optional<std::string> socketName(std::string_view address) {
         const std::size_t equals = entry.find('=');
         const std::string_view key = entry.substr(0, equals);
         if (equals == std::string_view::npos || (key != "path" && key != "abstract")) {
-            continue; // Another key, such as "guid", which tells two buses apart.
+            continue; // another key, such as "guid", which identifies a bus
         }
         const auto value = unescaped(entry.substr(equals + 1));
         if (!value || value->empty() || value->find('\0') != std::string::npos) {
@@ -75,7 +75,7 @@ FileDescriptor connectedTo(const std::string& name) {
     const auto size =
         static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + name.size() + (isAbstract ? 0 : 1));
     FileDescriptor connected(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    // The interface of sockets takes every kind of address as this one type.
+    // The socket functions take all kinds of addresses as this type.
     const auto* generic = reinterpret_cast<const sockaddr*>(&address); // NOLINT(*-reinterpret-cast)
     return connected.isOpen() && connect(connected.get(), generic, size) == 0 ? std::move(connected)
                                                                               : FileDescriptor();

@@ -13,7 +13,7 @@ DirectoryLock::DirectoryLock(const std::filesystem::path& directory, Kind kind, 
         return;
     }
     const int operation = (kind == Kind::shared ? LOCK_SH : LOCK_EX) | LOCK_NB;
-    // Polled, because flock has no time limit of its own.
+    // The lock is polled, because flock has no time limit.
     while (flock(descriptor_.get(), operation) != 0) {
         if (errno == EWOULDBLOCK) {
             if (!patience.waitAMoment()) {

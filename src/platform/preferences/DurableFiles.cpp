@@ -15,8 +15,9 @@
 namespace tovrel::files {
 namespace {
 
-/// The files SQLite keeps beside a database. They are moved before the database itself: a new database must
-/// never meet the journal of an old one, not even when the process is killed half-way.
+/// The suffixes of the files that SQLite keeps beside a database. These files are moved before the database
+/// itself, because a new database must never meet the journal of an old one, even if the process is killed
+/// half-way.
 constexpr std::array journalSuffixes{"-journal", "-wal", "-shm"};
 
 [[noreturn]] void throwSystemError() {
@@ -64,7 +65,8 @@ void renameWithoutReplacing(const std::filesystem::path& from, const std::filesy
     if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
         return;
     }
-    // Network file systems do not know the flag; the name was free a moment ago and the directory is locked.
+    // Network file systems do not support the flag. The name was free a moment ago, and the directory is
+    // locked.
     if ((errno != EINVAL && errno != ENOSYS) || std::rename(from.c_str(), to.c_str()) != 0) {
         throwSystemError();
     }
@@ -74,7 +76,7 @@ void renameWithoutReplacing(const std::filesystem::path& from, const std::filesy
 
 void syncDirectory(const std::filesystem::path& directory) {
     const FileDescriptor descriptor(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    // Some file systems cannot synchronise a directory and say EINVAL; nothing more can be done there.
+    // Some file systems cannot synchronise a directory and return EINVAL; nothing more can be done there.
     if (!descriptor.isOpen() || (fsync(descriptor.get()) != 0 && errno != EINVAL)) {
         throwSystemError();
     }

@@ -2,15 +2,15 @@
 
 #include <filesystem>
 
-/// Changes of directories that survive a loss of power: POSIX makes a new, renamed or removed entry durable
+/// Changes to directories that survive a loss of power: POSIX makes a new, renamed or removed entry durable
 /// only once its directory has been synchronised (fsync). Each operation throws std::system_error.
 namespace tovrel::files {
 
 /// Writes the directory's entries to the medium.
 void syncDirectory(const std::filesystem::path& directory);
 
-/// Creates the directory, and those above it that are missing, for the user alone (mode 0700, as the XDG Base
-/// Directory standard asks). An existing directory is left as it is.
+/// Creates the directory and missing ones above it, for the user alone (mode 0700, as the XDG Base Directory
+/// standard demands). An existing directory is left as it is.
 void createPrivateDirectory(const std::filesystem::path& directory);
 
 /// Creates the empty file, readable and writable by the user alone (mode 0600); an existing file is left as

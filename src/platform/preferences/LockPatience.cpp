@@ -31,7 +31,7 @@ bool LockPatience::waitAMoment() {
         firstWait_ = start;
     }
     time_.sleep(std::min<std::chrono::nanoseconds>(1ms, terms_.amount - waited_));
-    waited_ += time_.now() - start; // on a busy machine longer than was asked for
+    waited_ += time_.now() - start; // may be longer than requested on a busy machine
     return true;
 }
 

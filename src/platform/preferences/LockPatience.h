@@ -6,8 +6,8 @@
 
 namespace tovrel {
 
-/// Limits how long a program waits for locks that other processes hold: one total for all the locks,
-/// statements and operations at which it meets them.
+/// Limits how long a program waits for locks that other processes hold: one total for all locks, statements
+/// and operations.
 class LockPatience {
   public:
     /// The longest wait in each period. A period starts with its first wait; a period of length zero starts
@@ -27,10 +27,10 @@ class LockPatience {
 
     explicit LockPatience(const Terms& terms, Time time = Time::real());
 
-    /// Call it at the start of each operation; the operation then has what is left of the period.
+    /// Must be called at the start of each operation, which may then use the rest of the period.
     void beginOperation();
 
-    /// Waits about a millisecond and returns true; false, without waiting, when nothing is left.
+    /// Waits about a millisecond and returns true; returns false without waiting when no time is left.
     [[nodiscard]] bool waitAMoment();
 
   private:

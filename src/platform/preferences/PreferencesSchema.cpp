@@ -8,7 +8,8 @@ namespace {
 constexpr std::int64_t applicationID = 0x546F7672; // "Tovr"
 constexpr std::int64_t version = 1;
 
-// Without row ids the rows are stored in the tree of their keys, so that a write touches one tree, not two.
+// Without row ids SQLite stores the rows in the tree of their keys, so that a write touches one tree, not
+// two.
 constexpr const char* createTable =
     "CREATE TABLE preferences (key TEXT NOT NULL PRIMARY KEY, value NOT NULL CHECK (typeof(value) IN "
     "('blob', 'text') OR (typeof(value) = 'integer' AND value IN (0, 1)))) WITHOUT ROWID";

@@ -8,20 +8,20 @@ namespace tovrel::preferences_schema {
 
 enum class State {
     empty,   ///< No table yet: a new file.
-    current, ///< As this program writes it.
+    current, ///< This program's layout.
     newer,   ///< Written by a later version of the program.
     foreign, ///< A sound database that belongs to another program.
-    damaged, ///< Ours, but not as it should be.
+    damaged, ///< Ours, but not in order.
 };
 
-/// The state of the database, by its header and schema. Call it inside a transaction, because it reads
-/// several times. Throws sqlite::Error.
+/// The state of the database according to its header and schema. Must be called inside a transaction, because
+/// it reads several times. Throws sqlite::Error.
 State stateOf(sqlite::Connection& connection);
 
-/// Whether every page of the file is in order and every value of a known type. Throws sqlite::Error.
+/// Whether every page of the file is in order and every value has a known type. Throws sqlite::Error.
 bool isSound(sqlite::Connection& connection);
 
-/// Creates the table and marks the file as ours. Call it inside a write transaction.
+/// Creates the table and marks the file as ours. Must be called inside a write transaction.
 void create(sqlite::Connection& connection);
 
 } // namespace tovrel::preferences_schema

@@ -8,7 +8,7 @@ namespace tovrel::sqlite {
 namespace {
 
 int primaryCode(int code) {
-    constexpr int primaryBits = 0xFF; // extended codes carry more in the bits above
+    constexpr int primaryBits = 0xFF; // extended codes use the bits above
     return code & primaryBits;
 }
 
@@ -60,13 +60,13 @@ Statement::Statement(Connection& connection, const char* sql) : connection_(conn
     statement_.reset(statement);
 }
 
-// A null destructor (SQLITE_STATIC) tells SQLite that the bytes stay where they are.
+// A null destructor (SQLITE_STATIC) tells SQLite that the bytes stay valid.
 void Statement::bindText(int parameter, std::string_view bytes) {
     check(sqlite3_bind_text64(statement_.get(), parameter, bytes.data(), bytes.size(), nullptr, SQLITE_UTF8));
 }
 
 void Statement::bindData(int parameter, std::string_view bytes) {
-    // A null pointer would bind NULL where no bytes are meant.
+    // A null pointer would bind NULL instead of an empty value.
     const char* start = bytes.empty() ? "" : bytes.data();
     check(sqlite3_bind_blob64(statement_.get(), parameter, start, bytes.size(), nullptr));
 }
@@ -142,7 +142,7 @@ Connection::Connection(const std::filesystem::path& file, LockPatience& patience
         return static_cast<int>(static_cast<LockPatience*>(context)->waitAMoment());
     };
     sqlite3_busy_handler(connection, wait, &patience);
-    // The file may come from anywhere: nothing in its schema is to run functions on our behalf.
+    // The file may come from anywhere, so its schema must not run functions.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
 }
@@ -177,7 +177,7 @@ Transaction::Transaction(Connection& connection, Kind kind) : connection_(connec
 }
 
 Transaction::~Transaction() {
-    // SQLite has already rolled back by itself after some failures, a full disk for one.
+    // SQLite itself has already rolled back after some failures, such as a full disk.
     if (connection_.isInTransaction()) {
         try {
             connection_.execute("ROLLBACK");

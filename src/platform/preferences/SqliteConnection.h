@@ -13,10 +13,10 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// The part of SQLite's C interface that is needed, with owners for its handles and exceptions for its codes.
+/// The needed part of SQLite's C interface, with owners for its handles and exceptions for its error codes.
 namespace tovrel::sqlite {
 
-/// A failed call.
+/// Thrown by a failed call.
 class Error : public std::runtime_error {
   public:
     /// `code` is an extended result code, `systemError` the errno of the last failed system call or 0.
@@ -28,7 +28,7 @@ class Error : public std::runtime_error {
     /// The file was renamed, removed or replaced since it was opened.
     [[nodiscard]] bool isMoved() const;
 
-    /// The failure in a user's terms: "the disk is full".
+    /// The failure in terms that users understand: "the disk is full".
     [[nodiscard]] PreferencesFailure failure() const;
 
   private:
@@ -40,7 +40,8 @@ enum class ColumnType { data, text, integer, other };
 
 class Connection;
 
-/// A prepared statement. It holds the database's locks from its first step until it is done, reset or gone.
+/// A prepared statement. It holds the database's locks from its first step until it is done, reset or
+/// destroyed.
 class Statement {
   public:
     Statement(Connection& connection, const char* sql);
@@ -51,7 +52,7 @@ class Statement {
     void bindData(int parameter, std::string_view bytes);
     void bindInteger(int parameter, std::int64_t number);
 
-    /// True: there is a row. False: the statement is done.
+    /// Returns true when there is a row, false when the statement is done.
     bool step();
     void reset();
 
@@ -73,8 +74,8 @@ class Statement {
 /// An open database file.
 class Connection {
   public:
-    /// Opens an existing file for writing if that is allowed, else for reading; creates nothing. A lock held
-    /// by another process is waited for as long as the patience lasts, which must outlive the connection.
+    /// Opens an existing file for writing if that is allowed, else for reading; creates nothing. Waits for
+    /// other processes' locks as long as the patience lasts. The patience must outlive the connection.
     Connection(const std::filesystem::path& file, LockPatience& patience);
 
     /// Runs a statement to its end.
@@ -98,8 +99,9 @@ class Connection {
     std::unique_ptr<sqlite3, Close> connection_;
 };
 
-/// A transaction, rolled back unless committed. A reading one sees the database as it is at its first read,
-/// whatever others write meanwhile; a writing one has the sole right to write from the start.
+/// A transaction, which is rolled back unless committed. A reading transaction sees the database as it is at
+/// its first read, whatever others write meanwhile. A writing transaction has the sole right to write from
+/// the start.
 class Transaction {
   public:
     enum class Kind { read, write };

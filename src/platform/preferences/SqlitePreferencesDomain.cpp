@@ -17,10 +17,10 @@ namespace {
 
 using preferences_schema::State;
 
-/// The open file is damaged and must be set aside.
+/// Thrown when the open file is damaged and must be set aside.
 class Damaged : public std::exception {};
 
-/// The file is sound, but must not be touched.
+/// Thrown when the file is sound but must not be touched.
 class Refused : public std::runtime_error {
   public:
     Refused(PreferencesObstacle obstacle, const std::string& reason)
@@ -32,7 +32,7 @@ class Refused : public std::runtime_error {
     PreferencesObstacle obstacle_;
 };
 
-/// The failure that the exception being handled stands for.
+/// The failure for the exception that is being handled.
 PreferencesFailure failureOfException() {
     try {
         throw;
@@ -78,7 +78,7 @@ std::optional<PreferenceValue> valueIn(const sqlite::Statement& row, int column)
     case sqlite::ColumnType::other:
         break;
     }
-    return std::nullopt; // ruled out by the table's constraint
+    return std::nullopt; // the table's constraint rules this out
 }
 
 std::optional<PreferenceValue> storedValue(sqlite::Connection& connection, const std::string& key) {
@@ -150,7 +150,7 @@ bool SqlitePreferencesDomain::setAll(const std::vector<std::pair<std::string, Pr
 }
 
 bool SqlitePreferencesDomain::remove(const std::string& key) {
-    // The key is looked up first: a missing value can be removed even where nothing can be written.
+    // The key is looked up first, because a missing value can be removed even where nothing can be written.
     if (!value(key) && lastReadSucceeded_) {
         return true;
     }
@@ -171,8 +171,7 @@ std::uint64_t SqlitePreferencesDomain::revision() {
     return revision_;
 }
 
-/// Runs the operation on a database with a table; without one, or with an empty one, there is nothing to
-/// read.
+/// Runs the operation if there is a database with a table; otherwise there is nothing to read.
 bool SqlitePreferencesDomain::read(const Operation& operation) {
     lastReadSucceeded_ = attempt(Access::read, [&] {
         const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::shared, lockPatience_);
@@ -214,11 +213,11 @@ void SqlitePreferencesDomain::writeLocked(const std::function<void(sqlite::Conne
     ++revision_;
 }
 
-/// Runs the operation. If it meets damage, sets the file aside and runs the operation again on what is there
-/// then; any other failure is reported, and the next operation opens the file afresh.
+/// Runs the operation. If it meets damage, sets the file aside and runs the operation again on the file that
+/// is there then. Reports any other failure; the next operation then opens the file again.
 bool SqlitePreferencesDomain::attempt(Access access, const Operation& operation) {
     lockPatience_.beginOperation();
-    constexpr int attempts = 5; // others may damage or replace the file meanwhile, but not for ever
+    constexpr int attempts = 5; // others may damage or replace the file meanwhile, but not endlessly
     PreferencesFailure failure{PreferencesObstacle::other, "it is damaged again and again"};
     for (int i = 0; i < attempts; ++i) {
         bool isDamaged = false;
@@ -253,7 +252,7 @@ bool SqlitePreferencesDomain::attempt(Access access, const Operation& operation)
     return false;
 }
 
-/// Returns false when there is no file. Otherwise the file is open afterwards, in whatever state it is.
+/// Opens the file, in whatever state it is; returns false when there is none.
 bool SqlitePreferencesDomain::open() {
     struct stat status {};
     if (stat(file_.c_str(), &status) != 0) {
@@ -292,7 +291,8 @@ void SqlitePreferencesDomain::close() {
     }
 }
 
-/// Opens the file, or looks at what other processes did to it since. True when there is something to read.
+/// Opens the file, or checks what other processes have done to it since. Returns whether there is something
+/// to read.
 bool SqlitePreferencesDomain::bringUpToDate() {
     if (connection_ && connection_->hasMoved()) {
         close();
@@ -327,13 +327,13 @@ void SqlitePreferencesDomain::requireUsable() const {
 
 void SqlitePreferencesDomain::setDamagedFileAside() {
     const DirectoryLock lock(file_.parent_path(), DirectoryLock::Kind::exclusive, lockPatience_);
-    // While the damaged file is held open nothing else can have its inode: whatever has taken its place on
-    // the path is another file, put there by a process that was faster.
+    // No other file can have the damaged file's inode while it is open. So a file that has taken its place on
+    // the path is a different one, from a process that was faster.
     if (!connection_ || connection_->hasMoved()) {
         return;
     }
     const std::filesystem::path name = files::setAside(file_);
-    // The file is closed before others may go on, because closing can remove journals by their path.
+    // The file must be closed before others go on, because closing can remove journals by their path.
     close();
     report_("the preferences in " + file_.string() + " are damaged; they were kept as " +
             name.filename().string() + " and all preferences start afresh");

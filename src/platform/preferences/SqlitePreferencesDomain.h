@@ -18,32 +18,31 @@ namespace tovrel {
 /// the user alone; reading creates nothing and needs no right to write.
 ///
 /// Durability: the rollback journal (SQLite's default) with synchronous=EXTRA, which synchronises the
-/// journal, the file, and the directory after the journal is gone, before a commit returns. A write-ahead log
-/// with synchronous=FULL promises the same at a third of the time (0.25 ms against 1 ms a write on an SSD),
-/// but its index file is mapped shared memory: it does not work on network homes, and it must be created even
-/// to read, which fails on read-only media and leaves files behind. A few writes a minute are worth no such
-/// price.
+/// journal, the file, and the directory after the journal is removed, before a commit returns. A write-ahead
+/// log with synchronous=FULL promises the same at a third of the time (0.25 ms against 1 ms a write on an
+/// SSD), but its index file is mapped shared memory: it does not work on network homes, and it must be
+/// created even to read, which fails on read-only media and leaves files behind. A few writes a minute do not
+/// justify that.
 ///
 /// Damage: a file that is no database, is corrupt or lacks our table is set aside (renamed with its journals,
-/// never deleted) and reported, and the domain goes on empty. A sound database of another program, or of a
-/// later version of this one, is left alone: it reads as empty and every write is refused.
+/// never deleted) and reported, and the domain starts again empty. A sound database of another program, or of
+/// a later version of this one, is left alone: it reads as empty and every write is refused.
 ///
-/// Every operation holds the file's directory locked in shared mode, and setting aside holds it exclusively.
-/// A file is therefore never taken away under a write, and of several processes that find the same damage one
-/// sets the file aside while the others notice that their open file is gone from its path and open what is
-/// there now.
+/// Every operation locks the file's directory in shared mode, and setting a file aside locks it exclusively.
+/// So a file is never moved during a write. If several processes find the same damage, one sets the file
+/// aside; the others notice that their open file is gone from its path and open the file that is there now.
 class SqlitePreferencesDomain : public PreferencesDomain {
   public:
-    /// Receives one line, without a line break, for each event worth telling the user.
+    /// Receives one line, without a line break, for each event that the user should know.
     using Reporter = std::function<void(const std::string&)>;
 
-    /// For a command that runs by itself: each operation may wait this long for locks of other processes.
+    /// For a command that runs alone: each operation may wait this long for locks of other processes.
     static constexpr LockPatience::Terms unhurried{std::chrono::seconds(5), {}};
-    /// For a program whose user waits for the next picture: the palette opens after a dozen reads in well
-    /// under a second, and the sum of its waits must stay unnoticed.
+    /// For an interactive program: the palette opens after a dozen reads in well under a second, and nobody
+    /// must notice the sum of their waits.
     static constexpr LockPatience::Terms interactive{std::chrono::milliseconds(100), std::chrono::seconds(1)};
 
-    /// Nothing is opened before the first operation. Reports go to standard error unless a reporter is given.
+    /// Opens nothing before the first operation. Reports go to standard error unless a reporter is given.
     explicit SqlitePreferencesDomain(const std::filesystem::path& file, Reporter report = {},
                                      const LockPatience::Terms& lockPatience = unhurried);
     ~SqlitePreferencesDomain() override = default;
@@ -55,7 +54,7 @@ class SqlitePreferencesDomain : public PreferencesDomain {
     bool setAll(const std::vector<std::pair<std::string, PreferenceValue>>& values) override;
     bool remove(const std::string& key) override;
     [[nodiscard]] std::vector<std::pair<std::string, PreferenceValue>> all() override;
-    /// Costs some ten system calls, whatever the file's size.
+    /// Takes some ten system calls, whatever the file's size.
     [[nodiscard]] std::uint64_t revision() override;
     [[nodiscard]] bool lastReadSucceeded() const override { return lastReadSucceeded_; }
     [[nodiscard]] PreferencesFailure lastFailure() const override { return lastFailure_; }
@@ -80,8 +79,9 @@ class SqlitePreferencesDomain : public PreferencesDomain {
     Reporter report_;
     LockPatience lockPatience_;
     std::optional<sqlite::Connection> connection_;
-    preferences_schema::State state_ = preferences_schema::State::empty; ///< Of `connection_`.
-    std::int64_t dataVersion_ = 0; ///< As `connection_` last read it; commits of other connections change it.
+    preferences_schema::State state_ = preferences_schema::State::empty; ///< The state of `connection_`.
+    /// The version that `connection_` last read; commits of other connections change it.
+    std::int64_t dataVersion_ = 0;
     std::uint64_t revision_ = 0;
     bool lastReadSucceeded_ = true;
     PreferencesFailure lastFailure_;

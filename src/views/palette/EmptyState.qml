@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// What stands in the place of the results when there are none.
+// Shown in place of the results when there are none.
 Column {
     id: empty
 

@@ -8,9 +8,8 @@
 
 namespace tovrel {
 
-/// The results as rows of a view. Reads the model's results when a row is asked for, so that rows that are
-/// not shown cost nothing, and follows changes without ever starting anew: the view keeps its rows and fills
-/// them with other contents.
+/// The results as rows of a view. Reads the model's results only when a row is asked for, so that rows that
+/// are not shown cost nothing. Never resets: the view keeps its rows and fills them with other contents.
 class PaletteResultsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -21,7 +20,7 @@ class PaletteResultsModel : public QAbstractListModel {
     enum Role {
         titleRole = Qt::UserRole,
         subtitleRole,   ///< Empty when there is none.
-        keycapsRole,    ///< Texts of the key caps, as the user's keyboard has them.
+        keycapsRole,    ///< Texts of the key caps, in the names of the user's keyboard.
         spokenNameRole, ///< Title, subtitle and shortcut in words.
         symbolRole,
         accentRole,
@@ -33,7 +32,7 @@ class PaletteResultsModel : public QAbstractListModel {
     PaletteResultsModel(const PaletteViewModel& viewModel, const TextServices& textServices,
                         QObject* parent = nullptr);
 
-    /// Tells the view what is different now; called when the results have been assigned.
+    /// Tells the view what has changed; called when the results have been assigned.
     void resultsChanged();
 
     [[nodiscard]] int count() const { return count_; }

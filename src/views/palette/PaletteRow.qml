@@ -23,7 +23,7 @@ Item {
 
     height: Theme.palette.rowHeight
 
-    // The list keeps rows that it does not show, for use by and by.
+    // The list keeps rows that it does not show, to reuse them later.
     Accessible.ignored: row.index < 0
     Accessible.role: Accessible.ListItem
     Accessible.name: row.spokenName

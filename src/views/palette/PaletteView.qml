@@ -7,7 +7,7 @@ FocusScope {
 
     required property PaletteViewAdapter palette
 
-    // What the window is cut out by, and drawn along, where it cannot be transparent.
+    // The shape of the window and the colour of its edge where it cannot be transparent.
     readonly property real cornerRadius: backdrop.cornerRadius
     readonly property color edge: backdrop.edge
 
@@ -134,7 +134,7 @@ FocusScope {
         }
     }
 
-    // The list fades out where it goes on.
+    // The list fades out at an end beyond which it has more rows.
     Rectangle {
         anchors.left: list.left
         anchors.right: list.right

@@ -21,7 +21,7 @@ PaletteViewAdapter::PaletteViewAdapter(PaletteViewContext context, const TextSer
     }));
     subscriptions_.push_back(model.appName().subscribe([this] { Q_EMIT appNameChanged(); }));
     subscriptions_.push_back(model.appIcon().subscribe([this] { Q_EMIT appIconSourceChanged(); }));
-    // The window that is being shown takes the focus only once this turn is over.
+    // A window that is being shown takes the focus only after this turn of the main loop.
     subscriptions_.push_back(model.searchFocusRequest().subscribe([this] {
         QMetaObject::invokeMethod(this, &PaletteViewAdapter::searchFocusRequested, Qt::QueuedConnection);
     }));

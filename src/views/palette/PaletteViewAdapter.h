@@ -14,7 +14,7 @@
 
 namespace tovrel {
 
-/// What the palette's view binds to: the observable models as properties, and what the user does in it.
+/// What the palette's view binds to: the observable models as properties, and the user's actions.
 class PaletteViewAdapter : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -28,19 +28,19 @@ class PaletteViewAdapter : public QObject {
     Q_PROPERTY(bool showCheckedStatus READ showCheckedStatus NOTIFY showCheckedStatusChanged FINAL)
 
   public:
-    /// Everything referred to outlives the adapter.
+    /// All that the arguments refer to outlives the adapter.
     PaletteViewAdapter(PaletteViewContext context, const TextServices& textServices,
                        QObject* parent = nullptr);
 
     [[nodiscard]] QString query() const;
     void setQuery(const QString& query);
-    /// Whether the query is empty but for white space.
+    /// Whether the query is empty or only white space.
     [[nodiscard]] bool isQueryBlank() const;
     [[nodiscard]] PaletteResultsModel* results() { return &results_; }
     [[nodiscard]] int selectedIndex() const;
     /// Empty when there is none.
     [[nodiscard]] QString appName() const;
-    /// Where the view gets the application's icon from; empty when the desktop has none of that name.
+    /// The address of the application's icon; empty when the desktop has no such icon.
     [[nodiscard]] QUrl appIconSource() const;
     [[nodiscard]] bool showCheckedStatus() const;
 
@@ -56,7 +56,7 @@ class PaletteViewAdapter : public QObject {
     void appNameChanged();
     void appIconSourceChanged();
     void showCheckedStatusChanged();
-    /// The search field is to take the keyboard focus.
+    /// Asks the search field to take the keyboard focus.
     void searchFocusRequested();
 
   private:

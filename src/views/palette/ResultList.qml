@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// The results, scrolled only when it is told to.
+// The results. The list scrolls only when it is told to.
 ListView {
     id: list
 
@@ -9,11 +9,11 @@ ListView {
 
     signal chosen(int row)
 
-    // How much of its upper and lower end the list shows faded while it goes on there.
+    // The heights over which the list fades at its upper and lower end while it has more rows there.
     readonly property int fadeAbove: 12
     readonly property int fadeBelow: 20
 
-    // Scrolls no further than it must for the row to be seen clearly.
+    // Scrolls only as far as needed to show the row unfaded.
     function highlightRow(row: int) {
         list.currentIndex = row;
         if (row < list.count) {
@@ -35,11 +35,11 @@ ListView {
     spacing: Theme.palette.rowSpacing
     clip: true
     reuseItems: true
-    // Rows beyond the edge would be made by and by, and Qt complains when there are fewer results before that.
+    // Qt would make rows beyond the edge later, and complain when there are fewer results by then.
     cacheBuffer: 0
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
-    // An invisible highlight would otherwise be animated, and the view repainted for seconds.
+    // Otherwise an invisible highlight would be animated, and the view repainted for seconds.
     highlightFollowsCurrentItem: false
     highlightMoveDuration: 0
     highlightResizeDuration: 0

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// The field the query is typed into, with the name of the application it searches.
+// The field for the query, with the name of the application that it searches.
 IslandTextField {
     id: field
 

@@ -10,7 +10,8 @@ namespace tovrel {
 namespace {
 
 constexpr int capHeight = 23;
-/// The item is as large as whole pixels are at every quarter scale; the caps stand at its right edge.
+/// The item's size is a multiple of this, which gives whole pixels at every quarter scale. The caps are at
+/// its right edge.
 constexpr int grid = 4;
 constexpr int itemHeight = 24;
 constexpr int minimumWidth = 23;
@@ -52,7 +53,7 @@ void ShortcutKeycaps::setFont(const QFont& font) {
 void ShortcutKeycaps::paint(QPainter* painter) {
     const QFontMetricsF metrics(font_);
     painter->setFont(font_);
-    // Capital letters in the middle, whatever room the font keeps above and below them.
+    // Centres capital letters, whatever room the font keeps above and below them.
     const qreal scale = painter->device()->devicePixelRatio();
     const qreal baseline = std::round((capHeight + metrics.capHeight()) / 2 * scale) / scale;
     qreal left = width() - contentWidth_;

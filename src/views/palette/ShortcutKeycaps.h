@@ -9,8 +9,8 @@
 
 namespace tovrel {
 
-/// A shortcut as a row of key caps. Painted as a whole: every keystroke changes those of all rows, and making
-/// items for them anew would take longer than everything else.
+/// A shortcut as a row of key caps. It is painted as a whole, because every keystroke changes the caps of all
+/// rows, and making new items for them would take longer than everything else.
 class ShortcutKeycaps : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -11,14 +11,14 @@ namespace tovrel {
 /// untranslated.
 struct SettingsPageEntry {
     SettingsTab tab;
-    const char* file;   ///< Of the module Tovrel.Views. Its view is a SettingsPage.
-    const char* symbol; ///< In the sidebar.
+    const char* file;   ///< A file of the module Tovrel.Views, whose view is a SettingsPage.
+    const char* symbol; ///< The symbol in the sidebar.
     const char* title;
     const char* subtitle;
     const char* badge;
 };
 
-/// All of them, in the order of the sidebar, which is that of SettingsTab.
+/// All pages, in the order of the sidebar, which is the order of SettingsTab.
 std::span<const SettingsPageEntry> settingsPages();
 
 const SettingsPageEntry& settingsPage(SettingsTab tab);

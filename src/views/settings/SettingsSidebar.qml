@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// The program's icon and name, the pages, and the button that loads everything anew.
+// The program's icon and name, the pages, and the button that loads everything again.
 RoundedBox {
     id: sidebar
 

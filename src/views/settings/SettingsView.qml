@@ -7,7 +7,7 @@ FocusScope {
 
     required property SettingsViewAdapter settings
 
-    // Where the sidebar ends, and what belongs to the page begins.
+    // Where the sidebar ends and the page begins.
     readonly property int pageStart: Theme.settings.sidebarInset + Theme.settings.sidebarWidth
 
     function showPage() {
@@ -35,7 +35,7 @@ FocusScope {
     SettingsBackground {
         anchors.fill: parent
     }
-    // What is below a dialog can be neither reached nor pressed.
+    // Controls below an open dialog can be neither reached nor pressed.
     Item {
         anchors.fill: parent
         enabled: dialog.status === Loader.Null

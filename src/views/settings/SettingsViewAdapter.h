@@ -18,7 +18,7 @@
 
 namespace tovrel {
 
-/// What the settings' view binds to: which page is open, and one object for each page.
+/// What the settings' view binds to: the open page, and one object for each page.
 class SettingsViewAdapter : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -43,15 +43,15 @@ class SettingsViewAdapter : public QObject {
         GeneralSettings::OpenURL openURL;
     };
 
-    /// Everything referred to outlives the adapter.
+    /// All that the arguments refer to outlives the adapter.
     SettingsViewAdapter(SettingsViewState& state, RecorderAdapter& recorder, const Surroundings& surroundings,
                         QObject* parent = nullptr);
 
-    /// In the order of the sidebar.
+    /// The pages in the order of the sidebar.
     [[nodiscard]] SettingsRowsModel* pages() { return &pages_; }
-    /// The place among `pages`.
+    /// The index of the open page among `pages`.
     [[nodiscard]] int selectedPage() const;
-    /// Of the module Tovrel.Views.
+    /// The open page's file in the module Tovrel.Views.
     [[nodiscard]] QString pageFile() const;
     [[nodiscard]] QString pageTitle() const;
     [[nodiscard]] QString pageSubtitle() const;

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// The column of the sidebar's entries, with what they share.
+// The column of the sidebar's entries, with their shared state.
 Column {
     required property SettingsViewAdapter settings
 

@@ -1,13 +1,13 @@
 import QtQuick
 import Tovrel.Views
 
-// A warning with two answers, or one. Escape gives none, wherever the focus is.
+// A warning with one answer or two. Escape closes it without an answer, wherever the focus is.
 FocusScope {
     id: view
 
     required property AlertQuestion question
 
-    // What the window is cut out by, and drawn along, where it cannot be transparent.
+    // The shape of the window and the colour of its edge where it cannot be transparent.
     readonly property real cornerRadius: backdrop.cornerRadius
     readonly property color edge: backdrop.edge
 

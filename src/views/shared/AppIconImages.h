@@ -6,7 +6,7 @@
 
 namespace tovrel {
 
-/// Application icons for views, from the icon theme or from image files, rendered in the size they are shown.
+/// Application icons for views, from the icon theme or from image files, rendered in the shown size.
 class AppIconImages : public QQuickImageProvider {
   public:
     static constexpr const char* scheme = "appicon";

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// The ring around what has the keyboard focus.
+// The ring around the control with the keyboard focus.
 RoundedBox {
     id: ring
 

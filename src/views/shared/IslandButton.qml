@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// A button with a text and perhaps a symbol, of one of the kinds in Theme.buttons.
+// A button with a text and an optional symbol, of one of the kinds in Theme.buttons.
 IslandPressable {
     id: button
 
@@ -12,7 +12,7 @@ IslandPressable {
     property bool isDefault: false
 
     readonly property ButtonShape shape: button.look.shape
-    // Where the text begins, and what is left for it.
+    // Where the text begins, and the width left for it.
     readonly property int start: icon.visible ? icon.x + icon.width + 7 : button.shape.inset
     readonly property real room: button.width - button.start - 8
 

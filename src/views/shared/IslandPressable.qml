@@ -1,6 +1,6 @@
 import QtQuick
 
-// What all that is pressed has in common: pointer, keyboard, and the way assistive technology sees it.
+// The base of everything that can be pressed: pointer, keyboard, and access for assistive technology.
 Item {
     id: control
 

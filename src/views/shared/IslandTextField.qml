@@ -1,8 +1,8 @@
 import QtQuick
 import Tovrel.Views
 
-// A field for one line of text, of one of the kinds in Theme.fields. What it is for is its placeholder, and its name.
-// What is put into it stands at its end.
+// A field for one line of text, of one of the kinds in Theme.fields. The placeholder says what it is for and is its
+// name. Child items are placed at the field's end.
 RoundedBox {
     id: field
 

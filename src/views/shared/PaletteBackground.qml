@@ -1,8 +1,8 @@
 import QtQuick
 import Tovrel.Views
 
-// The backdrop of the panel and of questions: a gradient, perhaps with a faded leaf, and an edge that is to be seen on
-// any desktop.
+// The backdrop of the panel and of questions: a gradient, an optional faded leaf, and an edge that is visible on any
+// desktop.
 Item {
     id: background
 
@@ -22,7 +22,7 @@ Item {
         borderWidth: 1
     }
 
-    // Cut off by the upper edge, clear of the round corner.
+    // The upper edge cuts the leaf off, clear of the round corner.
     Item {
         anchors.fill: parent
         anchors.margins: 1

@@ -13,9 +13,9 @@ class RoundedBox : public QQuickPaintedItem {
     QML_ELEMENT
     Q_PROPERTY(qreal radius MEMBER radius_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor from MEMBER from_ NOTIFY changed FINAL)
-    /// In the middle of the gradient; half-way between the others when not set.
+    /// The colour in the middle of the gradient; half-way between the others when not set.
     Q_PROPERTY(QColor via MEMBER via_ NOTIFY changed FINAL)
-    /// When not set, all of the box is in the colour `from`.
+    /// The colour at the end of the gradient; when not set, the whole box has the colour `from`.
     Q_PROPERTY(QColor to MEMBER to_ NOTIFY changed FINAL)
     /// Whether the gradient runs from the upper left to the lower right corner instead of from top to bottom.
     Q_PROPERTY(bool isDiagonal MEMBER isDiagonal_ NOTIFY changed FINAL)

@@ -6,13 +6,14 @@
 
 namespace tovrel {
 
-/// What views tell a screen reader beyond what their items say of themselves. For SpokenRow.
+/// Tells a screen reader more than the items of views say themselves. Used by SpokenRow.
 class ScreenReader : public QObject {
     Q_OBJECT
     QML_ELEMENT
 
   public:
-    /// Lets it speak of the item as if that had the keyboard focus. Without a screen reader nothing happens.
+    /// Has the screen reader speak the item as if it had the keyboard focus. Does nothing without a screen
+    /// reader.
     Q_INVOKABLE void moveTo(QQuickItem* item);
 };
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// Shows how far something is scrolled, while there is anything to scroll, and scrolls it when dragged.
+// Shows how far a view is scrolled, while there is anything to scroll, and scrolls it when dragged.
 Item {
     id: bar
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Tovrel.Views
 
-// Leads a screen reader to the highlighted row of a list when it moves, although the keyboard focus stays in the
-// field above, and back to the field when something is typed.
+// Leads a screen reader to the highlighted row of a list when the highlight moves, although the keyboard focus stays in
+// the field above. Leads it back to the field when the user types.
 Item {
     id: lead
 
@@ -21,7 +21,7 @@ Item {
         speak.start();
     }
 
-    // Once everything that one key changes has changed.
+    // Waits until everything that one key changes has changed.
     Timer {
         id: speak
 

@@ -26,8 +26,7 @@ QImage symbolImage(const QString& name, const QColor& colour, const QSize& pixel
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), colour);
     painter.end();
-    // A picture that was painted keeps the painter's working memory, which is many times its own; a copy does
-    // not.
+    // A painted picture keeps the painter's working memory, which is many times its own; a copy does not.
     return image.copy();
 }
 

@@ -9,7 +9,7 @@
 namespace tovrel {
 
 /// The program's own symbols for views: "image://symbol/NAME/#rrggbb", rendered in that colour and in the
-/// size they are shown, so that they are sharp at every scale.
+/// shown size, so that they are sharp at every scale.
 class SymbolImages : public QQuickImageProvider {
   public:
     static constexpr const char* scheme = "symbol";

@@ -1,7 +1,7 @@
 import QtQuick
 
-// Where a window without a frame is moved by. The window manager is asked once a press and then moves the window
-// by itself; asked again meanwhile, it would go on after the button has come up.
+// The area by which the user moves a frameless window. Each press asks the window manager once, which then moves the
+// window itself. Asked again meanwhile, it would go on after the button is released.
 MouseArea {
     id: area
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-// Measures of a question, in pixels. Its height is what its texts need.
+// Measures of a question, in pixels. Its texts determine its height.
 QtObject {
     readonly property int width: 464
     readonly property int inset: 24

@@ -1,6 +1,6 @@
 import QtQuick
 
-// What buttons of several colours have in common.
+// The shape that buttons of several colours share.
 QtObject {
     required property int height
     required property real radius
@@ -8,7 +8,7 @@ QtObject {
     // Between the text and either side.
     property int inset: 0
     property int minimumWidth: 0
-    // The text is in the middle, however wide the button is.
+    // Whether the text is in the middle, however wide the button is.
     property bool isCentred: false
     property real pressedOpacity: 0.75
     required property color focusRing

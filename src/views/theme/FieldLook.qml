@@ -1,6 +1,6 @@
 import QtQuick
 
-// How one kind of text field looks.
+// The look of one kind of text field.
 QtObject {
     required property color fill
     // Without the keyboard focus.
@@ -11,6 +11,6 @@ QtObject {
     required property real radius
     // Between the text and either side.
     required property int inset
-    // Between that and the placeholder, which stands behind the cursor.
+    // Between the text's beginning and the placeholder, which is behind the cursor.
     required property int placeholderInset
 }

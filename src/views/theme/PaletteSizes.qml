@@ -2,7 +2,7 @@ import QtQuick
 
 // Measures of the palette, in pixels. Multiples of 4 are whole pixels at a scale of 1.25 too.
 QtObject {
-    // The panel is as large as this: it takes its size from the view.
+    // The size of the panel, which takes it from the view.
     readonly property int width: 680
     readonly property int height: 460
 

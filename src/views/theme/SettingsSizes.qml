@@ -2,7 +2,7 @@ import QtQuick
 
 // Measures of the settings, in pixels.
 QtObject {
-    // The window is as large as this where the screen has room: it takes its size from the view.
+    // The size of the window where the screen has room; the window takes it from the view.
     readonly property int width: 920
     readonly property int height: 620
 
@@ -12,7 +12,7 @@ QtObject {
     readonly property int headerHeight: 58
     readonly property int badgeHeight: 28
 
-    // Distances: between neighbours, between cards, and between the edge of a page or dialog and what it holds.
+    // Distances: between neighbours, between cards, and between the edge of a page or dialog and its content.
     readonly property int gap: 12
     readonly property int inner: 16
     readonly property int outer: 24
@@ -43,8 +43,8 @@ QtObject {
     readonly property int symbol: 20
     readonly property int controlSymbol: 16
 
-    // The columns of the list of rules: where the name begins, after how much of the width the identifier does,
-    // and how much the behaviour has, with room for a button behind it.
+    // The columns of the list of rules: the start of the name, the start of the identifier as a share of the width, the
+    // width of the behaviour, and the room for a button after it.
     readonly property int ruleNameStart: 54
     readonly property real ruleIdentifierShare: 0.36
     readonly property int ruleBehaviorWidth: 140

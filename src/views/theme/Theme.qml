@@ -2,8 +2,8 @@ pragma Singleton
 
 import QtQuick
 
-// How everything looks, and how large it is. A variant, dark or of high contrast, is another object in the place of
-// `colours`; whatever shows a colour follows.
+// The look and size of everything. A variant, dark or with high contrast, replaces the object `colours`; everything
+// with a colour follows.
 QtObject {
     id: theme
 

@@ -10,7 +10,7 @@ QtObject {
     required property SettingsSizes settings
     required property AlertSizes alert
 
-    // Of the settings: the main action of a card, removing, and the others.
+    // Buttons of the settings: a card's main action, removal, and other actions.
     readonly property ButtonLook primary: ButtonLook {
         from: buttons.colours.chosen
         to: buttons.colours.chosenLight
@@ -38,7 +38,7 @@ QtObject {
         shape: buttons.action
     }
 
-    // Of the settings, only a symbol each.
+    // Buttons of the settings with only a symbol.
     readonly property ButtonLook icon: ButtonLook {
         from: buttons.colours.trough
         to: buttons.colours.trough
@@ -56,7 +56,7 @@ QtObject {
         shape: buttons.symbolOnly
     }
 
-    // The answers to a question: the one that Return gives, and the other.
+    // The answers to a question: the default one, which Return gives, and the other.
     readonly property ButtonLook defaultAnswer: ButtonLook {
         from: buttons.colours.accent
         to: buttons.colours.accentLight

@@ -1,8 +1,8 @@
 import QtQuick
 
-// The colours of everything, named by what they are for. Those of a variant are a ThemeColours with other values.
+// The colours of everything, named by their use. A variant is a ThemeColours with other values.
 QtObject {
-    // Texts: what is read first, what goes with it, and what only hints.
+    // Texts: main texts, secondary texts, and hints.
     property color ink: "#40382c"
     property color quiet: "#7a6c58"
     property color faint: "#a89a85"
@@ -16,10 +16,10 @@ QtObject {
     property color accentTint: "#e0f6f2"
     property color paletteAccentInk: "#0f8a80"
     property color paletteAccentTint: "#e6f9f6"
-    // A little stronger, for what is chosen in the settings and for the buttons there.
+    // A little stronger, for chosen items and buttons in the settings.
     property color chosen: "#17bcae"
     property color chosenLight: "#35cdbf"
-    // On any of these gradients: texts, what goes with them, and badges.
+    // On any of these gradients: texts, secondary texts, and badges.
     property color textOnAccent: "white"
     property color quietTextOnAccent: Qt.rgba(1, 1, 1, 0.78)
     property color badgeOnAccent: Qt.rgba(1, 1, 1, 0.2)
@@ -35,18 +35,18 @@ QtObject {
     property color alertSign: "#e0a127"
     property color alertSignTint: "#fff2ca"
 
-    // The backdrops of windows, gradients from the first over the second to the third; and their edge.
+    // The backdrops of windows, which are gradients of three colours, and their edge.
     property color backdropStart: "#dff6ef"
     property color paletteBackdropMiddle: "#f1f6e3"
     property color settingsBackdropMiddle: "#f4f6e6"
     property color backdropEnd: "#fff1d3"
     property color windowEdge: "#c3d2c4"
-    // What lists fade into at their ends: about what the backdrop is there.
+    // The colours into which lists fade at their ends, close to the backdrop there.
     property color paletteFadeAbove: "#e2f6ed"
     property color paletteFadeBelow: "#fff1d3"
     property color settingsFadeAbove: "#f1f5e6"
 
-    // What lies on a backdrop.
+    // Surfaces on a backdrop.
     property color paletteRow: Qt.rgba(1, 253 / 255, 242 / 255, 0.82)
     property color paletteRowHovered: Qt.rgba(1, 1, 250 / 255, 0.98)
     property color sidebar: "#a6ffffff"
@@ -81,7 +81,7 @@ QtObject {
     property color keycapBorder: Qt.rgba(111 / 255, 98 / 255, 80 / 255, 0.26)
     property color keycapBorderSelected: Qt.rgba(1, 1, 1, 0.42)
 
-    // Around what floats, from the inside to the outside; and over what lies below a dialog.
+    // The shadow around floating boxes, from the inside to the outside, and the veil below a dialog.
     property color shadowInner: "#0c40382c"
     property color shadowMiddle: "#0a40382c"
     property color shadowOuter: "#0840382c"

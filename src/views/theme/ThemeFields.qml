@@ -20,7 +20,7 @@ QtObject {
         inset: 12
         placeholderInset: 4
     }
-    // The one of the palette.
+    // The palette's field.
     readonly property FieldLook query: FieldLook {
         fill: fields.colours.field
         fillAtRest: fields.colours.paletteFieldAtRest

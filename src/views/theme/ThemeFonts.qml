@@ -1,6 +1,6 @@
 import QtQuick
 
-// Sizes (in pixels) and weights of texts, the largest first. The family is the program's one, from NativeTheme.h.
+// Sizes (in pixels) and weights of texts, the largest first. NativeTheme.h has the family.
 QtObject {
     readonly property font query: Qt.font({pixelSize: 26, weight: Font.ExtraBold})
     readonly property font pageTitle: Qt.font({pixelSize: 24, weight: Font.ExtraBold})
@@ -13,7 +13,7 @@ QtObject {
     readonly property font applicationName: Qt.font({pixelSize: 15, weight: Font.Bold})
     // Of a row in a list, an entry of the sidebar, a button.
     readonly property font name: Qt.font({pixelSize: 14, weight: Font.Bold})
-    // What says what a control is for, or what was chosen with it.
+    // Labels of controls, and the choice that a control shows.
     readonly property font label: Qt.font({pixelSize: 14, weight: Font.DemiBold})
     readonly property font body: Qt.font({pixelSize: 14, weight: Font.Medium})
     // In capsules and segments.

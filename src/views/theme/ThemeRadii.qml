@@ -1,8 +1,8 @@
 import QtQuick
 
-// Radii of round corners. What ends in half a circle has half its own height instead.
+// Radii of round corners. Boxes that end in half a circle use half their own height instead.
 QtObject {
-    // Of what floats on the desktop or over a window.
+    // Of boxes that float on the desktop or over a window.
     readonly property real window: 24
     readonly property real popup: 16
 

@@ -178,7 +178,7 @@ TEST_F(AppCoordinatorTest, AnotherApplicationTakesTheOpenPaletteOver) {
     workspace_.bringToFront(browser_.running);
     pressHotKey();
     EXPECT_EQ(titles(), Titles{"Reload"});
-    // An activation that was told would have closed the palette.
+    // A reported activation would have closed the palette.
     workspace_.bringToFrontUntold(nameless_.running);
     EXPECT_TRUE(panel_->isVisible());
     pressHotKey();
@@ -196,7 +196,7 @@ TEST_F(AppCoordinatorTest, AMenuCommandIsPressedOnceItsApplicationIsInFrontAgain
     EXPECT_EQ(history().rankSignals("menu:org.editor:File/Save").usageCount, 1);
     queue_.advance(199ms);
     EXPECT_EQ(editor_.items[1]->performedActions(), Actions{});
-    // What is prepared meanwhile for another application does not change what is pressed.
+    // A list that is prepared meanwhile for another application does not change which item is pressed.
     workspace_.bringToFront(browser_.running);
     pressHotKey();
     queue_.advance(1ms);
@@ -251,7 +251,7 @@ TEST_F(AppCoordinatorTest, AShortcutThatCannotBeForwardedIsNotSwallowedSilently)
     pressHotKey();
     RulesStore(preferences_, textServices_).setBehavior(AppBehaviorRule::disabled, "org.editor");
     center_.press(standard);
-    center_.press(standard); // the key repeats itself
+    center_.press(standard); // the key repeats
     EXPECT_FALSE(panel_->isVisible());
     EXPECT_EQ(center_.registrations(standard), 1U);
     EXPECT_EQ(userInterface_.beeps(), 1);
@@ -523,7 +523,7 @@ TEST_F(AppCoordinatorTest, TheSettingsAreThoseOfTheApplicationInFrontWhenTheyWer
     ASSERT_EQ(model.menuRuleCandidates().get().size(), 3U) << "File, Open, Save";
     EXPECT_EQ(coordinator_->currentApplication(), nullptr) << "the palette's target is another matter";
 
-    // What is edited holds for the palette that is opened next.
+    // Edits apply to the palette that is opened next.
     workspace_.bringToFront(browser_.running);
     model.reload();
     EXPECT_EQ(model.currentApplication().get()->bundleID, Text("org.editor"));

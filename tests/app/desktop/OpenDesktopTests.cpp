@@ -14,7 +14,7 @@
 namespace tovrel {
 namespace {
 
-/// What a process with this environment says when it is to find the front application.
+/// The error of a process with this environment that looks for the front application.
 std::string failureWith(const char* display, const char* waylandDisplay) {
     setenv("DISPLAY", display, 1);
     setenv("WAYLAND_DISPLAY", waylandDisplay, 1);

@@ -31,7 +31,7 @@ class PreferencesCommands : public testing::Test {
         return out.str();
     }
 
-    /// The one error line of a command that fails with the status.
+    /// The error line of a command, which must fail with the status.
     template <typename Command>
     std::string failureOf(int status, const Command& command) {
         std::ostringstream error;

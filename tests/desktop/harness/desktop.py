@@ -139,8 +139,8 @@ class Desktop:
             self._session_bus = start_session_bus(self.processes, self.environment)
             self.witness = Witness(start_accessibility_bus(self.environment["DBUS_SESSION_BUS_ADDRESS"]))
             self._teardown.callback(self.witness.close)
-        # A key is pressed before there is a window manager, because the first key on a display makes every client
-        # read the keyboard's layout anew, and a window manager that does so misses keys.
+        # A key is pressed before there is a window manager, because the first key on a display makes every client read
+        # the keyboard's layout again, and a window manager that does so misses keys.
         self.windows.press_keys("Shift_L")
         if self._window_manager:
             self.start_window_manager()

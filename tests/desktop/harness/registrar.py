@@ -22,7 +22,7 @@ def start_registrar(session_address):
 
     try:
         wait_until(answers, "the registrar of application menus")
-        # It obeys this call without an answer.
+        # It handles this call without an answer.
         bus.send(NAME, "/Registrar", "org.valapanel.AppMenu.Registrar", "Reference")
         wait_until(answers, "the registrar to be held")
     finally:

@@ -29,6 +29,6 @@ def private_environment(root):
     environment["LANG"] = LOCALE
     environment["LOCPATH"] = str(locale_folder())
     environment["TOVREL_PREFERENCES"] = str(Path(root) / "home" / "preferences.db")
-    # Applications keep their settings in files of their own and need no daemon for them.
+    # Applications keep their settings in their own files and need no daemon.
     environment["GSETTINGS_BACKEND"] = "memory"
     return environment

@@ -90,7 +90,7 @@ class Windows:
         self._xdotool("mousedown", "1", "mousemove_relative", "--", str(right), str(down), "mouseup", "1")
 
     def has_window_manager(self):
-        # It announces itself before it listens, and publishes windows and focus after that, in an order of its own.
+        # A window manager announces itself before it listens, and publishes windows and focus later, in any order.
         announced = self._window_property(None, "_NET_SUPPORTING_WM_CHECK")
         return (announced is not None and self._window_property(announced, "_NET_SUPPORTING_WM_CHECK") == announced
                 and any(self._window_property(None, name) is not None

@@ -9,7 +9,7 @@ ACCESSIBLE = "org.a11y.atspi.Accessible"
 APPLICATIONS = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
 REGISTRY = ("org.a11y.atspi.Registry", "/org/a11y/atspi/registry")
 NULL_OBJECT = "/org/a11y/atspi/null"  # Qt answers this for a child that it cannot name.
-ON_SCREEN = 0  # The coordinates that extents are asked in.
+ON_SCREEN = 0  # The coordinate system of extents.
 STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "sensitive": 24, "showing": 25, "visible": 30}
 
 

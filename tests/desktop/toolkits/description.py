@@ -48,7 +48,7 @@ class Conditional:
     what: str
     allow: Callable[["Running"], None]
     forbid: Callable[["Running"], None]
-    # Makes an application tell the change that does not do so at once; the reason is in `no_state`.
+    # Makes an application report a change that it does not report at once; the reason is in `no_state`.
     refresh: Callable[["Running"], None] | None = None
     no_state: str = ""
 
@@ -79,10 +79,10 @@ class Description:
     dialog: Path_ | None = None
     # A command that is gone, rather than disabled, when it was read and then forbidden.
     stale: Conditional | None = None
-    # Present where the application has one whose change can be seen outside its menu.
+    # Present if the application has a choice whose change can be seen outside its menu.
     choice: Choice | None = None
     more_packages: Path_ = ()
-    # A command that is run to its end first, with the same directory.
+    # A command that is run to its end first, in the same directory.
     first_command: Callable[[Path], list] | None = None
     environment: dict = field(default_factory=dict)
     # Whether it has read the document.

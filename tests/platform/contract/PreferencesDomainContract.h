@@ -13,7 +13,7 @@
 
 namespace tovrel {
 
-/// What each preferences domain promises. A rig has an empty one:
+/// The contract of a preferences domain. A rig has an empty one:
 ///
 ///     PreferencesDomain& domain()
 template <typename Rig>
@@ -33,7 +33,7 @@ class PreferencesDomainContract : public testing::Test {
     Rig rig_;
 };
 
-/// What the resident program puts before each domain, as a rig.
+/// A rig of the domain that the resident program puts in front of another one.
 template <typename StoredRig>
 class LastKnownPreferencesRig {
   public:
@@ -69,10 +69,10 @@ TYPED_TEST_P(PreferencesDomainContract, GivesBackEveryValueWithItsTypeAndBytes) 
                                                  true,
                                                  false};
     for (const PreferenceValue& value : values) {
-        ASSERT_TRUE(domain.set("key", value)); // each replaces the one before, of whatever type
+        ASSERT_TRUE(domain.set("key", value)); // each replaces the previous one, of whatever type
         EXPECT_EQ(domain.value("key"), value) << value.index();
     }
-    // Equal texts may differ in their bytes; the bytes are what was given.
+    // Equal texts may differ in their bytes; the given bytes are stored.
     ASSERT_TRUE(domain.set("key", Text("E\u0301")));
     EXPECT_EQ(std::get<Text>(*domain.value("key")).utf8(), "E\u0301");
 

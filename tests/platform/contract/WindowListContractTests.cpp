@@ -23,7 +23,7 @@ std::chrono::steady_clock::time_point after(std::chrono::milliseconds duration) 
     return std::chrono::steady_clock::now() + duration;
 }
 
-/// The user and the desktop, as the suite needs them of each implementation.
+/// Plays the user and the desktop; each implementation has such a stage for the suite.
 class MemoryStage {
   public:
     WindowIdentifier open(std::int32_t process, const std::string& title) {

@@ -45,7 +45,7 @@ ChildProcess::ChildProcess(const std::function<int(int)>& function) {
     processIdentifier_ = fork();
     require(processIdentifier_ >= 0, "fork");
     if (processIdentifier_ == 0) {
-        // A forgotten child would outlive a test that was ended: the deadline is the test program's own.
+        // A forgotten child would outlive a test that was ended; the deadline is that of the test program.
         alarm(100);
         pipe.input = FileDescriptor();
         const int status = function(pipe.output.get());

@@ -17,7 +17,7 @@ struct Pipe {
     FileDescriptor output;
 };
 
-/// Holds processes back until others have reached a point. Made before the processes are forked.
+/// Holds processes back until others have reached a point. Must be made before the processes are forked.
 class Barrier {
   public:
     void pass(int times = 1) const;
@@ -30,7 +30,7 @@ class Barrier {
 /// A fork of the test program that runs a function and ends with its result as exit status.
 class ChildProcess {
   public:
-    /// The function is given a descriptor to write to; `output` reads it.
+    /// The function gets a descriptor to write to; `output` reads it.
     explicit ChildProcess(const std::function<int(int output)>& function);
     ChildProcess(ChildProcess&& other) noexcept;
     ChildProcess& operator=(ChildProcess&&) = delete;
@@ -40,7 +40,8 @@ class ChildProcess {
     ~ChildProcess();
 
     void kill();
-    /// Waits for the end; negative: the signal that ended it.
+    /// Waits for the end and returns the exit status, or the negative number of the signal that ended the
+    /// process.
     int exitStatus();
     /// Everything that the process has written and will write until its end.
     std::string output();
@@ -50,7 +51,7 @@ class ChildProcess {
     FileDescriptor output_;
 };
 
-/// Runs the function in a child process and returns the text it returned, e.g. what went wrong.
+/// Runs the function in a child process and returns its result, e.g. a description of a failure.
 std::string inChildProcess(const std::function<std::string()>& function);
 
 } // namespace tovrel

@@ -11,13 +11,13 @@ namespace tovrel {
 class ServerProcess {
   public:
     /// Starts the program with a pipe whose number replaces "{fd}" in the arguments, and reads the first line
-    /// the program writes there: servers announce their address on it once they listen.
+    /// from it: servers write their address there once they listen.
     explicit ServerProcess(std::vector<std::string> arguments);
     ~ServerProcess();
     ServerProcess(const ServerProcess&) = delete;
     ServerProcess& operator=(const ServerProcess&) = delete;
 
-    /// Empty when the program could not be started.
+    /// The announced line; empty when the program could not be started.
     [[nodiscard]] const std::string& announced() const { return announced_; }
 
   private:

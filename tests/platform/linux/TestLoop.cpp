@@ -35,7 +35,7 @@ void TestLoop::runDueTasks() {
 }
 
 void TestLoop::waitAndDispatch(std::chrono::steady_clock::time_point deadline) {
-    // Conditions may depend on other processes, so they are looked at every few milliseconds in any case.
+    // Conditions may depend on other processes, so they are checked every few milliseconds in any case.
     auto next = std::min(deadline, std::chrono::steady_clock::now() + 5ms);
     if (!tasks_.empty()) {
         next = std::min(next, tasks_.begin()->first);

@@ -10,7 +10,7 @@
 
 namespace tovrel {
 
-/// A main loop over event sources, as long as a test needs it.
+/// A main loop over event sources for tests.
 class TestLoop : public MainQueue {
   public:
     void post(Task task) override { postAfter(std::chrono::milliseconds(0), std::move(task)); }
@@ -19,11 +19,11 @@ class TestLoop : public MainQueue {
     void watch(EventSource& source) { sources_.push_back(&source); }
     void forget(const EventSource& source) { std::erase(sources_, &source); }
 
-    /// Runs until the condition holds; false when it does not before the test's deadline.
+    /// Runs until the condition holds; returns false if it does not before the test's deadline.
     bool runUntil(const std::function<bool()>& condition,
                   std::chrono::milliseconds patience = std::chrono::seconds(10));
 
-    /// How many times a source had something to tell, timers aside.
+    /// How often a source had events, not counting timers.
     [[nodiscard]] int wakeUps() const { return wakeUps_; }
 
   private:

@@ -65,7 +65,7 @@ TEST(Recording, MembersOfAWrongTypeCountAsMissing) {
     EXPECT_EQ(wrong.application->bundleIdentifier(), std::nullopt);
     EXPECT_EQ(wrong.application->localizedName(), std::nullopt);
     EXPECT_EQ(wrong.application->processIdentifier(), unknownProcessIdentifier);
-    ASSERT_EQ(topLevelMenus(wrong).size(), 2U); // what is no object is no element
+    ASSERT_EQ(topLevelMenus(wrong).size(), 2U); // only objects are elements
     for (const Element& element : topLevelMenus(wrong)) {
         EXPECT_EQ(element->string("AXTitle"), std::nullopt);
         EXPECT_EQ(element->boolean("AXEnabled"), std::nullopt);
@@ -83,7 +83,7 @@ TEST(Recording, MembersOfAWrongTypeCountAsMissing) {
 
 TEST(Recording, ProcessIdentifiersAreKeptIfTheyFit) {
     const std::map<std::string, std::int32_t> expected{
-        {"0", 0}, // of an application that cannot be read
+        {"0", 0}, // an application that cannot be read
         {"-5", -5},
         {"1e3", 1000},
         {"2147483647", 2147483647},
@@ -248,7 +248,7 @@ TEST(Recording, WritingEndsOnEndlessTreesAndCanBeReadBack) {
     EXPECT_THROW(static_cast<void>(write(application, rootOf({endless}).get())), Error);
     endless->set("AXTitle", Text(std::string(1'000'000, 'x')));
     EXPECT_THROW(static_cast<void>(write(application, rootOf({endless}).get())), Error);
-    endless->set("AXChildren", std::vector<Element>()); // else it would own itself
+    endless->set("AXChildren", std::vector<Element>()); // otherwise it would own itself
 }
 
 } // namespace

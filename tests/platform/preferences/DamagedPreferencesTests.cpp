@@ -42,7 +42,7 @@ class DamagedPreferences : public PreferencesFixture {
         ASSERT_TRUE(stream.flush());
     }
 
-    /// The domain is empty and writable, the damaged bytes are under another name, and one report was made.
+    /// Expects the domain to be empty and writable, the damaged bytes under another name, and one report.
     void expectSetAside(SqlitePreferencesDomain& domain, const std::string& damagedBytes) {
         EXPECT_TRUE(domain.lastReadSucceeded());
         EXPECT_TRUE(domain.all().empty());

@@ -37,7 +37,7 @@ TEST_F(LockPatienceTest, OperationsOfAPeriodShareIt) {
 
     now_ += 5s;
     patience.beginOperation();
-    EXPECT_TRUE(patience.waitAMoment()); // the lock was let go
+    EXPECT_TRUE(patience.waitAMoment()); // the lock was released
     EXPECT_EQ(operation(patience), 99ms);
 }
 

@@ -20,14 +20,14 @@ class PreferencesDurability : public PreferencesFixture {
 
     static std::string keyOf(int number) { return "key" + std::to_string(number % keyCount); }
 
-    /// Values of very different sizes, each naming its number.
+    /// Values of very different sizes, each with its number.
     static std::string valueOf(int number) {
         return std::to_string(number) + ":" +
                std::string(static_cast<std::size_t>(number * 7919 % 20000), 'x');
     }
 };
 
-/// A process writes numbered values until it is killed, and a byte for each one that the domain called
+/// A process writes numbered values until it is killed, and a byte for each value that the domain reported as
 /// stored.
 TEST_F(PreferencesDurability, AProcessKilledWhileWritingLosesNoAcknowledgedValue) {
     constexpr int rounds = 20;
@@ -61,7 +61,7 @@ TEST_F(PreferencesDurability, AProcessKilledWhileWritingLosesNoAcknowledgedValue
         for (int number = std::max(0, acknowledged - keyCount); number < acknowledged; ++number) {
             const std::optional<std::string> stored = dataValue(domain, keyOf(number));
             ASSERT_TRUE(stored) << "value " << number << " of " << acknowledged;
-            // The write that was under way may have replaced the oldest of them, whole.
+            // The interrupted write may have replaced the oldest value completely.
             const bool isNext = keyOf(number) == keyOf(acknowledged) && *stored == valueOf(acknowledged);
             ASSERT_TRUE(isNext || *stored == valueOf(number)) << "value " << number << " of " << acknowledged;
         }

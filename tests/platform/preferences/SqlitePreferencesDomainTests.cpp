@@ -135,7 +135,7 @@ TEST_F(SqlitePreferences, FilesOfALaterVersionOrAnotherProgramAreReportedAndNeve
     EXPECT_TRUE(open.value("key"));
     execute(file(), "PRAGMA user_version = 2");
     const std::string newer = bytesOf(file());
-    EXPECT_EQ(open.value("key"), std::nullopt); // also when it changes while it is open
+    EXPECT_EQ(open.value("key"), std::nullopt); // even if it changes while it is open
     EXPECT_FALSE(open.lastReadSucceeded());
     EXPECT_FALSE(open.set("key", false));
     EXPECT_FALSE(open.remove("key"));
@@ -231,8 +231,8 @@ TEST_F(SqlitePreferences, ALockHeldByAnotherProgramCostsTheWriteButNotTheValue) 
     EXPECT_FALSE(domain.lastReadSucceeded());
     ASSERT_EQ(sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr), SQLITE_OK);
     sqlite3_close(other);
-    // The file is writable again, but a value that a caller made of the missing one must not replace the real
-    // one.
+    // The file is writable again, but a value that a caller derived from the missing one must not replace the
+    // real one.
     EXPECT_FALSE(domain.set("key", Text("made of nothing")));
     EXPECT_TRUE(domain.set("other", true));
     EXPECT_EQ(domain.value("key"), PreferenceValue(Text("kept")));

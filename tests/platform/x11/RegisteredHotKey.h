@@ -6,7 +6,7 @@
 
 namespace tovrel {
 
-/// A registration and what the X server has said to it.
+/// A registration and the X server's answer.
 struct RegisteredHotKey {
     HotKeyHandle handle = 0;
     HotKeyOutcome outcome;

@@ -65,7 +65,7 @@ class X11HotKeyCenterTest : public X11ServerTest {
         return tovrel::registered(center_, keyCode, commandShift).outcome;
     }
 
-    /// Without a window manager each window takes the focus for itself when it is its turn.
+    /// Makes each window take the focus itself when it is its turn, because there is no window manager.
     void focusByThemselves() {
         panel_.onVisibility = [this](bool isVisible) { (isVisible ? panel_ : front_).focus(); };
         front_.map();
@@ -113,7 +113,7 @@ class X11HotKeyCenterTest : public X11ServerTest {
     X11TestKeyboard keyboard_{display_};
     std::vector<HotKeyEventKind> events_;
 
-    /// Ctrl+Shift+P and ten keys in one write, the panel being hidden and shown in turn: the keys must all
+    /// Types Ctrl+Shift+P and ten keys in one write, which hides and shows the panel in turn. All keys must
     /// reach the window that the hot key leaves in front, and no other.
     void toggleAndType(int rounds) {
         const std::vector<std::uint32_t> modifierKeys{keyControl, keyShift};
@@ -162,7 +162,7 @@ TEST_F(X11HotKeyCenterTest, TheFrontWindowSeemsFocusedWhileTheHandlerRuns) {
     registered();
     bool seemedFocused = false;
     onPress = [&] {
-        // Any answer will do: what the server had to say to the window before it has come by then.
+        // Any answer will do, because the server's earlier events for the window have come by then.
         xcb_connection_t* connection = front_.connection().handle();
         const XcbOwned<xcb_get_input_focus_reply_t> answer(
             xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
@@ -234,7 +234,7 @@ TEST_F(X11HotKeyCenterTest, RefusesWhatItCannotHaveAndKeepsNothingOfIt) {
 TEST_F(X11HotKeyCenterTest, LetsTheKeyboardGoWhenTheWindowNeverGetsTheFocus) {
     focusByThemselves();
     registered();
-    isPanelShown_ = true; // What is said of it; it is not.
+    isPanelShown_ = true; // The stage says so, but it is not.
     pressHotKey();
     releaseHotKey();
     typeTenKeys();
@@ -242,7 +242,7 @@ TEST_F(X11HotKeyCenterTest, LetsTheKeyboardGoWhenTheWindowNeverGetsTheFocus) {
     ASSERT_TRUE(loop_.runUntil([&] { return front_.presses().size() == 12; }));
     ASSERT_TRUE(loop_.runUntil([&] { return releases() == 1; }));
 
-    // The same for a window that does not exist, and for a handler that waits for keys itself.
+    // The same applies to a window that does not exist, and to a handler that waits for keys itself.
     front_.forget();
     destination_ = [] { return KeyDestination{0x7FFFFFF, true}; };
     onPress = [this] {
@@ -264,7 +264,7 @@ TEST_F(X11HotKeyCenterTest, LetsTheKeyboardGoWhenTheWindowNeverGetsTheFocus) {
 TEST_F(X11HotKeyCenterTest, LetsTheKeyboardGoWhileItsThreadIsBlocked) {
     focusByThemselves();
     registered();
-    // Nothing of the center is dispatched in here; the second press is one that its thread does not know of.
+    // Nothing of the center is dispatched in here; its thread does not know of the second press.
     onPress = [this] {
         onPress = nullptr;
         TestLoop elsewhere;
@@ -284,7 +284,7 @@ TEST_F(X11HotKeyCenterTest, LetsTheKeyboardGoWhileItsThreadIsBlocked) {
     keyboard_.flush();
     ASSERT_TRUE(loop_.runUntil([&] { return presses() == 2 && releases() == 2; }));
 
-    // Whatever was done too late has not ended a later hold.
+    // Late requests have not ended a later hold.
     toggleOnPress();
     toggleAndType(5);
 }
@@ -344,7 +344,7 @@ TEST_F(X11HotKeyCenterTest, ReportsPressesOfAHeldKeyAndOneRelease) {
 
 TEST_F(X11HotKeyCenterTest, GivesTheKeyboardBackWithAKeyThatIsHeld) {
     focusByThemselves();
-    isPanelShown_ = true; // Would be waited for.
+    isPanelShown_ = true; // The center would wait for it.
     HotKeyHandle handle = registered();
     onPress = [&] { center_.unregisterHotKey(handle); };
     X11TestKeyboard keyboard(display_, X11TestKeyboard::Kind::real);
@@ -359,7 +359,7 @@ TEST_F(X11HotKeyCenterTest, GivesTheKeyboardBackWithAKeyThatIsHeld) {
     }));
     EXPECT_EQ(presses(), 1);
 
-    // Registered anew while the key is still down and repeats itself, it is not pressed before it came up.
+    // A hot key that is registered again while the key is down and repeats counts only after the key came up.
     onPress = nullptr;
     keyboard.press(keyP);
     keyboard.flush();
@@ -372,7 +372,7 @@ TEST_F(X11HotKeyCenterTest, GivesTheKeyboardBackWithAKeyThatIsHeld) {
     ASSERT_TRUE(loop_.runUntil([&] { return presses() == 2; }));
     EXPECT_EQ(releases(), 0) << "of the press before it was unregistered";
 
-    // While the focus is waited for.
+    // This happens while the center waits for the focus.
     center_.unregisterHotKey(handle);
     keyboard.tap(keyK);
     for (const std::uint32_t key : {keyControl, keyShift, keyP}) {
@@ -412,7 +412,7 @@ TEST_F(X11HotKeyCenterTest, TakesTheKeyboardFromEveryHotKey) {
     EXPECT_TRUE(other.keys().empty());
     EXPECT_EQ(presses(), 0);
 
-    // The window that has the focus learns nothing of it, and gets the key that is passed on.
+    // The window with the focus does not notice, and gets the key that is passed on.
     center_.giveKeyboardBack(false);
     const std::uint32_t passedOn = keyReturn;
     ASSERT_TRUE(center_.takeKeyboard([&](const KeyEvent&) { center_.giveKeyboardBack(true); }, {}));
@@ -516,7 +516,7 @@ TEST_F(X11HotKeyCenterTest, FollowsTheKeyboardAndItsLayout) {
         events_.clear();
     }
 
-    // Another modifier carries Super from here on: the third instead of the fourth of those without a name.
+    // Super moves to another modifier: from the fourth to the third of those without a name.
     xcb_connection_t* connection = keyboard_.connection().handle();
     const XcbOwned<xcb_get_modifier_mapping_reply_t> mapping(
         xcb_get_modifier_mapping_reply(connection, xcb_get_modifier_mapping(connection), nullptr));

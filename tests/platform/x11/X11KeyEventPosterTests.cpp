@@ -37,7 +37,7 @@ class X11KeyEventPosterTest : public X11ServerTest {
         ASSERT_TRUE(loop_.runUntil([&] { return front_.hasFocus(); }));
     }
 
-    /// The presses of one key that the front window gets until it has got its release as well.
+    /// The presses of one key that the front window gets until its release.
     std::vector<Key> pressesUntilReleased(std::uint32_t keyCode) {
         EXPECT_TRUE(loop_.runUntil([&] {
             return std::any_of(front_.keys().begin(), front_.keys().end(), [&](const Key& key) {
@@ -99,13 +99,13 @@ TEST_F(X11KeyEventPosterTest, TakesWhatTheUserHoldsIntoAccount) {
     EXPECT_EQ(user_.modifiers(), 0);
     EXPECT_TRUE(user_.down().empty());
 
-    // What was put back does not stand in the way of a press later on.
+    // A key that was put back does not disturb a later press.
     front_.forget();
     ASSERT_TRUE(poster_.postKeyPress(keyK, modifier_flags::shift));
     EXPECT_EQ(pressesUntilReleased(keyK), (std::vector<Key>{{keyK, true, XCB_MOD_MASK_SHIFT}}));
     EXPECT_TRUE(user_.down().empty());
 
-    // Nobody's finger is on a key that another program plays, so it is not put back.
+    // The user does not hold a key that another program plays, so it is not put back.
     X11TestKeyboard program(display_);
     program.press(keyAlt);
     program.flush();

@@ -9,7 +9,7 @@
 
 namespace tovrel {
 
-/// A test with an X server of its own.
+/// A test with a private X server.
 class X11ServerTest : public testing::Test {
   protected:
     void startWindowManager() { desktop_.startWindowManager(); }

@@ -103,7 +103,7 @@ void X11TestKeyboard::tap(std::uint32_t keyCode) {
 }
 
 void X11TestKeyboard::flush() {
-    static_cast<void>(modifiers()); // Answered after everything before it is done.
+    static_cast<void>(modifiers()); // The server answers after all earlier requests.
 }
 
 std::vector<std::uint32_t> X11TestKeyboard::down() {

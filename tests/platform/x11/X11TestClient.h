@@ -10,13 +10,13 @@
 
 namespace tovrel {
 
-/// A program with one window that writes down the keys it gets, in the order in which they come.
+/// A program with one window that records the keys it gets, in their order.
 class X11TestClient : public EventSource {
   public:
     struct Key {
         std::uint32_t keyCode = 0; ///< Virtual.
         bool isPress = false;
-        std::uint16_t state = 0; ///< Modifiers of the protocol.
+        std::uint16_t state = 0; ///< The protocol's modifiers.
         friend bool operator==(const Key&, const Key&) = default;
     };
 
@@ -25,11 +25,11 @@ class X11TestClient : public EventSource {
     [[nodiscard]] xcb_window_t window() const { return window_; }
     void map();
     void unmap();
-    /// Takes the input focus as programs do where no window manager gives it.
+    /// Takes the input focus as programs do without a window manager.
     void focus();
-    /// Whether it has the focus, grabs of others aside.
+    /// Whether it has the focus, ignoring grabs by others.
     [[nodiscard]] bool hasFocus() const { return hasFocus_; }
-    /// Whether a toolkit that takes a grab for a move of the focus, as GTK does, holds the window for
+    /// Whether a toolkit that mistakes a grab for a move of the focus, as GTK does, believes the window
     /// focused.
     [[nodiscard]] bool seemsFocused() const { return seemsFocused_; }
     [[nodiscard]] bool isMapped() const { return isMapped_; }
@@ -54,10 +54,10 @@ class X11TestClient : public EventSource {
     bool isMapped_ = false;
 };
 
-/// Plays keys, by their virtual key codes.
+/// Plays keys by their virtual key codes.
 class X11TestKeyboard {
   public:
-    /// Of the extension for tests, which other programs use as well; or the real one of the server.
+    /// The test extension's keyboard, which other programs use too, or the server's real one.
     enum class Kind { synthetic, real };
 
     explicit X11TestKeyboard(const std::string& display, Kind kind = Kind::synthetic);
@@ -65,7 +65,7 @@ class X11TestKeyboard {
     void press(std::uint32_t keyCode) { play(keyCode, true); }
     void release(std::uint32_t keyCode) { play(keyCode, false); }
     void tap(std::uint32_t keyCode);
-    /// Sends all that was played in one write; returns when the server has it all behind it.
+    /// Sends all played keys in one write; returns when the server has handled them.
     void flush();
 
     /// The virtual key codes of the keys that are down; 1000 and more for keys without one.

@@ -66,7 +66,7 @@ TEST_F(X11WindowListTest, WhatAKilledWindowManagerHasSaidCountsNoMore) {
     stage_.killManager();
     stage_.setActive(active);
     EXPECT_EQ(windows_.activeWindow(after(0ms))->title, Text("Focused"));
-    // Somebody else may have got the number of the window since.
+    // Another window may have got the number since.
     stage_.setWindows(stage_.root(), "_NET_SUPPORTING_WM_CHECK", {active});
     EXPECT_EQ(windows_.activeWindow(after(0ms))->title, Text("Focused"));
     stage_.announceManager();

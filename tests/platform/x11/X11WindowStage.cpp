@@ -62,7 +62,7 @@ xcb_window_t X11WindowStage::focused() {
 }
 
 void X11WindowStage::waitForServer() {
-    static_cast<void>(focused()); // Any question is answered after what was asked before.
+    static_cast<void>(focused()); // The server answers any question after all earlier requests.
 }
 
 void X11WindowStage::announceManager() {
@@ -77,7 +77,7 @@ void X11WindowStage::killManager() {
 }
 
 std::vector<X11WindowStage::Request> X11WindowStage::requests(const char* message) {
-    waitForServer(); // What was sent before has arrived with the answer.
+    waitForServer(); // Earlier events arrive with the answer.
     std::vector<Request> found;
     while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(connection())}) {
         const auto& received = reinterpret_cast<const xcb_client_message_event_t&>(*event);

@@ -10,7 +10,7 @@
 
 namespace tovrel {
 
-/// A private X server whose applications and window manager are the test.
+/// A private X server on which the test plays the applications and the window manager.
 class X11WindowStage {
   public:
     /// A message to the window manager.
@@ -19,7 +19,7 @@ class X11WindowStage {
         std::vector<std::uint32_t> data;
     };
 
-    /// With a window manager. Throws where there is no Xvfb.
+    /// Starts with a window manager. Throws if Xvfb is missing.
     X11WindowStage();
 
     [[nodiscard]] const std::string& name() const { return name_; }
@@ -28,14 +28,14 @@ class X11WindowStage {
     [[nodiscard]] xcb_window_t manager() const { return manager_; }
     [[nodiscard]] xcb_atom_t atom(const char* atomName) { return connection_->atom(atomName); }
 
-    /// A window that the manager does not list.
+    /// Makes a window that the manager does not list.
     xcb_window_t make(std::uint32_t process, const std::string& title, xcb_window_t parent = 0);
-    /// A window above the others.
+    /// Makes a window above the others.
     xcb_window_t open(std::uint32_t process, const std::string& title);
-    /// 0: none is.
+    /// Makes a window active; 0 makes none active.
     void setActive(xcb_window_t window) { setWindows(root(), "_NET_ACTIVE_WINDOW", {window}); }
 
-    /// These return when the server has done it.
+    /// These return when the server has handled the request.
     void setText(xcb_window_t window, const char* property, const std::string& value);
     void setWindows(xcb_window_t window, const char* property, const std::vector<xcb_window_t>& windows) {
         setNumbers(window, property, windows, XCB_ATOM_WINDOW);
@@ -46,11 +46,11 @@ class X11WindowStage {
     void focus(xcb_window_t window);
     [[nodiscard]] xcb_window_t focused();
 
-    /// As window managers do; the window goes when one is killed, and the rest stays.
+    /// Announces a window manager. When one is killed, its window goes but its properties stay.
     void announceManager();
     void killManager();
 
-    /// What the window manager was asked with this message since the last call.
+    /// The requests to the window manager with this message since the last call.
     std::vector<Request> requests(const char* message);
 
   private:

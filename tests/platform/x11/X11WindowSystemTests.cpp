@@ -7,7 +7,7 @@
 namespace tovrel {
 namespace {
 
-/// The connection is the window manager's as well, which makes no difference.
+/// The window manager shares the connection, which makes no difference.
 class X11WindowSystemTest : public testing::Test {
   protected:
     X11WindowStage stage_;
@@ -51,7 +51,7 @@ TEST_F(X11WindowSystemTest, TheFocusIsTheWindowManagersToGiveWhereThereIsOne) {
     EXPECT_EQ(stage_.focused(), within);
     system_.activate(own);
     EXPECT_TRUE(system_.hasInputFocus(own));
-    system_.giveFocus(0x7FFFFFF); // Gone: nothing happens, and nobody is told.
+    system_.giveFocus(0x7FFFFFF); // A window that is gone: nothing happens, and no error is reported.
     EXPECT_TRUE(system_.hasInputFocus(own));
 }
 

@@ -14,7 +14,7 @@
 
 namespace tovrel {
 
-/// A palette's panel with its models, and what it called.
+/// A palette's panel with its models, and a record of its calls.
 struct PaletteStage {
     explicit PaletteStage(std::unique_ptr<WindowSystem> system = std::make_unique<QtWindowSystem>())
         : windowSystem(std::move(system)),

@@ -60,7 +60,7 @@ class PaletteViewTest : public testing::Test {
         return list();
     }
 
-    /// Whether the highlighted row can be seen whole, with the highlight behind it.
+    /// Whether the highlighted row is wholly visible, with the highlight behind it.
     bool isHighlightInSight() {
         const QQuickItem* row = selectedRow();
         const QQuickItem* highlight = item("highlight");
@@ -106,7 +106,7 @@ TEST_F(PaletteViewTest, TypingFiltersWithoutStartingAnew) {
     }
     EXPECT_EQ(model()->rowCount(), before);
     EXPECT_EQ(resets.count() + layouts.count(), 0);
-    // Rows come and go at the end only.
+    // Rows come and go only at the end.
     int count = before;
     ASSERT_FALSE(changes.empty());
     for (const auto& [isInsertion, first, last] : changes) {
@@ -161,7 +161,7 @@ TEST_F(PaletteViewTest, TheSelectedRowIsAlwaysInSight) {
         EXPECT_TRUE(isHighlightInSight()) << row;
         QCoreApplication::processEvents();
         EXPECT_TRUE(isHighlightInSight()) << row;
-        // Nor is it faded at the ends of the list.
+        // It must not be faded at the ends of the list either.
         const QImage picture = window().grabWindow();
         for (const int y : {10, 40}) {
             const QPoint besideTheBadge = selectedRow()->mapToScene(QPointF(6, y)).toPoint();
@@ -173,7 +173,7 @@ TEST_F(PaletteViewTest, TheSelectedRowIsAlwaysInSight) {
     type("e");
     EXPECT_EQ(list()->property("contentY").toDouble(), 0);
     EXPECT_TRUE(isHighlightInSight());
-    // So does a new list, and results that had been away.
+    // So does a new list, and results that come back.
     stage_.viewModel.moveSelection(15);
     showMousepad();
     EXPECT_EQ(list()->property("contentY").toDouble(), 0);
@@ -214,7 +214,7 @@ TEST_F(PaletteViewTest, TheKeyHandlerSeesKeysFirstAndKeepsWhatItUses) {
     std::vector<KeyEvent> seen;
     stage_.panel.setKeyHandler([&](const KeyEvent& event) {
         if (event.charactersIgnoringModifiers || event.keyCode != key_codes::unknown) {
-            seen.push_back(event); // not the modifier keys, which are pressed as well
+            seen.push_back(event); // without the modifier keys, which are pressed too
         }
         return keyboardAction(event, stage_.textServices).has_value();
     });

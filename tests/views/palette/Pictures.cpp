@@ -1,5 +1,5 @@
-// Draws every state of what there is to see, at three scales, over a light and over a dark desktop, into a
-// folder: for people to look at.
+// Draws every state of the views, at three scales, over a light and over a dark desktop, into a folder for
+// people to look at.
 //
 // usage: tovrel_view_pictures FOLDER
 
@@ -120,8 +120,7 @@ class Pictures {
             QImage picture(window.width() + 2 * margin, window.height() + 2 * margin, QImage::Format_RGB32);
             picture.fill(desktop.colour);
             QPainter painter(&picture);
-            // What lies outside of the round corners is transparent on a desktop, but not in a grabbed
-            // picture.
+            // The area outside the round corners is transparent on a desktop, but not in a grabbed picture.
             QPainterPath outline;
             outline.addRoundedRect(QRectF(QPointF(margin, margin), window.size()), 24 * scale, 24 * scale);
             painter.setRenderHint(QPainter::Antialiasing);
@@ -132,7 +131,7 @@ class Pictures {
         }
     }
 
-    /// An icon as an application has one.
+    /// Makes an application's icon.
     Text iconFile() {
         const QString file = folder_.absoluteFilePath(QStringLiteral("icon.png"));
         QImage icon(128, 128, QImage::Format_ARGB32_Premultiplied);

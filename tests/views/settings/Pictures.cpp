@@ -1,4 +1,4 @@
-// Draws every page of the settings in every state, at three scales, into a folder: for people to look at.
+// Draws every page of the settings in every state, at three scales, into a folder for people to look at.
 //
 // usage: tovrel_settings_pictures FOLDER
 
@@ -13,7 +13,7 @@
 namespace tovrel {
 namespace {
 
-/// Every text half as long again, as it may be in another language.
+/// Makes every text half as long again, as it may be in another language.
 class LongTexts : public QTranslator {
   public:
     [[nodiscard]] QString translate(const char* /*context*/, const char* text, const char* /*what*/,

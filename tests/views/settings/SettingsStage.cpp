@@ -10,8 +10,7 @@
 namespace tovrel {
 namespace {
 
-/// The virtual key code of an ANSI letter or function key by the number a display has for it (evdev plus 8),
-/// as far as the tests press them.
+/// The virtual key code for a display's key number (evdev plus 8), for the keys that the tests press.
 std::optional<std::uint32_t> keyCodeFromScanCode(std::uint32_t scanCode) {
     switch (scanCode - 8) {
     case 14: // Backspace

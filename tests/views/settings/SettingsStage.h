@@ -22,7 +22,7 @@
 
 namespace tovrel {
 
-/// A user interface in whose alerts something can happen before they are answered.
+/// A user interface in which something can happen before an alert is answered.
 struct AskingUserInterface : MemoryUserInterface {
     [[nodiscard]] AlertAnswer runAlert(const Alert& alert) override {
         if (const auto once = std::exchange(whileAsking, nullptr)) {
@@ -34,7 +34,7 @@ struct AskingUserInterface : MemoryUserInterface {
     std::function<void()> whileAsking;
 };
 
-/// The settings' window over stores in memory, and what it called.
+/// The settings' window over stores in memory, and a record of its calls.
 class SettingsStage {
   public:
     explicit SettingsStage(const char* locale = "en_US");
@@ -48,15 +48,14 @@ class SettingsStage {
     [[nodiscard]] SettingsViewState& state() { return *state_; }
     [[nodiscard]] SettingsViewModel& model() { return state_->viewModel(); }
 
-    /// The visible item with the object name, below `within` or anywhere in the window; null when there is
-    /// none.
+    /// The visible item with the object name, in `within` or anywhere in the window; null when there is none.
     [[nodiscard]] QQuickItem* find(const QString& name, QQuickItem* within = nullptr);
     /// The row of a list of the page.
     [[nodiscard]] QQuickItem* row(const QString& list, int index);
     void click(const QQuickItem* item);
     void type(const QString& text);
     void press(int key, Qt::KeyboardModifiers modifiers = {});
-    /// A key press with the code of its physical key, as the window system sends it.
+    /// Presses a key with the code of its physical key, as the window system does.
     void pressPhysical(int key, quint32 evdev, Qt::KeyboardModifiers modifiers = {});
 
     TextServices textServices{"en_US"};

@@ -23,7 +23,7 @@ class SettingsViewTest : public testing::Test {
         stage_.menuItems = {menuOf("File", {"Open", "Save"}), menuOf("Edit", {"Copy"})};
     }
 
-    /// The visible item of that name; the page is scrolled to it first.
+    /// Scrolls to the visible item with that name and returns it.
     QQuickItem* item(const QString& name, QQuickItem* within = nullptr) {
         QQuickItem* found = stage_.find(name, within);
         if (found == nullptr) {
@@ -52,7 +52,7 @@ class SettingsViewTest : public testing::Test {
         stage_.click(item(button, row));
     }
 
-    /// Chooses by the pointer in a segmented picker.
+    /// Chooses a segment with the pointer.
     void clickSegment(const QString& picker, int index, int count) {
         const QQuickItem* track = item(picker);
         const QPointF place(track->width() * (index + 0.5) / count, track->height() / 2);
@@ -68,7 +68,7 @@ class SettingsViewTest : public testing::Test {
     QString textOf(const QString& name) { return item(name)->property("text").toString(); }
     bool isSeen(const QString& name) { return stage_.find(name) != nullptr; }
 
-    /// Tabs until the item has the focus; false when it never does.
+    /// Presses Tab until the item has the focus; returns false if it never does.
     bool tabTo(const QString& name) {
         for (int i = 0; i < 60; ++i) {
             stage_.press(Qt::Key_Tab);
@@ -92,7 +92,7 @@ TEST_F(SettingsViewTest, EmptyPagesSaySo) {
     click("openPrivacySettings");
     EXPECT_THAT(stage_.openedURLs,
                 ElementsAre("x-apple.systempreferences:com.apple.preference.security?Privacy_Accessibility"));
-    // Given outside, and seen after a refresh.
+    // The permission is given elsewhere, and seen after a refresh.
     stage_.isTrusted = true;
     click("refresh");
     EXPECT_EQ(textOf("access"), "Ready");
@@ -114,7 +114,7 @@ TEST_F(SettingsViewTest, EmptyPagesSaySo) {
     EXPECT_EQ(textOf("noMenuCommands"), noCommands);
     EXPECT_FALSE(isSeen("save"));
     EXPECT_EQ(textOf("noEntries"), "No command usage recorded yet");
-    // What was empty fills when there is something.
+    // Empty lists fill when there is something to list.
     haveFeatherPad();
     click("refresh");
     EXPECT_FALSE(isSeen("noMenuCommands"));
@@ -172,7 +172,8 @@ TEST_F(SettingsViewTest, GeneralAndAppRulesReachTheStores) {
     EXPECT_EQ(stage_.rules.defaultBehavior(), AppBehaviorRule::disabled);
     EXPECT_EQ(item("defaultBehavior")->property("selection").toInt(), 1);
 
-    // The dialog lists by name, whatever the case, and adds what is chosen, with the behaviour chosen before.
+    // The dialog lists by name, ignoring case, and adds the chosen application with the behaviour chosen
+    // before.
     clickSegment("newBehavior", 0, 3);
     click("chooseApplication");
     QQuickItem* list = stage_.find("applications");
@@ -189,7 +190,7 @@ TEST_F(SettingsViewTest, GeneralAndAppRulesReachTheStores) {
     ASSERT_EQ(item("rules")->property("count").toInt(), 2);
     EXPECT_EQ(stage_.row("rules", 0)->property("title").toString(), "featherpad");
     EXPECT_EQ(stage_.row("rules", 1)->property("title").toString(), "Web");
-    // As the default, nothing is added.
+    // Nothing is added with the default behaviour.
     clickSegment("newBehavior", 1, 3);
     click("chooseApplication");
     stage_.type("mail");
@@ -210,7 +211,7 @@ TEST_F(SettingsViewTest, GeneralAndAppRulesReachTheStores) {
 TEST_F(SettingsViewTest, MenuItemsAreHiddenAndShownAgain) {
     haveFeatherPad();
     stage_.show(SettingsTab::menuRules);
-    // Nothing is selected: nothing happens.
+    // Nothing happens without a selection.
     click("hideSelected");
     EXPECT_TRUE(stage_.rules.menuBlacklistRules().empty());
     choose("candidate", "save");
@@ -273,7 +274,7 @@ TEST_F(SettingsViewTest, TheCommandFormFillsSavesAndClears) {
     EXPECT_EQ(item("form")->property("title").toString(), "Edit Command");
     EXPECT_EQ(textOf("save"), "Save Changes");
     EXPECT_EQ(textOf("aliases"), "one, two");
-    // The focus is in the title, and what is typed goes there.
+    // The title has the focus and gets the typed text.
     stage_.press(Qt::Key_End);
     stage_.type("!");
     click("usesCurrentApp");
@@ -351,7 +352,7 @@ TEST_F(SettingsViewTest, APickerFindsOneOfHundreds) {
     stage_.press(Qt::Key_Return);
     EXPECT_EQ(textOf("candidate"), "Edit > Entry 590");
     EXPECT_FALSE(isSeen("choices"));
-    // Nothing matches, and nothing is chosen; Escape leaves all as it was.
+    // Nothing matches, and nothing is chosen; Escape changes nothing.
     stage_.press(Qt::Key_Space);
     stage_.type("zzz");
     stage_.press(Qt::Key_Return);
@@ -360,7 +361,7 @@ TEST_F(SettingsViewTest, APickerFindsOneOfHundreds) {
     EXPECT_FALSE(isSeen("choices"));
     EXPECT_EQ(textOf("candidate"), "Edit > Entry 590");
     EXPECT_EQ(stage_.window.window().activeFocusItem()->objectName(), "candidate");
-    // So does a click beside it.
+    // A click beside it does the same.
     stage_.press(Qt::Key_Down);
     QTest::mouseClick(&stage_.window.window(), Qt::LeftButton, {}, QPoint(300, 40));
     QCoreApplication::processEvents();
@@ -370,7 +371,7 @@ TEST_F(SettingsViewTest, APickerFindsOneOfHundreds) {
 TEST_F(SettingsViewTest, TheKeyboardAloneIsEnough) {
     haveFeatherPad();
     stage_.show();
-    // To the sidebar, and down to the commands.
+    // Goes to the sidebar, and down to the commands.
     stage_.press(Qt::Key_Tab);
     for (int i = 0; i < 3; ++i) {
         stage_.press(Qt::Key_Down);
@@ -392,7 +393,7 @@ TEST_F(SettingsViewTest, TheKeyboardAloneIsEnough) {
     EXPECT_EQ(stage_.customCommands.customCommands()[0].title, "Say hello");
     EXPECT_FALSE(stage_.customCommands.customCommands()[0].isEnabled);
     ASSERT_TRUE(tabTo("remove"));
-    // What has the focus is in sight.
+    // The control with the focus is visible.
     const QQuickItem* button = stage_.window.window().activeFocusItem();
     const QQuickItem* page = stage_.find("page");
     EXPECT_TRUE(page->contains(button->mapToItem(page, QPointF(0, 0))));
@@ -429,7 +430,7 @@ TEST_F(SettingsViewTest, TheRecorderTakesKeysWhileItRecords) {
     stage_.pressPhysical(Qt::Key_K, 37, Qt::ControlModifier);
     EXPECT_EQ(stage_.shortcuts.getShortcut(stage_.togglePalette), (Shortcut{40, 0x100}));
     EXPECT_FALSE(recorder->isRecording());
-    // Still focused, it starts again by a key; Escape leaves all as it is.
+    // While it has the focus, a key starts it again; Escape changes nothing.
     stage_.press(Qt::Key_Space);
     EXPECT_TRUE(recorder->isRecording());
     stage_.press(Qt::Key_Escape);
@@ -440,7 +441,7 @@ TEST_F(SettingsViewTest, TheRecorderTakesKeysWhileItRecords) {
     EXPECT_TRUE(recorder->isRecording());
     QTest::mouseClick(&stage_.window.window(), Qt::LeftButton, {}, QPoint(500, 600));
     EXPECT_FALSE(recorder->isRecording());
-    // Backspace takes the shortcut away and records on.
+    // Backspace removes the shortcut, and recording goes on.
     stage_.click(field);
     stage_.pressPhysical(Qt::Key_Backspace, 14);
     QCoreApplication::processEvents();
@@ -453,7 +454,7 @@ TEST_F(SettingsViewTest, TheRecorderTakesKeysWhileItRecords) {
     stage_.pressPhysical(Qt::Key_Tab, 15);
     EXPECT_FALSE(recorder->isRecording());
     EXPECT_NE(stage_.window.window().activeFocusItem(), field);
-    // A window that is hidden records no longer.
+    // A hidden window no longer records.
     stage_.click(field);
     stage_.window.window().close();
     EXPECT_FALSE(recorder->isRecording());
@@ -477,7 +478,7 @@ TEST_F(SettingsViewTest, ANewViewWaitsForTheAnswerAboutAShortcut) {
     EXPECT_TRUE(QTest::qWaitFor([&] {
         return stage_.find("recorder")->property("recorder").value<RecorderAdapter*>()->text() != "";
     }));
-    // The one that waited is there, and it works.
+    // The view that waited is shown, and it works.
     click("showCheckedStatus");
     EXPECT_FALSE(stage_.model().showCheckedStatus().get());
 }
@@ -540,7 +541,7 @@ TEST(SettingsRowsModelTest, RowsComeAndGoWhereTheyAreDifferent) {
         return made;
     };
     SettingsRowsModel model;
-    // A copy that follows what the model tells.
+    // A copy that follows the model's signals.
     QStringList copy;
     int told = 0;
     QObject::connect(&model, &QAbstractItemModel::rowsRemoved, &model,

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view extension = ".desktop";
 
-/// The largest file that is read. Real ones have at most some 100 KiB, mostly translations.
+/// The largest file that is read. Real files have at most some 100 KiB, mostly translations.
 constexpr std::uintmax_t largestFile = 1U << 20U;
 
 std::string lowercased(std::string_view text) {
@@ -141,7 +141,7 @@ void DesktopEntries::list(const fs::path& directory) {
         if (path.extension() != extension) {
             continue;
         }
-        // The id of a file in a subfolder has "-" for "/". An entry hides those of the same id further down.
+        // The id of a file in a subfolder has "-" for "/". An entry hides later entries with the same id.
         std::string identifier = path.lexically_relative(directory).string();
         identifier.resize(identifier.size() - extension.size());
         std::replace(identifier.begin(), identifier.end(), '/', '-');

@@ -14,7 +14,7 @@ std::string_view trimmedSpaces(std::string_view text) {
                                            : text.substr(start, text.find_last_not_of(spaces) - start + 1);
 }
 
-/// The escapes of string values; an unknown one stands for itself.
+/// Replaces the escapes of string values; an unknown escape stands for itself.
 std::string unescaped(std::string_view value) {
     std::string plain;
     for (std::size_t index = 0; index < value.size(); ++index) {
@@ -33,7 +33,7 @@ std::string unescaped(std::string_view value) {
     return plain;
 }
 
-/// The elements of a value of several; "\;" stands for a semicolon within one.
+/// The elements of a list value; "\;" stands for a semicolon within an element.
 std::vector<std::string> listFrom(std::string_view value) {
     std::vector<std::string> elements;
     std::string element;
@@ -55,7 +55,7 @@ std::vector<std::string> listFrom(std::string_view value) {
     return elements;
 }
 
-/// The tags under which a localized value is looked up, the best first; the encoding does not count.
+/// The tags under which a localized value is looked up, the best first; the encoding is ignored.
 std::vector<std::string> localeTags(std::string_view locale) {
     const std::size_t at = locale.find('@');
     const std::string modifier(at == std::string_view::npos ? "" : locale.substr(at));
@@ -93,7 +93,7 @@ std::vector<std::string> arguments(std::string_view exec) {
     if (isStarted) {
         found.push_back(current);
     }
-    // A program may be started through env with variables of its own.
+    // The line may start the program through env, with variables of its own.
     if (!found.empty() && found.front().substr(found.front().rfind('/') + 1) == "env") {
         found.erase(found.begin(), std::find_if(found.begin() + 1, found.end(), [](const std::string& word) {
                         return word.find('=') == std::string::npos;

@@ -15,7 +15,7 @@
 namespace tovrel {
 namespace {
 
-/// Empty when $PATH leads to no such program.
+/// Returns an empty path when $PATH has no such program.
 std::string findInPath(const std::string& program) {
     const char* path = std::getenv("PATH"); // NOLINT(concurrency-mt-unsafe)
     std::istringstream folders(path == nullptr ? "/usr/bin:/bin" : path);

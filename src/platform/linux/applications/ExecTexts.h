@@ -8,7 +8,7 @@
 
 namespace tovrel {
 
-/// Texts as `exec` takes them: an array of pointers with a null at its end.
+/// Texts in the form that `exec` takes: an array of pointers with a null at its end.
 class ExecTexts {
   public:
     explicit ExecTexts(std::vector<std::string> texts) : texts_(std::move(texts)) {

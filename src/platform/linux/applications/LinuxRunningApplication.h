@@ -12,15 +12,16 @@ namespace tovrel {
 /// A process that shows windows or menus, and the desktop entry that was found for it.
 class LinuxRunningApplication : public RunningApplication {
   public:
-    /// Finds the entry: by the application id the window publishes, then by its window class against what the
-    /// entries declare (StartupWMClass), then against the entries' ids, then by the program that runs.
+    /// Finds the entry by the application id that the window publishes, then by its window class among the
+    /// classes that entries declare (StartupWMClass), then by its window class among the entries' ids, then
+    /// by the program that runs.
     LinuxRunningApplication(std::int32_t processIdentifier, const std::optional<ApplicationWindow>& window,
                             DesktopEntries& entries);
 
-    /// This process itself, which is known without an entry.
+    /// This process, which needs no entry.
     [[nodiscard]] static LinuxRunningApplication ofThisProcess();
 
-    /// The id of the desktop entry; absent when none fits.
+    /// The id of the desktop entry; absent when no entry was found.
     [[nodiscard]] std::optional<Text> bundleIdentifier() const override { return identifier_; }
     /// The entry's name, else the window's class, else the program's name.
     [[nodiscard]] std::optional<Text> localizedName() const override { return name_; }

@@ -14,8 +14,8 @@
 
 namespace tovrel {
 
-/// The applications of a Linux desktop. Without a display there is no front application, and the running ones
-/// are those on the accessibility bus.
+/// The applications of a Linux desktop. Without a display there is no front application, and only
+/// applications on the accessibility bus are known.
 class LinuxWorkspace : public Workspace {
   public:
     LinuxWorkspace(std::shared_ptr<WindowList> windows, std::shared_ptr<AtspiBus> bus,
@@ -24,13 +24,13 @@ class LinuxWorkspace : public Workspace {
     LinuxWorkspace(const LinuxWorkspace&) = delete;
     LinuxWorkspace& operator=(const LinuxWorkspace&) = delete;
 
-    /// The application of the active window. Waits up to 50 ms for a desktop that is just changing it;
-    /// changes were seen to take a few milliseconds.
+    /// The application of the active window. Waits up to 50 ms while the desktop is changing it; measured
+    /// changes take a few milliseconds.
     [[nodiscard]] std::shared_ptr<RunningApplication> frontApplication() override;
 
     bool activate(const RunningApplication& application) override;
 
-    /// Reports each change of the active window, also within an application.
+    /// Reports each change of the active window, even within an application.
     [[nodiscard]] Subscription
     onActivation(std::function<void(const std::shared_ptr<RunningApplication>&)> observer) override;
 
@@ -52,8 +52,8 @@ class LinuxWorkspace : public Workspace {
     /// Each process that has a window, the one with the topmost window first.
     [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>> applicationsWithWindows();
 
-    /// Each process that has a window or is on the accessibility bus, those with windows first and the one
-    /// with the topmost window before the others.
+    /// Each process that has a window or is on the accessibility bus. Processes with windows come first, by
+    /// their topmost window.
     [[nodiscard]] std::vector<std::shared_ptr<LinuxRunningApplication>> runningApplications();
 
   private:

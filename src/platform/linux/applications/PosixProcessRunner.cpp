@@ -27,8 +27,8 @@ using namespace std::chrono_literals;
 
 constexpr auto lookInterval = 250ms;
 
-/// Absent while the process runs. A process that somebody else has waited for counts as having ended well,
-/// because nothing else is known of it.
+/// How the process ended; absent while it runs. A process that other code has waited for counts as
+/// successful, because nothing else is known of it.
 std::optional<ProcessEnd> takeEnd(pid_t process) {
     int status = 0;
     const pid_t ended = waitpid(process, &status, WNOHANG);
@@ -41,7 +41,7 @@ std::optional<ProcessEnd> takeEnd(pid_t process) {
     return WIFEXITED(status) ? ProcessEnd{WEXITSTATUS(status), false} : ProcessEnd{WTERMSIG(status), true};
 }
 
-/// The process, or an errno value.
+/// Starts a process; returns it or an errno value.
 std::variant<pid_t, LaunchFailure> spawn(const CommandProcessRequest& request) {
     std::vector<std::string> texts{std::string(request.executablePath.utf8())};
     std::transform(request.arguments.begin(), request.arguments.end(), std::back_inserter(texts),
@@ -64,7 +64,7 @@ std::variant<pid_t, LaunchFailure> spawn(const CommandProcessRequest& request) {
 
 } // namespace
 
-/// The processes that have not ended. Shared with the timer that looks for them.
+/// The processes that have not ended, shared with the timer that checks them.
 class PosixProcessRunner::Children : public std::enable_shared_from_this<Children> {
   public:
     explicit Children(MainQueue& queue) : queue_(&queue), ends_(epoll_create1(EPOLL_CLOEXEC)) {}
@@ -105,8 +105,8 @@ class PosixProcessRunner::Children : public std::enable_shared_from_this<Childre
     };
 
     [[nodiscard]] FileDescriptor watch(pid_t process) const {
-        // Called as a system call, because some versions of the C library declare its function wrongly for
-        // C++.
+        // A direct system call is needed, because some versions of the C library declare the function wrongly
+        // for C++.
         FileDescriptor end(static_cast<int>(syscall(SYS_pidfd_open, process, 0)));
         epoll_event event{};
         event.events = EPOLLIN;
@@ -130,7 +130,7 @@ class PosixProcessRunner::Children : public std::enable_shared_from_this<Childre
     }
 
     MainQueue* queue_;
-    FileDescriptor ends_; ///< Readable when the `end` of a child is.
+    FileDescriptor ends_; ///< Readable when the `end` of any child is.
     std::vector<Child> children_;
     bool isToLook_ = false;
 };

@@ -31,7 +31,7 @@ std::optional<std::uint64_t> processStartTime(std::int32_t processIdentifier) {
         return std::nullopt;
     }
     const std::string line = contents(processFolder(processIdentifier) / "stat");
-    // The name in the second field may hold anything, blanks and brackets included.
+    // The name in the second field may have any characters, even blanks and brackets.
     const std::size_t nameEnd = line.rfind(')');
     if (nameEnd == std::string::npos) {
         return std::nullopt;
@@ -53,7 +53,7 @@ std::string processExecutable(std::int32_t processIdentifier) {
     std::error_code error;
     const std::string target =
         std::filesystem::read_symlink(processFolder(processIdentifier) / "exe", error).string();
-    // The kernel's mark of a program file that was replaced while it runs, by an update say.
+    // The kernel marks a program file that was replaced while it runs, for instance by an update.
     constexpr std::string_view mark = " (deleted)";
     const std::string_view path = target;
     return lastPart(path.ends_with(mark) ? path.substr(0, path.size() - mark.size()) : path);

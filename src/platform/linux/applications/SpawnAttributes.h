@@ -7,7 +7,7 @@
 namespace tovrel {
 
 /// Attributes that start a program in a session of its own, with no signal blocked and each at its default
-/// action. A program would otherwise inherit what this one blocks and ignores, and few expect it.
+/// action. Otherwise a program would inherit the signals that this one blocks and ignores, which few expect.
 class SpawnAttributes {
   public:
     SpawnAttributes() {
@@ -15,8 +15,8 @@ class SpawnAttributes {
         sigset_t none;
         sigemptyset(&none);
         posix_spawnattr_setsigmask(&attributes_, &none);
-        // The set needs more than sigfillset gives: without the two signals that the C library keeps for
-        // itself, posix_spawn would have the program ignore them.
+        // sigfillset leaves out the two signals that the C library keeps for itself; without them in the set,
+        // posix_spawn would have the program ignore them.
         sigset_t all;
         std::memset(&all, 0xFF, sizeof all);
         posix_spawnattr_setsigdefault(&attributes_, &all);

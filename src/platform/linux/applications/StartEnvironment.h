@@ -4,9 +4,9 @@
 
 namespace tovrel {
 
-/// The environment this process was started with, for the programs it starts, without what it has set for
-/// itself since. Variables that were meant for that one start are left out (DESKTOP_STARTUP_ID and
-/// XDG_ACTIVATION_TOKEN): the windows of another program that took them over would be put behind others.
+/// The environment for programs that this process starts: the one it was started with, without variables that
+/// it has set since. DESKTOP_STARTUP_ID and XDG_ACTIVATION_TOKEN are left out, because they were meant for
+/// that one start: the windows of another program that used them would be put behind others.
 [[nodiscard]] ExecTexts startEnvironment();
 
 } // namespace tovrel

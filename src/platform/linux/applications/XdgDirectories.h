@@ -9,7 +9,8 @@ namespace tovrel::xdg {
 std::filesystem::path configHome();
 
 /// The directories of data files, most important first: $XDG_DATA_HOME, else ~/.local/share, then
-/// $XDG_DATA_DIRS, else /usr/local/share and /usr/share. Relative entries are ignored, as the standard says.
+/// $XDG_DATA_DIRS, else /usr/local/share and /usr/share. Relative entries are ignored, as the standard
+/// demands.
 std::vector<std::filesystem::path> dataDirectories();
 
 } // namespace tovrel::xdg

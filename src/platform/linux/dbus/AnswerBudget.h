@@ -9,30 +9,30 @@
 
 namespace tovrel {
 
-/// What is left of the limits while answers are decoded. Once something has run out nothing more is looked
-/// at, so that what was decoded until then is all there is.
+/// The rest of the limits while answers are decoded. Once a limit is reached, decoding stops and the part
+/// decoded so far is the result.
 class AnswerBudget {
   public:
-    /// `started` is when the work began, which `limits.total` counts from.
+    /// `limits.total` counts from `started`, when the work began.
     AnswerBudget(const CallLimits& limits, SteadyTime started)
         : limits_(limits), end_(started + limits.total) {}
 
-    /// One more value is looked at. False when that is one too many, or the time is over.
+    /// Counts one more value that is looked at. Returns false when that is one too many or the time is over.
     bool look();
 
-    /// The text, which is kept from now on. Empty when it is longer than `limit`, which then nothing real is,
-    /// or the room for texts has run out.
+    /// Counts and returns a text that the caller keeps. Empty when the text is longer than `limit`, which no
+    /// real one is, or the room for texts has run out.
     std::string kept(std::string_view text, std::size_t limit = longestName);
 
-    /// The text, of which the caller keeps a copy from now on. Empty when the room for texts has run out.
+    /// Counts and returns a text of which the caller keeps a copy. Empty when the room for texts has run out.
     std::string_view keptInFull(std::string_view text);
 
-    /// So many bytes of a value are kept from now on; false when there is no room for them.
+    /// Counts bytes of a value that the caller keeps; returns false when there is no room for them.
     bool keepsValue(std::size_t bytes);
 
     [[nodiscard]] bool isExhausted() const { return isExhausted_; }
 
-    /// No name of an action and no path of an object is longer.
+    /// The longest name of an action or path of an object.
     static constexpr std::size_t longestName = 512;
 
   private:

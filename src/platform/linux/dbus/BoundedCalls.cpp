@@ -15,7 +15,7 @@ void BoundedCalls::ask(Call call, Handler handler) {
 }
 
 bool BoundedCalls::run() {
-    lastAnswer_ = std::chrono::steady_clock::now(); // It can only be silent when it is asked.
+    lastAnswer_ = std::chrono::steady_clock::now(); // Silence counts only from the first call on.
     while (!stopped_) {
         while (window_.hasRoom() && !queue_.empty()) {
             sendNext();
@@ -31,8 +31,8 @@ bool BoundedCalls::run() {
 void BoundedCalls::sendNext() {
     Asked asked = std::move(queue_.front());
     queue_.pop_front();
-    // A path the application gave is well formed, since the bus checks it; a call that cannot be built or
-    // sent is then one that the connection refuses, which the next wait finds out.
+    // A path from the application is well formed, because the bus checks it. So a call that cannot be built
+    // or sent means that the connection is lost, which the next wait detects.
     const DBusMessage call = asked.call(connection_);
     const bool sent = window_.send(call, [this, handler = std::move(asked.handler)](DBusMessage& answer) {
         lastAnswer_ = std::chrono::steady_clock::now();

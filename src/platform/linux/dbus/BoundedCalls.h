@@ -17,36 +17,36 @@ namespace tovrel {
 enum class CallsStopped {
     silent,       ///< The application stopped answering: hung, or busy with something else.
     tooSlow,      ///< It answered, but not everything within the time for all calls.
-    tooMuch,      ///< It sent more than is taken.
+    tooMuch,      ///< It sent more than the limits allow.
     gone,         ///< It left the bus meanwhile.
     disconnected, ///< The bus itself is lost.
 };
 
-/// Calls to one application, many at a time, within limits. Answers are handed to it while they are awaited,
-/// so it stays where it was made.
+/// Calls to one application, many at a time, within limits. It cannot be moved, because answers are handed to
+/// it while it waits.
 class BoundedCalls {
   public:
-    /// Makes the call when its turn has come; an empty message is left out.
+    /// Makes the call when its turn comes; an empty message is skipped.
     using Call = std::function<DBusMessage(const DBusConnection&)>;
     /// Gets the answer, which may be of any type; an empty message for an error.
     using Handler = DBusCallWindow::Handler;
 
-    /// `started` is when the work began, which `limits.total` counts from.
+    /// `limits.total` counts from `started`, when the work began.
     BoundedCalls(DBusConnection& connection, const CallLimits& limits, SteadyTime started);
     BoundedCalls(const BoundedCalls&) = delete;
     BoundedCalls& operator=(const BoundedCalls&) = delete;
     ~BoundedCalls() = default;
 
-    /// Notes the call for `run`, which sends in this order, so that what a slow application has answered by
-    /// the end is from the front. Handlers may note further ones.
+    /// Queues the call for `run`, which sends in this order, so that a slow application has answered the
+    /// first calls by the end. Handlers may queue further calls.
     void ask(Call call, Handler handler);
 
-    /// Sends until every call is answered. False when that was cut short, now or in an earlier run: `stopped`
-    /// says why.
+    /// Sends until every call is answered. Returns false when that was cut short, now or in an earlier run;
+    /// `stopped` says why.
     bool run();
 
     [[nodiscard]] std::optional<CallsStopped> stopped() const { return stopped_; }
-    /// What handlers decode answers with. The calls stop when it is exhausted.
+    /// The budget with which handlers decode answers. The calls stop when it is exhausted.
     [[nodiscard]] AnswerBudget& budget() { return budget_; }
     [[nodiscard]] std::size_t calls() const { return calls_; }
 

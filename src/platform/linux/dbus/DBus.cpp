@@ -16,11 +16,11 @@ namespace {
 
 constexpr const char* busName = "org.freedesktop.DBus";
 
-/// Steps of work a connection may still do past a deadline before it gives up on finding an answer that lies
-/// ready: enough to write what is queued and to read what has arrived.
+/// The steps that a connection may still do after a deadline to find an answer that has arrived already:
+/// enough to write the queue and to read all input.
 constexpr int stepsPastDeadline = 16;
 
-/// Names in messages may be missing.
+/// Names in messages may be null.
 std::string_view textOf(const char* name) {
     return name == nullptr ? std::string_view() : name;
 }
@@ -122,7 +122,7 @@ std::optional<DBusConnection> DBusConnection::open(const std::string& address, K
         return std::nullopt;
     }
     Bus bus(raw);
-    // Descriptors that others send would be lost on the way, and nobody wants them.
+    // The inlet would lose descriptors that others send, and nobody needs them.
     if (sd_bus_negotiate_fds(raw, 0) < 0 || sd_bus_set_bus_client(raw, kind == Kind::bus ? 1 : 0) < 0 ||
         sd_bus_set_fd(raw, inner.get(), connected.get()) < 0) {
         return std::nullopt;
@@ -206,7 +206,7 @@ std::optional<DBusMessage> DBusConnection::receive(SteadyTime deadline) {
         }
     }
     if (!isOpen()) {
-        bus_.reset(); // With what it has received of a message.
+        bus_.reset(); // Also drops an incomplete message.
     }
     return std::nullopt;
 }
@@ -227,15 +227,15 @@ bool DBusConnection::takeAwaited(const DBusMessage& answer) {
 }
 
 void DBusConnection::waitForEvents(std::chrono::microseconds patience) const {
-    // What is to be written goes past the inlet. Until the bus has accepted the connection the library has a
-    // time of its own to look at, the longest that is waited here at once.
+    // Output bypasses the inlet. Until the bus has accepted the connection, the library must look at its own
+    // timeout, so a single wait is at most this long.
     constexpr std::chrono::milliseconds longest{1000};
     const int events = sd_bus_get_events(bus_.get());
     pollfd socket{.fd = inlet_->source(),
                   .events = static_cast<short>(POLLIN | (events > 0 ? events & POLLOUT : 0)),
                   .revents = 0};
     const auto wait = std::chrono::ceil<std::chrono::milliseconds>(patience);
-    // An interrupted wait is one that ended early: the caller looks at the clock again.
+    // An interrupted wait only ends early: the caller looks at the clock again.
     poll(&socket, 1, static_cast<int>(std::min(wait, longest).count()));
 }
 

@@ -17,7 +17,7 @@ bool DBusCallWindow::wait(SteadyTime deadline) {
     while (auto answer = connection_.receive(deadline)) {
         const auto found = pending_.find(*answer->answeredCall());
         if (found == pending_.end()) {
-            continue; // Late, of a call that was given up.
+            continue; // A late answer to a call that was given up.
         }
         const Handler handler = std::move(found->second);
         pending_.erase(found);

@@ -9,8 +9,8 @@
 
 namespace tovrel {
 
-/// Calls over one connection of which a bounded number is under way at a time. Giving up on the answers is
-/// destroying the object: late ones then find nobody.
+/// Calls over one connection, a bounded number at a time. Destroying the object gives up on the answers: late
+/// ones are dropped.
 class DBusCallWindow {
   public:
     using Handler = std::function<void(DBusMessage&)>;
@@ -20,12 +20,13 @@ class DBusCallWindow {
     [[nodiscard]] bool hasRoom() const { return pending_.size() < limit_; }
     [[nodiscard]] bool isIdle() const { return pending_.empty(); }
 
-    /// Sends a call; the handler gets its answer, result or error, out of `wait`. False when the call could
-    /// not be sent.
+    /// Sends a call; `wait` hands its answer, a result or an error, to the handler. Returns false when the
+    /// call could not be sent.
     bool send(const DBusMessage& call, Handler handler);
 
-    /// Waits for the next answer to one of the calls and hands it to its handler. False when none came by the
-    /// deadline or the connection is lost. Like `DBusConnection::receive`, it prefers an answer to the clock.
+    /// Waits for the next answer to one of the calls and hands it to its handler. Returns false when none
+    /// came by the deadline or the connection is lost. Like `DBusConnection::receive`, it handles an answer
+    /// that has arrived even after the deadline.
     bool wait(SteadyTime deadline);
 
   private:

@@ -21,7 +21,7 @@ std::uint32_t numberAt(std::string_view bytes, std::size_t place, bool isLittleE
     return number;
 }
 
-/// Of the message with this header, as the protocol has it: the fields end at a multiple of 8.
+/// The size of the message with this header. The protocol pads the header fields to a multiple of 8.
 std::uint64_t messageSize(std::string_view header) {
     const bool isLittleEndian = header.front() == 'l';
     const std::uint64_t body = numberAt(header, 4, isLittleEndian);
@@ -71,8 +71,8 @@ std::size_t DBusInlet::passable(std::string_view bytes) {
             continue;
         }
         const std::string_view rest = bytes.substr(place);
-        // Before the first message come lines of text, none of which begins with either of the letters that
-        // say in which order the bytes of a message's numbers are.
+        // Lines of text come before the first message. None of them begins with either of the letters that
+        // give a message's byte order.
         if (rest.front() != 'l' && rest.front() != 'B') {
             const std::size_t lineEnd = rest.find('\n');
             if (lineEnd == std::string_view::npos) {
@@ -91,14 +91,14 @@ std::size_t DBusInlet::passable(std::string_view bytes) {
         }
         messageLeft_ = static_cast<std::size_t>(size);
     }
-    // A line without an end is no greeting of a bus.
+    // A line that fills the buffer without an end is not from a bus.
     isTooLong_ = isTooLong_ || (place == 0 && bytes.size() == buffer_.size());
     return place;
 }
 
 bool DBusInlet::flush() {
     if (passed_ == passable_) {
-        return true; // The rest of what has begun is still to come.
+        return true; // The rest of the message is still to come.
     }
     const ssize_t count =
         send(sink_.get(), buffer_.data() + passed_, passable_ - passed_, MSG_DONTWAIT | MSG_NOSIGNAL);

@@ -9,39 +9,39 @@
 
 namespace tovrel {
 
-/// What a bus sends passes through here on its way to the library that decodes it, which would take a message
-/// of 128 MB that anybody on the bus may send it, and has no way to be told otherwise. Only how long each
-/// message is is looked at.
+/// Passes a bus's messages on to the library that decodes them, and refuses long ones. The library itself
+/// would receive a message of 128 MB, which anybody on the bus may send, and has no setting against that. The
+/// inlet looks only at the length of each message.
 class DBusInlet {
   public:
-    /// The longest message that is let through. The longest answer met, what an office suite
-    /// publishes of one window, has 300 KB; an object with 100,000 children, as views of pictures may be,
-    /// would answer with 5 MB.
+    /// The longest message that is passed on. The longest answer met, an office suite's published menus of
+    /// one window, has 300 KB; an object with 100,000 children, such as a view of pictures, would answer with
+    /// 5 MB.
     static constexpr std::size_t longestMessage = std::size_t{8} << 20U;
 
     /// Reads from `source` and writes to `sink`, neither of which may block.
     DBusInlet(FileDescriptor source, FileDescriptor sink)
         : source_(std::move(source)), sink_(std::move(sink)) {}
 
-    /// Passes on a piece of what lies ready. False when nothing does, or the reader has to read first.
+    /// Passes on a piece of the input. Returns false when there is no input, or the reader has to read first.
     bool pass();
 
-    /// False once the bus has ended the connection or a message was too long. What was passed on before is
-    /// still to be read; behind it the reader finds the end.
+    /// False once the bus has ended the connection or a message was too long. The reader can still read the
+    /// messages passed on before, and then finds the end.
     [[nodiscard]] bool isOpen() const { return sink_.isOpen(); }
 
     /// Whether a message was too long.
     [[nodiscard]] bool hasRefused() const { return isTooLong_; }
 
-    /// To be waited at for more.
+    /// The descriptor to wait at for more input.
     [[nodiscard]] int source() const { return source_.get(); }
 
-    /// Bytes so far.
+    /// The bytes received so far.
     [[nodiscard]] std::uint64_t received() const { return received_; }
 
   private:
-    /// How much at the start of these bytes may be passed on; the rest is incomplete. Marks the end when a
-    /// message is too long.
+    /// How many of these bytes may be passed on; the rest is incomplete. Sets `isTooLong_` when a message is
+    /// too long.
     std::size_t passable(std::string_view bytes);
     bool flush();
     void end() { sink_ = FileDescriptor(); }
@@ -49,11 +49,11 @@ class DBusInlet {
     FileDescriptor source_;
     FileDescriptor sink_;
     std::array<char, std::size_t{64} << 10U> buffer_{};
-    std::size_t passed_ = 0;      ///< The bytes of the buffer before this have gone.
-    std::size_t passable_ = 0;    ///< Those before this may go.
-    std::size_t filled_ = 0;      ///< Those before this are there.
-    std::size_t messageLeft_ = 0; ///< Of the message that has begun to pass.
-    bool isTooLong_ = false;      ///< What follows is not passed on.
+    std::size_t passed_ = 0;      ///< The buffer's bytes before this have been passed on.
+    std::size_t passable_ = 0;    ///< The bytes before this may be passed on.
+    std::size_t filled_ = 0;      ///< The bytes before this are filled.
+    std::size_t messageLeft_ = 0; ///< Bytes still to come of the current message.
+    bool isTooLong_ = false;      ///< No further input is passed on.
     std::uint64_t received_ = 0;
 };
 

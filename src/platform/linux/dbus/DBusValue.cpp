@@ -8,8 +8,8 @@ namespace {
 
 constexpr int deepest = 16;
 
-/// Types whose arrays lie in the message as they lie in memory. Those of booleans do too, but the library
-/// does not take them back so.
+/// Whether arrays of the type have the same layout in a message as in memory. Arrays of booleans have it too,
+/// but the library does not accept them in this form.
 bool isFixed(char type) {
     return std::string_view("ynqiuxtd").find(type) != std::string_view::npos;
 }
@@ -62,13 +62,13 @@ std::string containerSignature(char type, std::string_view contents) {
     }
 }
 
-/// Goes through a value from its start to its end, and keeps it on the way as long as it is small.
+/// Reads a value from its start to its end, and keeps it while it is small.
 class Walk {
   public:
     Walk(sd_bus_message* message, AnswerBudget& budget) : message_(message), budget_(budget) {}
 
-    /// Passes the next value, which fills `kept` unless that is null. False when the message cannot be read
-    /// further.
+    /// Reads the next value into `kept`, or skips it if `kept` is null. Returns false when the message cannot
+    /// be read further.
     bool pass(DBusValue* kept, int depth = 0) {
         char type = 0;
         const char* contents = nullptr;
@@ -78,19 +78,19 @@ class Walk {
         if (contents == nullptr) {
             return passBasic(type, kept);
         }
-        // What `contents` points to lives in the message only until the container is entered.
+        // `contents` is valid only until the container is entered.
         const std::string inner(contents);
         return type == SD_BUS_TYPE_ARRAY && inner.size() == 1 && isFixed(inner.front())
                    ? passNumbers(inner, kept)
                    : passContainer(type, inner, kept, depth);
     }
 
-    /// What was filled is a part only.
+    /// Whether `kept` has only a part of the value.
     [[nodiscard]] bool isTooLarge() const { return isTooLarge_; }
     [[nodiscard]] std::size_t size() const { return size_; }
 
   private:
-    /// Whether there is room for so many bytes more.
+    /// Counts the bytes; returns whether the value is kept and there is room for them.
     bool keeps(const DBusValue* kept, std::size_t bytes) {
         size_ += kept == nullptr ? 0 : sizeof(DBusValue) + bytes;
         isTooLarge_ = isTooLarge_ || size_ > largestValue;

@@ -6,13 +6,13 @@
 
 namespace tovrel {
 
-/// The session bus, connected when it is first needed and again after the connection was lost.
+/// The session bus. It connects when it is first needed, and again after the connection was lost.
 class SessionBus {
   public:
-    /// Null when there is none. Stays valid until `connection` or `disconnect` is called again.
+    /// The connection; null when there is no bus. Valid until `connection` or `disconnect` is called again.
     [[nodiscard]] DBusConnection* connection();
 
-    /// Drops the connection: late answers to calls that were given up are then no longer kept by anyone.
+    /// Drops the connection, so that nobody keeps late answers to calls that were given up.
     void disconnect() { connection_.reset(); }
 
   private:

@@ -14,8 +14,8 @@
 namespace tovrel {
 namespace {
 
-/// Keys whose menu character is not their text. The characters U+F700… are those of the platform the menu
-/// attributes come from; U+F704 is F1 and the further function keys follow in order.
+/// Keys whose menu character is not their text. The platform that defined the menu attributes uses the
+/// characters U+F700…; U+F704 is F1, and the other function keys follow in order.
 constexpr std::array<std::pair<std::uint32_t, char32_t>, 31> charactersOfKeysyms{{
     {XKB_KEY_Up, 0xF700},        {XKB_KEY_KP_Up, 0xF700},        {XKB_KEY_Down, 0xF701},
     {XKB_KEY_KP_Down, 0xF701},   {XKB_KEY_Left, 0xF702},         {XKB_KEY_KP_Left, 0xF702},
@@ -30,8 +30,8 @@ constexpr std::array<std::pair<std::uint32_t, char32_t>, 31> charactersOfKeysyms
     {XKB_KEY_KP_Space, 0x20},
 }};
 
-/// Names of keys as QKeySequence writes them, and the longer forms that programs write into a title
-/// themselves, beside the X names of the same keys.
+/// X names of keys, each with the name that QKeySequence writes or the longer form that programs write into
+/// titles themselves.
 constexpr std::array<std::pair<std::string_view, const char*>, 27> keysymNamesOfQtNames{{
     {"Esc", "Escape"},
     {"Escape", "Escape"},
@@ -62,7 +62,7 @@ constexpr std::array<std::pair<std::string_view, const char*>, 27> keysymNamesOf
     {"PgDwn", "Page_Down"},
 }};
 
-/// The only character of the text; absent when there are none or several, or it is a control character.
+/// The text's only character; absent when there are none or several, or it is a control character.
 std::optional<char32_t> onlyCharacter(std::string_view text) {
     if (text.empty()) {
         return std::nullopt;
@@ -110,7 +110,8 @@ std::optional<char32_t> characterOfQtKeyName(std::string_view name) {
     if (found != keysymNamesOfQtNames.end()) {
         return characterOfKeysymName(found->second);
     }
-    // The function keys are named alike; no other name of several letters is a Qt key with a character.
+    // Qt and X use the same names for function keys; no other name of several letters is a Qt key with a
+    // character.
     return name.substr(0, 1) == "F" ? characterOfKeysymName(name) : std::nullopt;
 }
 

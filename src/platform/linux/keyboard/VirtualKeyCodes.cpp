@@ -12,7 +12,7 @@ namespace {
 /// Marks a virtual key code without counterpart; no key has this code.
 constexpr EvdevKey none = KEY_RESERVED;
 
-/// Indexed by virtual key code; the number behind a row is the code of its first key.
+/// The keys by virtual key code; the number after each eight keys is the code of the first of them.
 constexpr std::array<EvdevKey, 128> keys{
     KEY_A,          KEY_S,          KEY_D,          KEY_F,
     KEY_H,          KEY_G,          KEY_Z,          KEY_X, // 0

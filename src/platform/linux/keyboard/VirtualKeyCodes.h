@@ -8,8 +8,8 @@ namespace tovrel {
 /// A key by its position, in the numbering of the kernel's input events (linux/input-event-codes.h).
 using EvdevKey = std::uint16_t;
 
-/// Virtual key codes (0 to 127) name positions of a keyboard with the US layout, whatever the layout makes of
-/// them: 35 is the key of P. So do the kernel's codes, and this is the one table between the two; it is
+/// Virtual key codes (0 to 127) name positions of a keyboard with the US layout, whatever the current layout:
+/// 35 is the key of P. The kernel's codes do so too, and this is the only table between the two; it is
 /// one-to-one. Its choices where the keyboards differ:
 /// - the modifier keys follow the modifiers: the key of Command is Control, of Control Super, of Option Alt;
 /// - Help is Insert, which has its place on today's keyboards; keypad Clear is Num Lock for the same reason;
@@ -18,8 +18,8 @@ using EvdevKey = std::uint16_t;
 [[nodiscard]] std::optional<EvdevKey> evdevKey(std::uint32_t virtualKeyCode);
 [[nodiscard]] std::optional<std::uint32_t> virtualKeyCode(EvdevKey key);
 
-/// Displays number the same keys from 8 on, as keymaps of XKB do, and toolkits take their numbers over. None
-/// above 255 is known, which not every display can name.
+/// The key's number on displays, which number keys from 8 on as XKB keymaps do, and in toolkits, which use
+/// the displays' numbers. Numbers above 255 are left out, because not every display has them.
 [[nodiscard]] std::optional<std::uint8_t> xkbKeyCode(std::uint32_t virtualKeyCode);
 [[nodiscard]] std::optional<std::uint32_t> virtualKeyCodeOfXkb(std::uint32_t xkbKeyCode);
 

@@ -21,17 +21,17 @@ bool hasEntries(const MenuReading& reading) {
     return !reading.tree.empty() && !reading.tree.front().children.empty();
 }
 
-/// The limits were met before anything could be made of it.
+/// Whether the limits were reached before the reading gave anything.
 bool isTooMuch(const MenuReading& reading) {
     return reading.report.outcome == MenuReadOutcome::treeTooLarge;
 }
 
-/// Whether there is something left for a further source to give.
+/// Whether a further source could add anything.
 bool hasGaps(const MenuReading& reading) {
     return !hasEntries(reading) || hasEmptyMenu(reading.tree);
 }
 
-/// The accessible menu bar that is wanted is that of the window which publishes one.
+/// Puts the window that publishes a menu bar first, so that its accessible menu bar is read.
 MenuReadRequest withPublisherFirst(MenuReadRequest request) {
     if (const ApplicationWindow* publisher = publisherOf(request.windows)) {
         const auto place = request.windows.begin() + (publisher - request.windows.data());
@@ -40,7 +40,7 @@ MenuReadRequest withPublisherFirst(MenuReadRequest request) {
     return request;
 }
 
-/// What was read so far with its gaps filled, or the other where nothing was.
+/// The reading with its gaps filled from the other; the other if the reading has nothing.
 MenuReading filled(MenuReading reading, MenuReading other) {
     const std::size_t calls = reading.report.calls + other.report.calls;
     if (!hasEntries(reading) && (hasEntries(other) || isTooMuch(other))) {

@@ -8,25 +8,25 @@
 
 namespace tovrel {
 
-/// Other applications' menus, from whatever they publish them in. No failure of a bus or of an application is
-/// thrown to the caller: it shows as missing elements, and in the report.
+/// Other applications' menus, wherever they publish them. A failure of a bus or of an application is not
+/// thrown: it shows as missing elements, and in the report.
 class LinuxAccessibility : public Accessibility {
   public:
-    /// `windows` tells where a process publishes menus besides the accessibility bus, and which of its
-    /// windows is in front where their states do not say; it may be empty.
+    /// `windows` gives the windows of a process: where they publish menus, and which is in front if their
+    /// accessible states do not tell. It may be empty.
     explicit LinuxAccessibility(const MenuBuses& buses, ApplicationMenus::Windows windows = {},
                                 const MenuReadLimits& limits = {});
 
-    /// Whether the accessibility bus answers and accessibility is enabled for toolkits. Reading works without
-    /// the latter as far as applications publish menus nevertheless, as those of GTK do.
+    /// Whether the accessibility bus answers and accessibility is enabled for toolkits. Reading works even
+    /// without the latter for applications that always publish menus, as GTK's do.
     [[nodiscard]] bool isTrusted() override;
 
     /// The application's root element; never null. The first read of its "AXMenuBar" reads all of its menus,
-    /// in at most the time of `MenuReadLimits`; all further reads are answered from that.
+    /// in at most the time of `MenuReadLimits`, and answers all further reads.
     [[nodiscard]] std::shared_ptr<AccessibilityElement>
     applicationElement(std::int32_t processIdentifier) override;
 
-    /// How the last read of a menu bar went; absent before.
+    /// The report of the last read of a menu bar; absent before the first.
     [[nodiscard]] std::optional<MenuReadReport> lastReport() const { return *report_; }
 
   private:
@@ -35,7 +35,7 @@ class LinuxAccessibility : public Accessibility {
     MenuReadLimits limits_;
     /// Shared with the elements, which may outlive this object.
     std::shared_ptr<MenuSources> sources_;
-    /// Likewise with the root elements.
+    /// Shared with the root elements.
     std::shared_ptr<std::optional<MenuReadReport>> report_;
 };
 

@@ -8,8 +8,8 @@
 
 namespace tovrel {
 
-/// A menu bar, menu or menu item. Reads are answered from the tree it belongs to and cost no message;
-/// "AXPress" goes to the application.
+/// A menu bar, menu or menu item. Its tree answers reads without a message; "AXPress" goes to the
+/// application.
 class MenuElement : public AccessibilityElement {
   public:
     MenuElement(std::shared_ptr<ApplicationMenus> menus, std::shared_ptr<const MenuTree> tree,

@@ -4,12 +4,12 @@
 
 namespace tovrel {
 
-/// Adds to a menu bar what another source knows of the same one. Entries belong together that have the same
-/// title in the same menu; of several with that title, the first with the first and so on.
+/// Adds to a menu bar what another source knows of the same bar. Entries match that have the same title in
+/// the same menu; of several with the same title, the first matches the first, and so on.
 ///
-/// - A shortcut of the other source replaces the present one: it is the one the application itself declares.
-/// - A check mark is taken where none can be told so far.
-/// - A menu without entries gets those of the other source, with their way of being pressed.
+/// - A shortcut of the other source replaces the present one, because the application itself declares it.
+/// - A check mark is added where the tree does not know one.
+/// - A menu without entries gets the entries of the other source, which can be pressed as there.
 void joinMenus(MenuTree& tree, const MenuTree& other);
 
 } // namespace tovrel

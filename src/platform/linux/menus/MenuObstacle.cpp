@@ -12,13 +12,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Files of the kernel have no size beforehand.
+/// Reads a file of the kernel, whose size is not known beforehand.
 std::string contents(const fs::path& file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
-/// The value of a variable in a list whose entries end with NUL.
+/// The value of a variable in an environment whose entries end with NUL.
 std::optional<std::string_view> variable(std::string_view environment, std::string_view name) {
     while (!environment.empty()) {
         const std::string_view entry = environment.substr(0, environment.find('\0'));
@@ -35,7 +35,7 @@ bool isThere(const fs::path& path) {
     return fs::exists(path, error);
 }
 
-/// Every program with this engine has the engine's pictures beside it.
+/// Every program with a browser engine has the engine's pictures beside it.
 bool isBrowserEngine(const fs::path& process) {
     std::error_code error;
     const fs::path program = fs::read_symlink(process / "exe", error);

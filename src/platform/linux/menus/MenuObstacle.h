@@ -5,24 +5,24 @@
 
 namespace tovrel {
 
-/// Why an application may keep its menus from other programs.
+/// Why an application may publish no menus.
 enum class MenuObstacle {
     none,
     /// Its environment keeps GTK off the accessibility bus (NO_AT_BRIDGE, GTK_A11Y=none).
     switchedOff,
-    /// Chromium and what is built on it. It looks for the accessibility bus only when told to by an option.
+    /// Chromium and programs built on it look for the accessibility bus only with a command-line option.
     browserEngine,
-    /// Swing and its relatives reach the bus through a wrapper that has to be installed and named to them.
+    /// Swing and its relatives need a wrapper, which must be installed and configured.
     java,
-    /// GTK 2 reaches the bus through modules that the environment has to name when the application starts.
+    /// GTK 2 needs modules that the environment must name when the application starts.
     gtk2WithoutBridge,
-    /// Flatpak or Snap.
+    /// Flatpak or Snap isolates the application.
     sandbox,
 };
 
-/// What the system tells of a running process that gave no menus: its environment, the libraries it has
-/// loaded and the files beside its program. `none` also where that cannot be read, as with other users'
-/// processes. `proc` is where the kernel's file system of processes is.
+/// Finds out why a running process gave no menus, from its environment, its loaded libraries and the files
+/// beside its program. `none` also if these cannot be read, for instance for other users' processes. `proc`
+/// is the place of the kernel's process file system.
 MenuObstacle menuObstacleOf(std::int32_t processIdentifier, const std::filesystem::path& proc = "/proc");
 
 } // namespace tovrel

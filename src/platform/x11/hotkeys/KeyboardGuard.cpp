@@ -57,7 +57,7 @@ void KeyboardGuard::watch() {
         if (current_ == 0) {
             changed_.wait(lock);
         } else if (std::chrono::steady_clock::now() < deadline_) {
-            // A hold that ends before leaves this asleep until then; most are over in a few milliseconds.
+            // A hold that ends earlier does not wake this thread; most holds end within a few milliseconds.
             changed_.wait_until(lock, deadline_);
         } else {
             current_ = 0;

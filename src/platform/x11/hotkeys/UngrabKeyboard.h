@@ -4,8 +4,8 @@
 
 namespace tovrel {
 
-/// Has the server let the keyboard go. To be asked once a hold: the server then delivers what it has kept, up
-/// to the next press of a hot key, which must find the keyboard held again.
+/// Has the server release the keyboard. Must be called once per hold: the server then delivers the keys it
+/// has held back, up to the next press of a hot key, which begins the next hold.
 inline void ungrabKeyboard(xcb_connection_t* connection) {
     xcb_ungrab_keyboard(connection, XCB_CURRENT_TIME);
     xcb_flush(connection);

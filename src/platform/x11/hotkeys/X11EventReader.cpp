@@ -18,7 +18,7 @@ X11EventReader::X11EventReader(X11Connection& connection, KeyboardGuard& guard)
 
 X11EventReader::~X11EventReader() {
     if (thread_.joinable()) {
-        // Nothing else wakes up a thread that waits for an event.
+        // Only this wakes a thread that waits for an event.
         shutdown(xcb_get_file_descriptor(connection_.handle()), SHUT_RDWR);
         thread_.join();
     }
@@ -40,7 +40,7 @@ X11EventReader::Event X11EventReader::next() {
 
 void X11EventReader::read() {
     while (XcbOwned<xcb_generic_event_t> event{xcb_wait_for_event(connection_.handle())}) {
-        // Those that another client sends have a bit more, and give us nothing.
+        // Events that another client sends have an extra bit, and do not give us the keyboard.
         const bool isKey = event->response_type == XCB_KEY_PRESS || event->response_type == XCB_KEY_RELEASE;
         const KeyboardGuard::Hold hold = isKey ? guard_.begin() : 0;
         const std::lock_guard lock(mutex_);

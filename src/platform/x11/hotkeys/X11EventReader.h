@@ -13,21 +13,23 @@
 
 namespace tovrel {
 
-/// Takes every event of a connection the moment it arrives, on a thread of its own, and keeps it for the main
-/// thread; so a key that gives us the keyboard is known to the guard whatever the main thread does. It also
-/// takes the events that arrive with an answer, after which the connection's descriptor tells of nothing.
+/// Takes every event of a connection as soon as it arrives, on a thread of its own, and keeps it for the main
+/// thread. So the guard knows of each key that gives us the keyboard, whatever the main thread does. It also
+/// takes events that arrive together with an answer, for which the connection's descriptor does not become
+/// readable.
 class X11EventReader {
   public:
     struct Event {
         XcbOwned<xcb_generic_event_t> event;
-        KeyboardGuard::Hold hold = 0; ///< Begun by this event; 0 for most.
+        KeyboardGuard::Hold hold = 0; ///< The hold that this event began; 0 for most events.
 
         explicit operator bool() const { return event != nullptr; }
     };
 
-    /// Both outlive it, and nobody else takes events of the connection. Only a grab brings key events here.
+    /// Both arguments outlive the reader, and nobody else takes events of the connection. Key events must
+    /// come only from grabs.
     X11EventReader(X11Connection& connection, KeyboardGuard& guard);
-    /// Cuts the connection off from the server.
+    /// Disconnects from the server.
     ~X11EventReader();
     X11EventReader(const X11EventReader&) = delete;
     X11EventReader& operator=(const X11EventReader&) = delete;
@@ -47,7 +49,7 @@ class X11EventReader {
     FileDescriptor readable_;
     std::mutex mutex_;
     std::deque<Event> events_;
-    std::thread thread_; ///< Last, for it uses the others.
+    std::thread thread_; ///< Last, because it uses the other members.
 };
 
 } // namespace tovrel

@@ -77,7 +77,7 @@ void X11FocusWait::selectEvents(bool isWanted) {
         xcb_change_window_attributes(connection_.handle(), window, XCB_CW_EVENT_MASK, &mask);
     };
     select(destination_, XCB_EVENT_MASK_FOCUS_CHANGE);
-    // The root window is told when the focus moves between it, or none, and any other window.
+    // The root window gets an event when the focus moves between any window and the root or nothing.
     select(connection_.root(), std::uint32_t{XCB_EVENT_MASK_FOCUS_CHANGE} | XCB_EVENT_MASK_PROPERTY_CHANGE);
 }
 

@@ -7,35 +7,36 @@
 
 namespace tovrel {
 
-/// Waits by events until the keyboard focus of an X display is where keys are to go.
+/// Waits with events until the keyboard focus of an X display is where keys must go.
 class X11FocusWait {
   public:
     explicit X11FocusWait(X11Connection& connection) : connection_(connection) {}
 
-    /// From now on changes that can matter for the destination come as events: of the focus, and of the root
-    /// window's properties.
+    /// Selects the events that can matter for the destination: changes of the focus and of the root window's
+    /// properties.
     void begin(const KeyDestination& destination);
-    /// Nothing comes any more. A wait that has not begun ends as well.
+    /// Deselects these events; may be called without a wait.
     void end();
 
     [[nodiscard]] bool isWaiting() const { return isWaiting_; }
 
-    /// Whether keys go where they are to go. Asks the server, a few round trips.
+    /// Whether keys go where they must. Asks the server, which takes a few round trips.
     ///
-    /// To the destination: the focus is on the window or on one inside it. Away from it: the focus is on the
-    /// window that the window manager says is active, or on one inside that. On the way there the focus rests
-    /// on the root, on nothing, on the frame or on some window of the manager's own, and keys would be lost;
-    /// where no manager says what is active, a window that has nothing to do with the destination counts.
+    /// If keys must go to the destination, the focus must be on it or a window inside. If they must go
+    /// elsewhere, the focus must be on the window that the window manager calls active, or on a window inside
+    /// that. On the way there the focus rests on the root, on nothing, on the frame or on one of the
+    /// manager's own windows, where keys would be lost. If no manager names an active window, any window that
+    /// is unrelated to the destination counts.
     [[nodiscard]] bool isReached();
 
   private:
     [[nodiscard]] xcb_window_t focusedWindow();
-    /// The window and those around it, without the root.
+    /// The window and its ancestors, without the root.
     [[nodiscard]] std::vector<xcb_window_t> withAncestors(xcb_window_t window);
     void selectEvents(bool isWanted);
 
     X11Connection& connection_;
-    xcb_window_t destination_ = 0; ///< 0: it does not matter.
+    xcb_window_t destination_ = 0; ///< 0 when it does not matter.
     bool shouldHaveFocus_ = false;
     bool isWaiting_ = false;
 };

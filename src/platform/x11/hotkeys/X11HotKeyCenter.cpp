@@ -51,7 +51,7 @@ HotKeyOutcome X11HotKeyCenter::registered(Registration registration) {
         waitForServer();
         return *refusal;
     }
-    // Releases are selected before the question, so that none is missed between the two.
+    // Releases are selected before the server is asked, so that none is missed in between.
     registration.state = KeyState::heldBefore;
     registrations_.push_back(std::move(registration));
     selectRawKeys();
@@ -195,7 +195,7 @@ void X11HotKeyCenter::handle(const xcb_generic_event_t& event, KeyboardGuard::Ho
         case XCB_MAPPING_NOTIFY:
             hasKeyboardChanged_ = true;
             break;
-        default: // Errors among them: a window that is gone never gets the focus.
+        default: // Errors too: a window that is gone never gets the focus.
             break;
         }
     }
@@ -216,7 +216,7 @@ void X11HotKeyCenter::handleKey(const xcb_key_press_event_t& event, KeyboardGuar
 }
 
 void X11HotKeyCenter::handlePress(const xcb_key_press_event_t& event, KeyboardGuard::Hold hold) {
-    endHold(); // The one before is over, or this press would not have come.
+    endHold(); // The previous hold is over, or this press would not have come.
     currentHold_ = hold;
     lastPressTime_ = event.time;
     const auto pressed =
@@ -229,7 +229,7 @@ void X11HotKeyCenter::handlePress(const xcb_key_press_event_t& event, KeyboardGu
     }
     heldFor_ = pressed->handle;
     const HotKeyIdentifier identifier = pressed->identifier;
-    if (pressed->state == KeyState::down) { // The key repeats itself: nothing will change the focus.
+    if (pressed->state == KeyState::down) { // The key repeats: nothing will change the focus.
         endHold();
         report(identifier, HotKeyEventKind::pressed);
         reportKeysFoundUp();
@@ -316,7 +316,7 @@ void X11HotKeyCenter::holdAtFocusedWindow(xcb_timestamp_t time) {
     const bool isAsked = guard_.during(currentHold_, [&] {
         moved = xcb_grab_keyboard(connection, 0, focus->focus, time, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
     });
-    if (isAsked) { // Refused, as by a window that is gone meanwhile: then it stays as it is.
+    if (isAsked) { // A refusal, for instance because the window is gone, changes nothing.
         const XcbOwned<xcb_grab_keyboard_reply_t> answer(xcb_grab_keyboard_reply(connection, moved, nullptr));
     }
 }
@@ -388,7 +388,7 @@ void X11HotKeyCenter::selectRawKeys() {
 }
 
 void X11HotKeyCenter::waitForServer() {
-    // Any question will do: it is answered after what was asked before.
+    // Any question will do, because the server answers it after all earlier requests.
     static_cast<void>(keysDown(connection_.handle()));
 }
 

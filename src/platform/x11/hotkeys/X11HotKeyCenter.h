@@ -23,59 +23,60 @@ namespace tovrel {
 
 /// Hot keys of an X11 desktop, on a connection of their own.
 ///
-/// No keystroke is lost between a hot key and the window it opens: from the instant the hot key fires the
-/// server keeps every later key event, while the handler runs and until the keyboard focus is where the
-/// handler has left it to go. Then the keyboard is let go and the server delivers what it has kept, in order
-/// and as if it were typed now. The handler should be brief: while it runs, no program gets a key. A guard
-/// lets the keyboard go after 500 ms in all, whatever this thread does.
+/// No keystroke is lost between a hot key and the window it opens. When the hot key fires, the server holds
+/// back every later key event, while the handler runs and until the keyboard focus is where the handler has
+/// sent it. Then the keyboard is released, and the server delivers these events in order, as if the keys were
+/// typed now. The handler should be brief: while it runs, no program gets a key. A guard releases the
+/// keyboard after 500 ms in all, whatever this thread does.
 ///
-/// While a hot key is down its release is watched for outside of any grab, so it is seen whichever window the
-/// key goes to and in whatever order the keys come up. A held key goes on being reported pressed. A key that
-/// is down already when its combination is registered counts from its next press on.
+/// The release of a hot key is watched outside of any grab, so it is seen whichever window the key goes to
+/// and in whatever order the keys come up. A held key is reported as pressed repeatedly. A key that is
+/// already down when its combination is registered counts only from its next press on.
 ///
-/// Command is Control, Control is Super, Option is Alt. The Function modifier is left out of account, because
-/// keyboards keep it to themselves; Caps Lock, Num Lock and Scroll Lock may be on or off.
+/// Command is Control, Control is Super, Option is Alt. The Function modifier is ignored, because keyboards
+/// do not report it; Caps Lock, Num Lock and Scroll Lock may be on or off.
 class X11HotKeyCenter : public HotKeyCenter, public EventSource {
   public:
-    /// Asked before a press is reported and after its handler has returned.
+    /// Called before a press is reported and after its handler has returned.
     using DestinationOfKeys = std::function<KeyDestination()>;
 
-    /// The longest the keyboard stays held after a handler has returned, for a window that never gets the
-    /// focus. Where it was measured the focus arrived after 3 to 36 ms.
+    /// The longest time for which the keyboard stays held after a handler has returned, for a window that
+    /// never gets the focus. The focus was measured to arrive after 3 to 36 ms.
     static constexpr std::chrono::milliseconds longestFocusWait{300};
 
     /// Connects to `display`, or to $DISPLAY when null; without a server every registration is refused.
     X11HotKeyCenter(MainQueue& queue, DestinationOfKeys destination, const char* display = nullptr);
 
-    /// The outcome comes before this returns.
+    /// Calls the completion before it returns.
     [[nodiscard]] HotKeyHandle registerHotKey(std::uint32_t keyCode, std::uint32_t carbonModifiers,
                                               HotKeyIdentifier identifier, Completion completion) override;
-    /// The release of a key that is down is not reported any more. When this returns, the server knows.
+    /// The release of a key that is down is no longer reported. The server has handled the request when this
+    /// returns.
     void unregisterHotKey(HotKeyHandle handle) override;
     [[nodiscard]] std::optional<HotKeyError> refusal(HotKeyHandle handle) const override;
     void setKeyboardHandler(KeyboardHandler handler) override { keyboardHandler_ = std::move(handler); }
     void setHotKeyHandler(HotKeyHandler handler) override;
-    /// The keys are those typed anywhere while the handler is set; they reach their window as well.
+    /// The handler gets the keys typed anywhere; they also reach their window.
     void setRawKeyHandler(RawKeyHandler handler) override;
-    /// The focused window does not notice.
+    /// Takes the keyboard without the focused window noticing.
     [[nodiscard]] bool takeKeyboard(KeyHandler handler, std::function<void()> onLoss) override;
     void giveKeyboardBack(bool passesKeyOn) override;
-    /// An X server keeps no list of the grabs of others: this one is tried, and given back at once.
+    /// An X server does not list other clients' grabs, so this tries the grab and gives it back at once.
     [[nodiscard]] bool isSystemShortcut(const Shortcut& shortcut) override;
     [[nodiscard]] std::optional<Text> characterForKeyCode(std::uint32_t keyCode) override;
 
     [[nodiscard]] int fileDescriptor() const override { return reader_.fileDescriptor(); }
     void dispatch() override;
 
-    /// The server's time of the last press of a hot key, for requests that must tell by which action of the
-    /// user they were caused; 0 before the first.
+    /// The server's time of the last press of a hot key, for requests that must name the user's action that
+    /// caused them; 0 before the first press.
     [[nodiscard]] xcb_timestamp_t lastPressTime() const { return lastPressTime_; }
 
   private:
     enum class KeyState {
         up,
         down,
-        heldBefore, ///< Since before it was registered.
+        heldBefore, ///< Held since before the registration.
     };
     struct Registration {
         HotKeyHandle handle = 0;
@@ -83,15 +84,15 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
         std::uint32_t keyCode = 0;
         ModifierFlags modifiers = 0;
         X11HotKeyGrab grab;
-        std::optional<HotKeyError> refusal; ///< Of the grab, since the keyboard has changed.
+        std::optional<HotKeyError> refusal; ///< Why the grab fails since the keyboard has changed.
         KeyState state = KeyState::up;
     };
 
     [[nodiscard]] HotKeyOutcome registered(Registration registration);
-    /// What the keyboard makes of a combination at present.
+    /// The grab for a combination on the current keyboard, or why there is none.
     [[nodiscard]] std::variant<X11HotKeyGrab, HotKeyError> grabFor(std::uint32_t keyCode,
                                                                    ModifierFlags modifiers) const;
-    /// Takes the grab; why it cannot be had, else.
+    /// Takes the grab; returns the reason if that fails.
     [[nodiscard]] std::optional<HotKeyError> take(const X11HotKeyGrab& grab) const;
     [[nodiscard]] Registration* find(HotKeyHandle handle);
 
@@ -103,9 +104,10 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
     void released(HotKeyHandle handle);
     void report(HotKeyIdentifier identifier, HotKeyEventKind kind);
 
-    /// The grab of a hot key lies on the root window, so the front window is told that it has lost the focus,
-    /// and applications disable what needs it: Mousepad its Cut, Copy, Paste and Select All, before anyone
-    /// could read its menus. Moved to the window that has the focus anyway, the grab gives it back.
+    /// Moves the grab from the root window to the window with the focus. A grab on the root tells the front
+    /// window that it has lost the focus, and applications then disable commands before anyone could read
+    /// their menus: Mousepad disables Cut, Copy, Paste and Select All. The moved grab gives the window the
+    /// focus back.
     void holdAtFocusedWindow(xcb_timestamp_t time);
     void letGoAfter(std::chrono::milliseconds limit);
     void letGo();
@@ -115,7 +117,7 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
 
     void adoptKeyboard();
     void selectRawKeys();
-    /// Returns when the server has done everything that it was asked.
+    /// Returns when the server has handled all earlier requests.
     void waitForServer();
     [[nodiscard]] std::optional<Text> text(xcb_keycode_t key, std::uint32_t group, bool withShift);
 
@@ -137,9 +139,9 @@ class X11HotKeyCenter : public HotKeyCenter, public EventSource {
     KeyboardHandler keyboardHandler_;
     HotKeyHandler handler_;
     RawKeyHandler rawHandler_;
-    XkbExtension::State keyboardState_; ///< Kept up to date while there is a raw handler.
+    XkbExtension::State keyboardState_; ///< Current while there is a raw handler.
 
-    KeyboardGuard::Hold currentHold_ = 0; ///< 0 once this object has let the keyboard go.
+    KeyboardGuard::Hold currentHold_ = 0; ///< 0 once this object has released the keyboard.
     HotKeyHandle heldFor_ = 0;
     xcb_timestamp_t lastPressTime_ = 0;
 

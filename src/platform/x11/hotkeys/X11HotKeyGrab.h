@@ -15,14 +15,14 @@ struct X11HotKeyGrab {
 
     friend bool operator==(const X11HotKeyGrab&, const X11HotKeyGrab&) = default;
 
-    /// Whether an event of this key under these modifiers, locks included, is the hot key's.
+    /// Whether an event with this key and these modifiers, including locks, is the hot key's.
     [[nodiscard]] bool matches(xcb_keycode_t eventKey, X11Modifiers eventModifiers) const;
 
-    /// Takes all grabs on the root window, or none and answers the server's error code: 10 (BadAccess) when
-    /// another client has one of them. When a grab fires, the server holds the keyboard: every later key
-    /// event stays with it until the keyboard is let go.
+    /// Takes all grabs on the root window, or takes none and returns the server's error code, which is 10
+    /// (BadAccess) when another client has one of them. When a grab fires, the server holds the keyboard and
+    /// keeps every later key event until the keyboard is released.
     [[nodiscard]] std::optional<std::uint8_t> take(xcb_connection_t* connection, xcb_window_t root) const;
-    /// Gives the grabs back, except for one that is active.
+    /// Gives the grabs back, except an active one.
     void giveBack(xcb_connection_t* connection, xcb_window_t root) const;
 };
 

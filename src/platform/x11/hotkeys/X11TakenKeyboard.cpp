@@ -15,7 +15,8 @@ bool X11TakenKeyboard::take(HotKeyCenter::KeyHandler handler, std::function<void
     const XcbOwned<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
     const bool isWindow = focus && focus->focus > XCB_INPUT_FOCUS_POINTER_ROOT;
-    // The grab lies on the focused window, for another one would make that believe it had lost the focus.
+    // The grab is on the focused window, because a grab elsewhere would make that window believe it had lost
+    // the focus.
     const auto cookie = xcb_grab_keyboard(connection, 0, isWindow ? focus->focus : connection_.root(),
                                           XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_SYNC);
     xcb_allow_events(connection, XCB_ALLOW_SYNC_KEYBOARD, XCB_CURRENT_TIME);

@@ -8,32 +8,34 @@
 
 namespace tovrel {
 
-/// The whole keyboard, taken from everyone else while the user sets a shortcut (HotKeyCenter::takeKeyboard).
+/// Takes the whole keyboard from all other programs while the user sets a shortcut
+/// (HotKeyCenter::takeKeyboard).
 ///
-/// After each key the server keeps what is typed until that key is handled, so that nothing is lost of it
-/// should the keyboard have to be let go. Each key is a hold of its own for the guard.
+/// After each key the server holds back further keys until that key is handled, so that none is lost if the
+/// keyboard must be released. Each key is a separate hold for the guard.
 class X11TakenKeyboard {
   public:
-    /// Both outlive it.
+    /// Both arguments must outlive the object.
     X11TakenKeyboard(X11Connection& connection, KeyboardGuard& guard)
         : connection_(connection), guard_(guard) {}
 
     [[nodiscard]] bool isTaken() const { return static_cast<bool>(handler_); }
 
-    /// False, and nothing changes, when another program has the keyboard or it is taken already.
+    /// Takes the keyboard. Returns false and changes nothing when another program has the keyboard or it is
+    /// taken already.
     [[nodiscard]] bool take(HotKeyCenter::KeyHandler handler, std::function<void()> onLoss);
-    /// As HotKeyCenter::giveKeyboardBack.
+    /// Does what HotKeyCenter::giveKeyboardBack says.
     void giveBack(bool passesKeyOn);
 
-    /// A key has come, and with it the hold. For a keyboard that is taken.
+    /// Handles a key, with which the hold began. The keyboard must be taken.
     void handleKey(const KeyEvent& key, KeyboardGuard::Hold hold);
 
   private:
     X11Connection& connection_;
     KeyboardGuard& guard_;
-    HotKeyCenter::KeyHandler handler_; ///< While the keyboard is taken.
+    HotKeyCenter::KeyHandler handler_; ///< Empty unless the keyboard is taken.
     std::function<void()> onLoss_;
-    KeyboardGuard::Hold key_ = 0; ///< Of the key that is being handled; 0 between keys.
+    KeyboardGuard::Hold key_ = 0; ///< The hold of the key that is being handled; 0 between keys.
 };
 
 } // namespace tovrel

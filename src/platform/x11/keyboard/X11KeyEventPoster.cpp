@@ -17,7 +17,8 @@ bool hasExtension(xcb_connection_t* connection, xcb_extension_t* extension) {
     return reply != nullptr && reply->present != 0;
 }
 
-/// The number of a keyboard on which people type, other than the one the extension for tests plays on.
+/// The number of a keyboard on which people type; absent for the one on which the test extension plays, and
+/// for other devices.
 std::optional<std::uint8_t> keyboardNumber(const xcb_input_xi_device_info_t* device) {
     const std::string_view name(xcb_input_xi_device_info_name(device), device->name_len);
     return device->type == XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD && device->deviceid <= 0xFF &&
@@ -39,8 +40,8 @@ X11KeySet keysOf(const xcb_input_query_device_state_reply_t* state) {
 
 /// The modifier keys that must change for a press.
 struct ModifierKeys {
-    std::vector<xcb_keycode_t> lifted; ///< Down, and unwanted.
-    std::vector<xcb_keycode_t> added;  ///< Wanted, and none of the modifier's keys is down.
+    std::vector<xcb_keycode_t> lifted; ///< Down but unwanted.
+    std::vector<xcb_keycode_t> added;  ///< Wanted, while none of the modifier's keys is down.
 };
 
 ModifierKeys modifierKeysFor(const X11KeyMap& keyMap, const X11KeySet& down, xcb_keycode_t pressed,
@@ -96,7 +97,7 @@ bool X11KeyEventPoster::postKeyPress(std::uint16_t keyCode, ModifierFlags flags)
     std::for_each(others.lifted.begin(), others.lifted.end(),
                   [this](xcb_keycode_t code) { play(code, false); });
     for (const xcb_keycode_t code : others.added) {
-        // The extension's own keyboard may still have it down, and would not press it a second time then.
+        // The extension's own keyboard may still have the key down, and would not press it a second time.
         play(code, false);
         play(code, true);
     }
@@ -106,7 +107,7 @@ bool X11KeyEventPoster::postKeyPress(std::uint16_t keyCode, ModifierFlags flags)
     std::for_each(others.added.rbegin(), others.added.rend(),
                   [this](xcb_keycode_t code) { play(code, false); });
     putBack(others.lifted);
-    // Any question will do: it is answered after what was asked before.
+    // Any question will do, because the server answers it after all earlier requests.
     return keysDown(connection_.handle()).has_value();
 }
 
@@ -124,7 +125,8 @@ void X11KeyEventPoster::putBack(const std::vector<xcb_keycode_t>& lifted) {
     std::copy_if(lifted.begin(), lifted.end(), std::back_inserter(restored),
                  [&](xcb_keycode_t code) { return before->test(code); });
     std::for_each(restored.begin(), restored.end(), [this](xcb_keycode_t code) { play(code, true); });
-    // One that came up meanwhile was up already for the server, which therefore took no notice.
+    // The server ignored the release of a key that came up meanwhile, because it considered the key up
+    // already.
     const X11KeySet after = heldByUser().value_or(X11KeySet());
     for (const xcb_keycode_t code : restored) {
         if (!after.test(code)) {

@@ -8,25 +8,25 @@
 
 namespace tovrel {
 
-/// Plays keys on an X display by its extension for tests (XTEST 2.2), on a connection of its own. Command is
+/// Plays keys on an X display with its test extension (XTEST 2.2), on a connection of its own. Command is
 /// Control, Control is Super, Option is Alt.
 ///
-/// The Caps Lock flag and the locks are left alone: a lock is no key that is held, and to turn one off and on
-/// again would show. The Function and other flags have no counterpart and are dropped.
+/// The Caps Lock flag and the locks are ignored: a lock is not a held key, and the user would see it turned
+/// off and on. The Function and other flags have no counterpart and are dropped.
 ///
-/// What the user holds is asked of the keyboards themselves, which still know it while the server takes a key
-/// for released. So a modifier that had to be lifted for the press is put back only if it is held, and lifted
-/// again if it came up in that very moment; where the keyboards cannot be asked it stays lifted until the
-/// user presses it anew. A key of the user's that is down itself, such as the hot key that is being passed
-/// on, is lifted and not put back.
+/// The keyboards themselves are asked for the keys that the user holds, because they still know a held key
+/// that the server considers released. So a modifier that was lifted for the press is put back only if it is
+/// held, and lifted again if it came up at that moment. If the keyboards cannot be asked, it stays lifted
+/// until the user presses it again. If the user holds the posted key itself, such as the hot key that is
+/// being forwarded, it is lifted and not put back.
 class X11KeyEventPoster : public KeyEventPoster {
   public:
     /// Connects to `display`, or to $DISPLAY when null.
     explicit X11KeyEventPoster(const char* display = nullptr);
 
     [[nodiscard]] bool canPost() const override { return isAvailable_ && connection_.isOpen(); }
-    /// Returns when the server has taken the keys. False without a server or its extension, and for a key or
-    /// a modifier that the keyboard lacks.
+    /// Returns when the server has taken the keys. Returns false without a server or its extension, and for a
+    /// key or a modifier that the keyboard lacks.
     bool postKeyPress(std::uint16_t keyCode, ModifierFlags flags) override;
 
   private:

@@ -121,7 +121,8 @@ void X11KeyMap::findModifiers() {
         alt_ = modifierWithKeysym(XKB_KEY_Meta_L, XKB_KEY_Meta_R);
     }
     super_ = modifierWithKeysym(XKB_KEY_Super_L, XKB_KEY_Super_R);
-    // A lock that shares its modifier with one that is held cannot be told from it, and is no lock then.
+    // A lock that shares its modifier with Alt or Super cannot be told from it, so it does not count as a
+    // lock.
     const auto held = static_cast<X11Modifiers>(alt_ | super_);
     numLock_ = modifierWithKeysym(XKB_KEY_Num_Lock, XKB_KEY_Num_Lock) & static_cast<X11Modifiers>(~held);
     scrollLock_ =
@@ -129,7 +130,7 @@ void X11KeyMap::findModifiers() {
 }
 
 X11Modifiers X11KeyMap::modifierWithKeysym(xcb_keysym_t left, xcb_keysym_t right) const {
-    // The first three have their meaning by name.
+    // The first three have a fixed meaning.
     for (std::size_t number = 3; number < keysOfModifiers_.size(); ++number) {
         const auto& keys = keysOfModifiers_.at(number);
         if (std::any_of(keys.begin(), keys.end(),

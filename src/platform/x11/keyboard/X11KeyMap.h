@@ -15,34 +15,34 @@ namespace tovrel {
 /// A set of the eight modifiers of the core protocol, XCB_MOD_MASK_….
 using X11Modifiers = std::uint16_t;
 
-/// One bit a key of the core protocol.
+/// A set of keys of the core protocol, one bit each.
 using X11KeySet = std::bitset<256>;
 
-/// Which keys an X server has and which modifiers they are, as it was when read. Shift, Caps Lock and Control
-/// are modifiers by name in the protocol; Alt, Super, Num Lock and Scroll Lock are whichever modifier carries
-/// a key of that meaning.
+/// The keys of an X server and their modifiers at the time of reading. The protocol names the modifiers
+/// Shift, Caps Lock and Control; Alt, Super, Num Lock and Scroll Lock are the modifiers that have a key with
+/// that meaning.
 class X11KeyMap {
   public:
-    /// Absent when the server does not answer.
+    /// Reads the map; absent when the server does not answer.
     [[nodiscard]] static std::optional<X11KeyMap> read(xcb_connection_t* connection);
 
     /// Whether the keyboard gives the key any meaning.
     [[nodiscard]] bool hasKey(xcb_keycode_t key) const;
 
-    /// The modifiers that stand for these: Command is Control, Control is Super, Option is Alt, Shift is
-    /// Shift. Other flags are dropped. Absent when the keyboard lacks one of them.
+    /// The modifiers for these flags: Command is Control, Control is Super, Option is Alt, Shift is Shift.
+    /// Other flags are dropped. Absent when the keyboard lacks one of the modifiers.
     [[nodiscard]] std::optional<X11Modifiers> modifiersFor(ModifierFlags flags) const;
-    /// The other way round, with Caps Lock.
+    /// The flags for these modifiers, including Caps Lock.
     [[nodiscard]] ModifierFlags flagsFor(X11Modifiers modifiers) const;
 
     /// The lock modifiers that exist: Caps Lock, Num Lock, Scroll Lock.
     [[nodiscard]] X11Modifiers locks() const { return XCB_MOD_MASK_LOCK | numLock_ | scrollLock_; }
-    /// All sets of locks that can be on.
+    /// All combinations of locks that can be on.
     [[nodiscard]] std::vector<X11Modifiers> lockCombinations() const;
 
-    /// The modifiers this key is; none for most keys.
+    /// The modifiers that this key sets; none for most keys.
     [[nodiscard]] X11Modifiers modifiersOfKey(xcb_keycode_t key) const;
-    /// The keys that are this one modifier, the usual one first: the key on the left where there are two.
+    /// The keys that set this modifier, the usual one first: the left one of two.
     [[nodiscard]] const std::vector<xcb_keycode_t>& keysOfModifier(X11Modifiers modifier) const;
 
   private:
@@ -61,7 +61,7 @@ class X11KeyMap {
     X11Modifiers scrollLock_ = 0;
 };
 
-/// The keys that are down as the server has them at the moment; absent when it does not answer.
+/// The keys that the server considers down at the moment; absent when it does not answer.
 [[nodiscard]] std::optional<X11KeySet> keysDown(xcb_connection_t* connection);
 
 /// Reads the protocol's form of a key set, 32 bytes with the lowest key in the lowest bit.

@@ -34,7 +34,7 @@ std::optional<Text> X11Layout::text(xcb_keycode_t key, std::uint32_t group, bool
         return std::nullopt;
     }
     xkb_state_update_mask(state_.get(), withShift ? shift_ : 0, 0, 0, 0, 0, group);
-    std::array<char, 64> buffer{}; // One keysym's text is a few bytes; longer ones are cut off.
+    std::array<char, 64> buffer{}; // A keysym's text has a few bytes; a longer one is cut off.
     const int length = xkb_state_key_get_utf8(state_.get(), key, buffer.data(), buffer.size());
     if (length <= 0 || static_cast<std::size_t>(length) >= buffer.size()) {
         return std::nullopt;

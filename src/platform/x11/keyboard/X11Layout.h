@@ -11,10 +11,10 @@
 
 namespace tovrel {
 
-/// What the keys of an X display type, as it was when read.
+/// What the keys of an X display type, at the time of reading.
 class X11Layout {
   public:
-    /// Asks the server, some milliseconds' work; without an answer no key types anything.
+    /// Asks the server, which takes some milliseconds; without an answer no key types anything.
     explicit X11Layout(xcb_connection_t* connection);
 
     /// What the key types in a group of the layout ("us", "ru"), with Shift or without any modifier. Absent
@@ -27,7 +27,7 @@ class X11Layout {
         void operator()(xkb_state* state) const { xkb_state_unref(state); }
     };
 
-    std::unique_ptr<xkb_state, Release> state_; ///< Holds the key map.
+    std::unique_ptr<xkb_state, Release> state_; ///< Keeps the key map alive.
     xkb_mod_mask_t shift_ = 0;
 };
 

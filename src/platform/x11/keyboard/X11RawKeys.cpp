@@ -13,7 +13,7 @@ X11RawKeys::X11RawKeys(xcb_connection_t* connection, xcb_window_t root)
         return;
     }
     opcode_ = extension->major_opcode;
-    // From 2.1 on raw events come also while another client has grabbed the keyboard.
+    // From 2.1 on, raw events come even while another client has grabbed the keyboard.
     const XcbOwned<xcb_input_xi_query_version_reply_t> version(
         xcb_input_xi_query_version_reply(connection, xcb_input_xi_query_version(connection, 2, 1), nullptr));
     isAvailable_ = version && (version->major_version > 2 ||

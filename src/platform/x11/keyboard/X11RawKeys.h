@@ -7,12 +7,12 @@
 
 namespace tovrel {
 
-/// Key events as they come from the keyboards of an X display, whichever client they go to (XI 2.1). Nothing
-/// is delivered unless selected, so that typing wakes nobody up in vain.
+/// Key events from the keyboards of an X display, whichever client they go to (XI 2.1). Only selected events
+/// are delivered, so that typing does not wake the program in vain.
 class X11RawKeys {
   public:
     struct Key {
-        std::uint32_t keyCode = 0; ///< As the server numbers it.
+        std::uint32_t keyCode = 0; ///< The server's number of the key.
         bool isPress = false;
     };
 
@@ -20,10 +20,10 @@ class X11RawKeys {
 
     [[nodiscard]] bool isAvailable() const { return isAvailable_; }
 
-    /// Which key events come from now on, those of all keyboards in use.
+    /// Selects the key events that come from now on, from all keyboards in use.
     void select(bool presses, bool releases);
 
-    /// The key an event tells of; absent when it is another event.
+    /// The key of an event; absent for another kind of event.
     [[nodiscard]] std::optional<Key> keyOf(const xcb_generic_event_t& event) const;
 
   private:

@@ -1,6 +1,6 @@
 #include "platform/x11/keyboard/XkbExtension.h"
 
-// The header has a member of this name, as C allows.
+// The header has a member with this name, which C allows.
 #ifdef __clang__
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wkeyword-macro"
@@ -82,7 +82,7 @@ std::optional<XkbExtension::State> XkbExtension::stateOf(const xcb_generic_event
 }
 
 std::optional<std::uint8_t> XkbExtension::kindOf(const xcb_generic_event_t& event) const {
-    // All events of the extension share one number and have their kind in the second byte.
+    // All events of the extension have one number; the second byte is the kind.
     return isAvailable_ && (event.response_type & 0x7FU) == firstEvent_ ? std::optional(event.pad0)
                                                                         : std::nullopt;
 }

@@ -7,10 +7,10 @@
 
 namespace tovrel {
 
-/// The keyboard extension of an X connection (XKB 1.0), as far as it is needed here.
+/// The needed part of the keyboard extension of an X connection (XKB 1.0).
 class XkbExtension {
   public:
-    /// What the keyboard's modifiers and its group of characters are at a time.
+    /// The keyboard's modifiers and group of characters at one moment.
     struct State {
         std::uint8_t modifiers = 0; ///< Effective: held, latched and locked.
         std::uint8_t locked = 0;
@@ -22,17 +22,17 @@ class XkbExtension {
 
     [[nodiscard]] bool isAvailable() const { return isAvailable_; }
 
-    /// From now on this connection is told of a held key as press, press, …, release.
+    /// Has a held key reported to this connection as press, press, …, release.
     void useDetectableAutoRepeat();
 
-    /// From now on another keyboard, layout or modifier mapping comes as an event. The core protocol's own
-    /// event for that is not sent to clients of the extension in all cases.
+    /// Has events sent for another keyboard, layout or modifier mapping. Clients of the extension do not
+    /// always get the core protocol's event for these.
     void selectKeyboardEvents();
     [[nodiscard]] bool isKeyboardChange(const xcb_generic_event_t& event) const;
 
-    /// Whether changes of the modifiers come as events from now on.
+    /// Sets whether changes of the modifiers are sent as events.
     void selectStateEvents(bool isWanted);
-    /// The state an event tells of; absent when it is another event.
+    /// The state in an event; absent for another kind of event.
     [[nodiscard]] std::optional<State> stateOf(const xcb_generic_event_t& event) const;
 
     [[nodiscard]] std::optional<State> state();

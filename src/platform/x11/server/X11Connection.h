@@ -12,8 +12,8 @@
 
 namespace tovrel {
 
-/// A connection to the X server of this process's environment, and what it is asked here. Without a server
-/// every question has an absent answer.
+/// A connection to the X server of this process's environment, with common questions. Without a server every
+/// answer is absent.
 class X11Connection {
   public:
     /// Connects to `display`, or to $DISPLAY when null.
@@ -21,7 +21,7 @@ class X11Connection {
 
     [[nodiscard]] bool isOpen() const;
 
-    /// For what the questions below do not cover; never null, but of no use unless open.
+    /// The connection for other requests than those below; never null, but useless unless open.
     [[nodiscard]] xcb_connection_t* handle() const { return connection_.get(); }
     /// -1 without a server.
     [[nodiscard]] int fileDescriptor() const {
@@ -38,26 +38,27 @@ class X11Connection {
     [[nodiscard]] std::optional<std::string> bytes(xcb_window_t window, const char* property);
     [[nodiscard]] std::vector<std::uint32_t> numbers(xcb_window_t window, const char* property);
 
-    /// Whether a window manager runs: the window that it announced itself by exists, and names itself
-    /// (EWMH 1.5, _NET_SUPPORTING_WM_CHECK). What one that was killed has said on the root window stays
-    /// there, the active window among it.
+    /// Whether a window manager runs: the window with which it announced itself exists and names itself (EWMH
+    /// 1.5, _NET_SUPPORTING_WM_CHECK). The root window's properties, such as the active window, survive a
+    /// manager that was killed.
     [[nodiscard]] bool hasWindowManager();
-    /// What the window manager says is active: 0 while no window is, absent where there is no manager or it
-    /// does not say.
+    /// The window that the window manager calls active; 0 while no window is, absent without a manager or if
+    /// it does not say.
     [[nodiscard]] std::optional<xcb_window_t> activeWindow();
 
-    /// Whether changes of the root window's properties come as events from now on. They pile up unless
+    /// Sets whether changes of the root window's properties are sent as events. The events pile up unless
     /// someone takes them.
     void watchRootProperties(bool isWanted);
-    /// Waits until a watched property may have changed. False at the deadline, or when the server is gone.
+    /// Waits until a watched property may have changed. Returns false at the deadline, or when the server is
+    /// gone.
     bool waitForPropertyChange(std::chrono::steady_clock::time_point deadline);
 
-    /// Sends a message about a window to the window manager. False when it could not be sent.
+    /// Sends a message about a window to the window manager. Returns false when it could not be sent.
     bool sendToWindowManager(xcb_window_t window, const char* message,
                              const std::vector<std::uint32_t>& data);
 
   private:
-    /// Whether this is the window of a manager that runs, as its property says.
+    /// Whether this is the window of a running manager, according to its property.
     [[nodiscard]] bool isManager(const std::vector<std::uint32_t>& announced);
 
     struct Disconnect {
@@ -69,7 +70,7 @@ class X11Connection {
     std::unordered_map<std::string, xcb_atom_t> atoms_;
 };
 
-/// Watches the root window's properties as long as it lives.
+/// Watches the root window's properties while it exists.
 class X11RootPropertyWatch {
   public:
     explicit X11RootPropertyWatch(X11Connection& connection) : connection_(connection) {

@@ -5,7 +5,7 @@
 namespace tovrel {
 namespace {
 
-/// In units of four bytes, as the protocol counts.
+/// The most that is read of a property, in the protocol's units of four bytes.
 constexpr std::uint32_t longestProperty = 16 * 1024;
 
 } // namespace

@@ -13,22 +13,22 @@
 
 namespace tovrel {
 
-/// Properties of a window as they are at one moment. All are asked for before the first answer is waited for:
-/// the server answers twelve in the time of two that are asked one by one.
+/// Properties of a window at one moment. All are requested before the first answer is awaited: the server
+/// answers twelve in the time of two separate requests.
 class X11Properties {
   public:
     X11Properties(X11Connection& connection, xcb_window_t window, std::initializer_list<const char*> names);
 
-    /// The bytes of a property of 8-bit items, whatever its type says; absent when the window lacks it or is
-    /// gone, or it is none of those named. At most 64 KiB are read.
+    /// The bytes of a property of 8-bit items, whatever its type; absent when the window lacks it or is gone,
+    /// or the property was not requested. At most 64 KiB are read.
     [[nodiscard]] std::optional<std::string> bytes(std::string_view name) const;
-    /// The values of a property of 32-bit items, such as window identifiers and numbers. At most 16,384.
+    /// The values of a property of 32-bit items, such as window identifiers and numbers; at most 16,384.
     [[nodiscard]] std::vector<std::uint32_t> numbers(std::string_view name) const;
 
   private:
     using Reply = XcbOwned<xcb_get_property_reply_t>;
 
-    /// Null when there is none of that format.
+    /// The reply for the property; null when there is none of that format.
     [[nodiscard]] const xcb_get_property_reply_t* find(std::string_view name, std::uint8_t format) const;
 
     std::vector<std::pair<std::string_view, Reply>> replies_;

@@ -6,10 +6,10 @@
 namespace tovrel {
 
 struct XcbFree {
-    void operator()(void* memory) const { std::free(memory); } // NOLINT: xcb allocates what it answers so
+    void operator()(void* memory) const { std::free(memory); } // NOLINT: xcb allocates answers so
 };
 
-/// A reply, an event or an error that xcb has handed out.
+/// Owns a reply, an event or an error from xcb.
 template <typename Answer>
 using XcbOwned = std::unique_ptr<Answer, XcbFree>;
 

@@ -19,7 +19,7 @@ X11ActivationWatch::X11ActivationWatch(Observer observer, const char* display)
 }
 
 void X11ActivationWatch::dispatch() {
-    // Reading the property may bring further events along, so it goes on until there are none.
+    // Reading the property may bring further events into memory, so the loop goes on until there are none.
     while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(connection_.handle())}) {
         if ((event->response_type & 0x7FU) != XCB_PROPERTY_NOTIFY ||
             reinterpret_cast<const xcb_property_notify_event_t&>(*event).atom != activeWindowProperty_) {

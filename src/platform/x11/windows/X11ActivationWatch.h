@@ -7,18 +7,18 @@
 
 namespace tovrel {
 
-/// Tells when another window of an X display becomes the active one, on a connection of its own.
+/// Reports when another window of an X display becomes active, on a connection of its own.
 class X11ActivationWatch : public EventSource {
   public:
     using Observer = std::function<void(xcb_window_t active)>;
 
-    /// Connects to `display`, or to $DISPLAY when null. The window that is active now is not told.
+    /// Connects to `display`, or to $DISPLAY when null. Does not report the window that is active now.
     X11ActivationWatch(Observer observer, const char* display);
 
     [[nodiscard]] int fileDescriptor() const override { return connection_.fileDescriptor(); }
 
-    /// That no window is active, as desktops say for a moment while the focus moves, is not told, nor is the
-    /// same window once more after it.
+    /// Does not report that no window is active, which desktops say for a moment while the focus moves, nor
+    /// the same window again afterwards.
     void dispatch() override;
 
   private:

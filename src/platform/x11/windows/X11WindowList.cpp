@@ -17,13 +17,13 @@
 namespace tovrel {
 namespace {
 
-/// The process identifier of a window counts only together with the machine it belongs to.
+/// Whether the window's process runs on this machine; otherwise its process identifier means nothing here.
 bool isThisMachine(const std::optional<std::string>& clientMachine) {
     std::array<char, 256> name{};
     if (!clientMachine || gethostname(name.data(), name.size() - 1) != 0) {
         return true;
     }
-    // Some programs write the name with a domain, some with the final NUL.
+    // Some programs write the name with a domain, some with a final NUL.
     const std::string_view machine(clientMachine->c_str());
     const std::string_view own(name.data());
     return machine.substr(0, machine.find('.')) == own.substr(0, own.find('.'));
@@ -56,7 +56,7 @@ std::optional<GtkMenuAddress> gtkMenusIn(const X11Properties& properties) {
                           properties.bytes("_GTK_WINDOW_OBJECT_PATH").value_or("")};
 }
 
-/// Absent for an identifier that no window of an X display has.
+/// The window with this identifier; absent for one that no window of an X display can have.
 std::optional<xcb_window_t> windowOf(const WindowIdentifier& identifier) {
     xcb_window_t window = 0;
     const char* const end = identifier.data() + identifier.size();
@@ -82,10 +82,10 @@ xcb_window_t X11WindowList::focusedWindow() {
     const XcbOwned<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
     xcb_window_t window = focus ? focus->focus : xcb_window_t{XCB_NONE};
-    // The focus may also be nowhere or follow the pointer; those two values are no windows.
+    // The focus may also be nowhere or follow the pointer; these two values are not windows.
     constexpr int deepest = 16;
     for (int level = 0; level < deepest && window > XCB_INPUT_FOCUS_POINTER_ROOT; ++level) {
-        // What a window within another belongs to is told by the outer one (ICCCM 2.0, 4.1.2.5).
+        // The outer window tells to which application a window inside it belongs (ICCCM 2.0, 4.1.2.5).
         if (connection_.bytes(window, "WM_CLASS")) {
             return window;
         }
@@ -151,8 +151,8 @@ bool X11WindowList::activate(const WindowIdentifier& window) {
     if (!identifier) {
         return false;
     }
-    // From a pager, which is obeyed whichever window has the user's attention; no time of an action, no own
-    // window.
+    // The request claims to come from a pager, which managers obey whichever window the user works in. It has
+    // no time of an action and no own window.
     constexpr std::uint32_t fromPager = 2;
     return connection_.sendToWindowManager(*identifier, "_NET_ACTIVE_WINDOW",
                                            {fromPager, XCB_CURRENT_TIME, 0});

@@ -11,10 +11,10 @@
 
 namespace tovrel {
 
-/// The application windows of an X display, as the window manager lists them (EWMH 1.5). What a window says
-/// of itself is in _NET_WM_PID (on this machine, as WM_CLIENT_MACHINE tells), _NET_WM_NAME or else WM_NAME,
-/// WM_CLASS, _GTK_APPLICATION_ID or else _KDE_NET_WM_DESKTOP_FILE, _GTK_MENUBAR_OBJECT_PATH with what belongs
-/// to it, and _NET_WM_STATE. Registrars of application menus know a window by its X identifier.
+/// The application windows of an X display that the window manager lists (EWMH 1.5). A window describes
+/// itself in _NET_WM_PID (if WM_CLIENT_MACHINE is this machine), _NET_WM_NAME or else WM_NAME, WM_CLASS,
+/// _GTK_APPLICATION_ID or else _KDE_NET_WM_DESKTOP_FILE, _GTK_MENUBAR_OBJECT_PATH and its related properties,
+/// and _NET_WM_STATE. Registrars of application menus know a window by its X identifier.
 class X11WindowList : public WindowList {
   public:
     /// Connects to `display`, or to $DISPLAY when null.
@@ -22,7 +22,7 @@ class X11WindowList : public WindowList {
 
     [[nodiscard]] bool isAvailable() const override { return connection_.isOpen(); }
 
-    /// Without a window manager it is the window with the input focus.
+    /// The active window; without a window manager, the window with the input focus.
     [[nodiscard]] std::optional<ApplicationWindow>
     activeWindow(std::chrono::steady_clock::time_point deadline) override;
 
@@ -33,13 +33,13 @@ class X11WindowList : public WindowList {
     bool waitUntilActive(std::int32_t processIdentifier,
                          std::chrono::steady_clock::time_point deadline) override;
 
-    /// Observers are called from `activationEvents`, so the main loop must watch that.
+    /// `activationEvents` calls the observers, so the main loop must watch it.
     [[nodiscard]] Subscription onActivation(std::function<void(const ApplicationWindow&)> observer) override;
 
-    /// Where activations come from, on a connection of its own; made when first asked for.
+    /// The event source of activations, on a connection of its own; made at the first call.
     [[nodiscard]] EventSource& activationEvents();
 
-    /// The accessibility bus's address as the display carries it.
+    /// The accessibility bus's address that the display publishes.
     [[nodiscard]] std::optional<std::string> accessibilityBusAddress();
 
   private:

@@ -17,9 +17,9 @@ xcb_window_t xcbWindow(OwnWindow window) {
     return static_cast<xcb_window_t>(window);
 }
 
-/// A window that is gone or cannot be seen does not get it.
+/// Sets the input focus; a window that is gone or not visible does not get it.
 void setInputFocus(xcb_connection_t* connection, xcb_window_t window) {
-    // The error is taken here: the toolkit would write it to standard error.
+    // The error is taken here, because the toolkit would write it to standard error.
     const auto request =
         xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
     owned(xcb_request_check(connection, request));
@@ -114,7 +114,7 @@ xcb_window_t X11WindowSystem::inputFocus() const {
 }
 
 bool X11WindowSystem::isWithin(xcb_window_t window, xcb_window_t ancestor) const {
-    // The focus may also be nowhere or follow the pointer; those two values are no windows.
+    // The focus may also be nowhere or follow the pointer; these two values are not windows.
     constexpr int deepest = 16;
     for (int level = 0; level < deepest && window > XCB_INPUT_FOCUS_POINTER_ROOT && window != root_;
          ++level) {

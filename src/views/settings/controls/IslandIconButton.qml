@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// A button of a row that is only a symbol, of one of the kinds in Theme.buttons; `text` is what it is called.
+// A button of a row that shows only a symbol, of one of the kinds in Theme.buttons; `text` is its name.
 IslandPressable {
     id: button
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// One of many choices, from a list that is opened.
+// A control to choose one of many choices from a list that opens.
 IslandPressable {
     id: picker
 
@@ -21,7 +21,7 @@ IslandPressable {
         popup.setSource("PickerPopup.qml", {"picker": picker});
     }
 
-    // The list is closed; the focus comes back unless it has gone elsewhere.
+    // Closes the list. With `takesFocus` the focus comes back to the picker.
     function close(takesFocus: bool) {
         popup.source = "";
         if (takesFocus)

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// One of a few choices, side by side in their order. The arrow keys choose.
+// A control to choose one of a few choices, side by side in their order. The arrow keys choose.
 FocusScope {
     id: picker
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// The list of a picker's choices, with what its rows share.
+// The list of a picker's choices, with the shared state of its rows.
 ListView {
     required property IslandPicker picker
     required property int rowHeight

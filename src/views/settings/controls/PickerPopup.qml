@@ -60,7 +60,7 @@ FocusScope {
         event.accepted = true;
     }
 
-    // The window was left by another way than by a choice.
+    // The focus may leave the list without a choice.
     onActiveFocusChanged: {
         if (!popup.activeFocus)
             popup.picker.close(false);
@@ -140,12 +140,12 @@ FocusScope {
             x: 6
             y: filter.visible ? filter.y + filter.height + 6 : 6
             width: box.width - 12
-            // As high as all choices need, also while fewer are shown.
+            // The height that all choices need, even while fewer are shown.
             height: Math.min(popup.mostRows, Math.max(1, popup.picker.choices.count)) * popup.rowHeight
             clip: true
             model: rows
             boundsBehavior: Flickable.StopAtBounds
-            // As in the palette: no rows that are made by and by.
+            // As in the palette, Qt must not make rows later.
             cacheBuffer: 0
             keyNavigationEnabled: false
             highlightFollowsCurrentItem: false

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// One section of a page: an icon, a title and a text, and below them what the section holds.
+// One section of a page: an icon, a title and a text, and the section's content below them.
 RoundedBox {
     id: card
 

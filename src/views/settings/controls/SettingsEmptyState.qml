@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// What a card says when it has nothing to list.
+// Shown in a card that has nothing to list.
 Column {
     id: empty
 

@@ -1,14 +1,14 @@
 import QtQuick
 import Tovrel.Views
 
-// The rows of a card. A long list is scrolled in itself, so that what follows it stays within reach.
+// The rows of a card. A long list scrolls by itself, so that the content after it stays within reach.
 ListView {
     id: list
 
     required property string name
-    // For the rows, which cannot see what is around the list.
+    // For the rows, which cannot see the list's surroundings.
     required property SettingsViewAdapter settings
-    // Whether the rows have nothing the keyboard reaches, so that it goes through the rows themselves.
+    // Whether the keyboard moves through the rows themselves, because they have no controls that it could reach.
     property bool isReadByKeyboard: false
     property int mostHeight: 6 * (Theme.settings.rowHeight + list.spacing) - list.spacing
 
@@ -32,7 +32,7 @@ ListView {
             list.show(list.currentIndex);
     }
 
-    // A row did what goes on elsewhere.
+    // Emitted when a row's action continues elsewhere on the page.
     signal actedOn()
 
     Accessible.role: Accessible.List
@@ -46,7 +46,7 @@ ListView {
         return list.isReadByKeyboard;
     }
 
-    // What the keyboard reaches comes in sight.
+    // Scrolls to the row that the keyboard has reached.
     function show(index: int) {
         list.positionViewAtIndex(index, ListView.Contain);
     }

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// One row of a list: perhaps an icon, a title with a line below it, and on the right what can be done with it.
+// One row of a list: an optional icon, a title with a line below it, and on the right its actions.
 RoundedBox {
     id: row
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// What the user must know whichever page is open.
+// A notice that the user must see on every page.
 RoundedBox {
     id: notice
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// An application's icon, or the picture of a window where it has none.
+// An application's icon, or the picture of a window if it has none.
 Item {
     id: icon
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// What the columns of the list of rules are called, above them.
+// The headings of the columns in the list of rules.
 Item {
     id: columns
 

@@ -1,6 +1,6 @@
 import QtQuick
 
-// The list of the applications to choose from.
+// The list of applications to choose from.
 ListView {
     signal chosen()
 }

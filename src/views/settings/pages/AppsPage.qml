@@ -9,7 +9,7 @@ SettingsPage {
 
     readonly property AppsSettings rules: page.settings.apps
 
-    // An application is to be chosen; the button is where the keyboard focus comes back to.
+    // Asks for a dialog to choose an application; the keyboard focus comes back to the button afterwards.
     signal choiceWanted(button: Item)
 
     SettingsCard {

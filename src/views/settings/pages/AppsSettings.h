@@ -17,7 +17,7 @@
 
 namespace tovrel {
 
-/// What the page "Apps" binds to. A behaviour is given by its place among `behaviorLabels`.
+/// What the page "Apps" binds to. An index of a behaviour is its place among `behaviorLabels`.
 class AppsSettings : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -35,12 +35,12 @@ class AppsSettings : public QObject {
     Q_PROPERTY(tovrel::SettingsRowsModel* applications READ applications CONSTANT FINAL)
 
   public:
-    /// Everything referred to outlives the object.
+    /// All that the arguments refer to outlives the object.
     AppsSettings(SettingsViewState& state, Workspace& workspace, const TextServices& textServices,
                  QObject* parent = nullptr);
 
     [[nodiscard]] QStringList behaviorLabels() const;
-    /// The same as choices of a picker.
+    /// The behaviours as choices of a picker.
     [[nodiscard]] SettingsRowsModel* behaviors() { return &behaviors_; }
     [[nodiscard]] int defaultBehavior() const;
     [[nodiscard]] bool hasCurrentApplication() const;
@@ -50,13 +50,13 @@ class AppsSettings : public QObject {
     [[nodiscard]] int currentBehavior() const;
     [[nodiscard]] int newBehavior() const;
     [[nodiscard]] SettingsRowsModel* rules() { return &rules_; }
-    /// Those installed, by name; empty until they are loaded.
+    /// The installed applications by name; empty until they are loaded.
     [[nodiscard]] SettingsRowsModel* applications() { return &applications_; }
 
     Q_INVOKABLE void setDefaultBehavior(int index);
     Q_INVOKABLE void setCurrentBehavior(int index);
     Q_INVOKABLE void setNewBehavior(int index);
-    /// The behaviour is given by its id among `behaviors`.
+    /// Sets the behaviour with this id among `behaviors` for the application.
     Q_INVOKABLE void setBehavior(const QString& bundleID, const QString& behaviorID);
     Q_INVOKABLE void removeRule(const QString& bundleID);
     Q_INVOKABLE void loadApplications();
@@ -75,7 +75,7 @@ class AppsSettings : public QObject {
     SettingsRowsModel behaviors_;
     SettingsRowsModel rules_;
     SettingsRowsModel applications_;
-    mutable std::map<Text, std::optional<InstalledApplication>> installed_; ///< As far as asked for.
+    mutable std::map<Text, std::optional<InstalledApplication>> installed_; ///< A cache by identifier.
     std::vector<Subscription> subscriptions_;
 };
 

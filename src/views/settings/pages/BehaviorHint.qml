@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// A picker of a behaviour with what the behaviours mean beside it, or below it when there is no room.
+// A picker of a behaviour. An explanation of the behaviours is beside it, or below it when there is no room.
 Flow {
     id: hint
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// The installed applications, one of which is to get a rule. Over everything else in the window.
+// A dialog over the whole window to choose the installed application that gets a rule.
 FocusScope {
     id: dialog
 
@@ -119,7 +119,7 @@ FocusScope {
             currentIndex: 0
             onChosen: dialog.add()
             boundsBehavior: Flickable.StopAtBounds
-            // As in the palette: no rows that are made by and by.
+            // As in the palette, Qt must not make rows later.
             cacheBuffer: 0
             keyNavigationEnabled: false
             highlightFollowsCurrentItem: false

@@ -106,7 +106,7 @@ SettingsPage {
             name: qsTr("Custom Commands")
             model: page.commands.commands
             settings: page.settings
-            // The form is filled where the user is to go on.
+            // The user goes on in the form, which has been filled.
             onActedOn: titleField.textInput.forceActiveFocus(Qt.OtherFocusReason)
 
             delegate: SettingsListRow {

@@ -13,7 +13,7 @@
 
 namespace tovrel {
 
-/// What the page "Commands" binds to. The form's fields are written as the user types.
+/// What the page "Commands" binds to. The form's fields change as the user types.
 class CommandsSettings : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -38,7 +38,7 @@ class CommandsSettings : public QObject {
     [[nodiscard]] QString title() const;
     void setTitle(const QString& title);
     [[nodiscard]] QStringList kindLabels() const;
-    /// The place among `kindLabels`.
+    /// The kind's place among `kindLabels`.
     [[nodiscard]] int kind() const { return static_cast<int>(form().kind); }
     void setKind(int index);
     [[nodiscard]] QString payload() const;

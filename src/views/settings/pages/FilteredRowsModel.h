@@ -8,8 +8,7 @@
 
 namespace tovrel {
 
-/// Those rows of another list whose title contains what is typed, whatever its case; all of them when nothing
-/// is.
+/// The rows of another list whose titles contain the typed text, whatever its case; all rows without a text.
 class FilteredRowsModel : public QSortFilterProxyModel {
     Q_OBJECT
     QML_ELEMENT
@@ -28,7 +27,7 @@ class FilteredRowsModel : public QSortFilterProxyModel {
 
     /// The id of a row that is shown; empty when the row is not there.
     Q_INVOKABLE QString idAt(int row) const;
-    /// Where the first row with the id is shown; -1 when it is not.
+    /// The place of the first shown row with the id; -1 when no such row is shown.
     Q_INVOKABLE int rowOf(const QString& id) const;
 
   Q_SIGNALS:

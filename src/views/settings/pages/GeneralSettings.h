@@ -25,7 +25,7 @@ class GeneralSettings : public QObject {
   public:
     using OpenURL = std::function<void(const Text&)>;
 
-    /// Everything referred to outlives the object.
+    /// All that the arguments refer to outlives the object.
     GeneralSettings(SettingsViewState& state, RecorderAdapter& recorder, OpenURL openURL,
                     QObject* parent = nullptr);
 
@@ -36,7 +36,7 @@ class GeneralSettings : public QObject {
     void setNotifiesOfCommandFailures(bool isWanted);
     [[nodiscard]] RecorderAdapter* recorder() const { return recorder_; }
 
-    /// Opens the place of the desktop's settings where the permission is given.
+    /// Opens the page of the desktop's settings that gives the permission.
     Q_INVOKABLE void openPrivacySettings();
 
   Q_SIGNALS:

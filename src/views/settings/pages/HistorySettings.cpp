@@ -14,7 +14,8 @@ namespace {
 
 /// 2001-01-01 00:00:00 UTC, in seconds since 1970.
 constexpr qint64 referenceDate = 978307200;
-/// Qt counts milliseconds in 64 bits; this is far beyond any date that is written in four digits.
+/// The most seconds to convert, because Qt counts milliseconds in 64 bits. It is far beyond any date with a
+/// four-digit year.
 constexpr double mostSeconds = 1e14;
 
 QString shortDate(PointInTime time) {

@@ -29,7 +29,7 @@ class HistorySettings : public QObject {
 
     [[nodiscard]] SettingsRowsModel* menuCommands() { return &menuCommands_; }
     [[nodiscard]] QString selectedID() const;
-    /// Empty when none is selected, or one that is not there any more.
+    /// Empty when nothing is selected, or the selected command no longer exists.
     [[nodiscard]] QString selectedTitle() const;
     [[nodiscard]] QString aliases() const;
     void setAliases(const QString& aliases);

@@ -30,7 +30,7 @@ class MenuFilterSettings : public QObject {
 
     [[nodiscard]] SettingsRowsModel* candidates() { return &candidates_; }
     [[nodiscard]] QString selectedID() const;
-    /// Empty when none is selected, or one that is not there any more.
+    /// Empty when nothing is selected, or the selected item no longer exists.
     [[nodiscard]] QString selectedTitle() const;
     [[nodiscard]] SettingsRowsModel* modes() { return &modes_; }
     [[nodiscard]] QString modeID() const;

@@ -14,7 +14,7 @@ RecorderAdapter::RecorderAdapter(std::unique_ptr<RecorderCocoa> recorder,
     subscriptions_.push_back(recorder_->placeholder().subscribe([this] { Q_EMIT placeholderChanged(); }));
     subscriptions_.push_back(recorder_->problem().subscribe([this] { Q_EMIT problemChanged(); }));
     subscriptions_.push_back(recorder_->isRecording().subscribe([this] { Q_EMIT isRecordingChanged(); }));
-    // The window gets the focus back from an alert only once this turn is over.
+    // The window gets the focus back from an alert only after this turn of the main loop.
     subscriptions_.push_back(recorder_->focusRequest().subscribe(
         [this] { QMetaObject::invokeMethod(this, &RecorderAdapter::focusRequested, Qt::QueuedConnection); }));
     subscriptions_.push_back(recorder_->isHandlingKey().subscribe([this] {

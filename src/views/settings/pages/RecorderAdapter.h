@@ -35,11 +35,11 @@ class RecorderAdapter : public QObject {
 
     void startRecording() { recorder_->becomeFirstResponder(); }
     void endRecording() { recorder_->endRecording(); }
-    /// True when the key is used up. May ask the user, and then returns only after the answer.
+    /// Returns whether the key is used up. May ask the user, and then returns only after the answer.
     bool handleKeyDown(const QKeyEvent& event);
     /// Whether the user is being asked about a key, so that the recorder must stay.
     [[nodiscard]] bool isHandlingKey() const { return recorder_->isHandlingKey().get(); }
-    /// Has a shortcut tried again that could not be had.
+    /// Tries again to register a shortcut that was refused.
     void retry() { recorder_->retry(); }
 
     Q_INVOKABLE void clear() { recorder_->clear(); }
@@ -49,9 +49,9 @@ class RecorderAdapter : public QObject {
     void placeholderChanged();
     void problemChanged();
     void isRecordingChanged();
-    /// The field is to take the keyboard focus (again) and to record.
+    /// Asks the field to take the keyboard focus (again) and to record.
     void focusRequested();
-    /// A key has been handled, and what it led to is over.
+    /// Emitted when a key has been handled, including a question to the user.
     void keyHandled();
 
   private:

@@ -40,7 +40,7 @@ void RecorderInput::record() {
     if (window()->isActive()) {
         recorder_->startRecording();
     } else {
-        // Recording in a window that does not get the keys would keep all shortcuts from working.
+        // Recording disables all shortcuts, so it must not begin while the window does not get the keys.
         recordsWhenActive_ = true;
         window()->requestActivate();
     }

@@ -8,8 +8,8 @@
 
 namespace tovrel {
 
-/// The part of a recorder's field that has the keyboard focus. Taking the focus starts recording, other than
-/// when the window as a whole gets it; Return and Space start it again.
+/// The part of a recorder's field that has the keyboard focus. Taking the focus starts recording, unless the
+/// field only gets it with its window; Return and Space start it again.
 class RecorderInput : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT

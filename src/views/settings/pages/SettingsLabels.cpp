@@ -56,7 +56,7 @@ const char* labelOf(MenuBlacklistMode mode) {
     noSuchValue("MenuBlacklistMode");
 }
 
-/// Null where only the system has words for it.
+/// The sentence for an obstacle; null where only the system has words for it.
 const char* sentenceOf(PreferencesObstacle obstacle) {
     switch (obstacle) {
     case PreferencesObstacle::locked:

@@ -12,25 +12,25 @@
 #include "platform/PreferencesDomain.h"
 #include "views/settings/pages/SettingsRowsModel.h"
 
-/// How the settings name what there is to choose from, in the user's language.
+/// The settings' names for the choices, in the user's language.
 namespace tovrel::settings_labels {
 
 QString label(AppBehaviorRule rule);
 QString label(MenuBlacklistMode mode);
 QString label(CustomCommandKind kind);
 
-/// Why a change could not be stored; what nobody thought of is said in the system's words.
+/// Why a change could not be stored; an unforeseen reason is given in the system's words.
 QString sentence(const PreferencesFailure& failure);
 
 const char* symbol(CustomCommandKind kind);
 
-/// What the field for the payload of such a command asks for.
+/// The placeholder of the payload field for such a command.
 QString payloadPlaceholder(CustomCommandKind kind);
 
 /// Where a rule or a command applies: the application's identifier, or all of them.
 QString scope(const std::optional<Text>& appScope);
 
-/// The choices in their order, as rows with the names they are stored under.
+/// The choices in their order, as rows whose ids are the stored names.
 template <typename Value, std::size_t count>
 std::vector<SettingsRow> choices(const std::array<Value, count>& values) {
     std::vector<SettingsRow> rows;
@@ -50,7 +50,7 @@ QStringList labels(const std::array<Value, count>& values) {
     return list;
 }
 
-/// The choice at a place of the list; absent when it has no such place.
+/// The choice at an index of the list; absent when the index is out of range.
 template <typename Value, std::size_t count>
 std::optional<Value> choiceAt(const std::array<Value, count>& values, int index) {
     return index >= 0 && index < static_cast<int>(count)
@@ -58,7 +58,7 @@ std::optional<Value> choiceAt(const std::array<Value, count>& values, int index)
                : std::nullopt;
 }
 
-/// The choice that is stored under the name; absent when none is.
+/// The choice that is stored under the name; absent for an unknown name.
 template <typename Value, std::size_t count>
 std::optional<Value> choiceNamed(const std::array<Value, count>& values, const QString& name) {
     const auto found = std::find_if(values.begin(), values.end(),

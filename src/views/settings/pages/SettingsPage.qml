@@ -1,13 +1,13 @@
 import QtQuick
 import Tovrel.Views
 
-// A page of cards, scrolled when they need more room than there is.
+// A page of cards, which scrolls when they need more room than there is.
 FocusScope {
     id: page
 
     default property alias cards: column.data
 
-    // What the keyboard reaches comes in sight, with its ring.
+    // Scrolls to the item that the keyboard has reached, including its focus ring.
     function reveal(item: Item) {
         const top = item.mapToItem(column, 0, 0).y;
         const bottom = top + item.height;
@@ -53,7 +53,7 @@ FocusScope {
             spacing: Theme.settings.inner
         }
     }
-    // The cards fade out where they are scrolled away.
+    // Cards that are scrolled away fade out at the edge.
     Rectangle {
         x: column.x
         width: column.width

@@ -8,21 +8,21 @@
 
 namespace tovrel {
 
-/// One row of a list, or one choice of a picker. A list uses the members it has something to say in.
+/// One row of a list, or one choice of a picker. Each list uses the members that it needs.
 struct SettingsRow {
     QString id = {};
     QString title = {};
     QString detail = {};
     QString symbol = {};
     QUrl icon = {};     ///< Empty when there is none.
-    QString value = {}; ///< What the row's picker shows.
+    QString value = {}; ///< The value that the row's picker shows.
     bool isMarked = false;
 
     friend bool operator==(const SettingsRow&, const SettingsRow&) = default;
 };
 
-/// Rows of a list. New rows are assigned as a whole; the view is told only of what is different, so that what
-/// stays keeps its place and the keyboard focus.
+/// Rows of a list. New rows are assigned as a whole. The view is told only of differences, so that unchanged
+/// rows keep their place and the keyboard focus.
 class SettingsRowsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -45,10 +45,10 @@ class SettingsRowsModel : public QAbstractListModel {
     void assign(std::vector<SettingsRow> rows);
     [[nodiscard]] const std::vector<SettingsRow>& rows() const { return rows_; }
 
-    /// Of the first row with the id; empty when there is none.
+    /// The title of the first row with the id; empty when there is none.
     [[nodiscard]] QString titleOf(const QString& id) const;
 
-    /// Of the first row with the title; empty when there is none.
+    /// The id of the first row with the title; empty when there is none.
     Q_INVOKABLE [[nodiscard]] QString idOf(const QString& title) const;
 
     [[nodiscard]] int count() const { return static_cast<int>(rows_.size()); }

@@ -1,7 +1,7 @@
 import QtQuick
 import Tovrel.Views
 
-// Says that a shortcut does not work, and why; nothing while it does.
+// Says that a shortcut does not work, and why; invisible while it works.
 RoundedBox {
     id: notice
 

@@ -75,7 +75,7 @@ class DesktopEntriesTest : public testing::Test {
         return {{folder_ / "own", folder_ / "system"}, "", {desktops, {folder_, folder_ / "bin"}}};
     }
 
-    /// The names in the menus, each followed by a blank.
+    /// The names in the menus, each followed by a space.
     std::string menus(const std::vector<std::string>& desktops) {
         std::string names;
         for (const DesktopEntry& entry : entries(desktops).forMenus()) {
@@ -154,7 +154,7 @@ TEST_F(DesktopEntriesTest, MenusShowWhatIsForTheirDesktopAndInstalled) {
     EXPECT_EQ(menus({"GNOME", "ubuntu"}), "everywhere not found absolute ");
     EXPECT_EQ(menus({"kde"}), "everywhere not found absolute ");
 
-    // What no menu shows can run all the same, and has its name then.
+    // An application that no menu shows can still run, and then has its name.
     write("system/applications/aa.desktop", "elsewhere", "OnlyShowIn=KDE;\nExec=shell\n");
     DesktopEntries all = entries({"XFCE"});
     EXPECT_EQ(name(all.withIdentifier("h")), "missing");

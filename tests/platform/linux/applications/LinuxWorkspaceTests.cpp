@@ -18,7 +18,7 @@
 namespace tovrel {
 namespace {
 
-/// The test program is this program, and its parent another application.
+/// The test program stands for this program, and its parent for another application.
 class LinuxWorkspaceTest : public X11ServerTest {
   protected:
     void SetUp() override {
@@ -32,13 +32,13 @@ class LinuxWorkspaceTest : public X11ServerTest {
         X11Connection& connection = client.connection();
         xcb_change_property(connection.handle(), XCB_PROP_MODE_REPLACE, window, connection.atom(name),
                             XCB_ATOM_CARDINAL, 32, 1, &value);
-        static_cast<void>(connection.numbers(window, name)); // Answered after it is done.
+        static_cast<void>(connection.numbers(window, name)); // Answered after all earlier requests.
     }
     void setActive(xcb_window_t window) {
         setNumber(other_, other_.connection().root(), "_NET_ACTIVE_WINDOW", window);
     }
 
-    /// The process identifiers of the reported activations; 0 for one of no known application.
+    /// The process identifiers of the reported activations; 0 for an unknown application.
     std::vector<std::int32_t> told_;
     Subscription subscribeTo(LinuxWorkspace& workspace) {
         loop_.watch(windows_->activationEvents());

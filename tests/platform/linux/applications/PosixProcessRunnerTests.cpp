@@ -77,7 +77,7 @@ TEST_F(PosixProcessRunnerTest, HandsArgumentsOverAndSaysWhatStoodInTheWay) {
 }
 
 TEST_F(PosixProcessRunnerTest, MissesNoEndWithoutDescriptorsOfProcessesOrWithoutStatuses) {
-    // A sanitizer uses a pipe to look at an object when it meets the object's type for the first time.
+    // A sanitizer uses a pipe to examine an object when it meets the object's type for the first time.
     EXPECT_EQ(shell("exit 5"), ProcessOutcome(ProcessEnd{5, false}));
     for (const char* script : {"exit 4", "sleep 0.3; exit 4"}) {
         {
@@ -87,7 +87,7 @@ TEST_F(PosixProcessRunnerTest, MissesNoEndWithoutDescriptorsOfProcessesOrWithout
         EXPECT_EQ(outcome(), ProcessOutcome(ProcessEnd{4, false})) << script;
     }
     EXPECT_EQ(shell("exit 5"), ProcessOutcome(ProcessEnd{5, false}));
-    // The kernel collects children itself then; whoever started this program may have left it so.
+    // The kernel then collects children itself; the parent process may have set this.
     const auto before = std::signal(SIGCHLD, SIG_IGN);
     EXPECT_EQ(shell("exit 6"), ProcessOutcome(ProcessEnd{}));
     static_cast<void>(std::signal(SIGCHLD, before));

@@ -64,10 +64,11 @@ TEST_F(DBusConnectionTest, OnlyWhoWasAskedAnswers) {
     sd_bus_start(raw);
     const std::unique_ptr<sd_bus, decltype(&sd_bus_close_unref)> stranger(raw, sd_bus_close_unref);
     const char* ignored = nullptr;
-    sd_bus_get_unique_name(raw, &ignored); // Once it has one it is connected.
+    sd_bus_get_unique_name(raw, &ignored); // A connection with a unique name is connected.
 
     const FakeService asked(bus_.address(), {}, [&](sd_bus_message* call) {
-        // The stranger is quicker: the bus has passed its answer on before it answers a question of its own.
+        // The stranger is quicker: the bus has passed on its answer before it answers the stranger's own
+        // question.
         sd_bus_message* forged = nullptr;
         sd_bus_message_new_method_return(call, &forged);
         sd_bus_message_append(forged, "s", "forged");

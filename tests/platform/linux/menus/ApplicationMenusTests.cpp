@@ -12,7 +12,7 @@
 namespace tovrel {
 namespace {
 
-/// A source with one menu, whose entries it presses by their titles and the number of the read.
+/// A source with one menu. An item is the title of an entry and the number of the read.
 class ListedSource : public ApplicationMenuSource {
   public:
     explicit ListedSource(std::vector<std::string> entries) : entries_(std::move(entries)) {}
@@ -60,7 +60,7 @@ class ListedSource : public ApplicationMenuSource {
     std::vector<std::string> entries_;
 };
 
-/// The sources of the program, on a bus without applications, and behind them two more.
+/// The program's sources on a bus without applications, and two more after them.
 class ApplicationMenusTest : public testing::Test {
   protected:
     void behindTheOthers(std::vector<std::string> entries, std::vector<std::string> entriesOfLast) {

@@ -96,7 +96,7 @@ TEST(AtspiKeyBinding, Qt) {
                                     {"Strg+S", "none"},
                                     {"", "none"},
                                 });
-    // What the program wrote into the name counts when the binding is none: there Alt+T is no mnemonic.
+    // A shortcut in the name counts when there is no binding; Alt+T is no mnemonic there.
     EXPECT_EQ(shortcutIn("", AtspiToolkit::qt, "Ctrl+T"), "t 0");
     EXPECT_EQ(shortcutIn("Alt+T", AtspiToolkit::qt, "Alt+T"), "t 10");
     EXPECT_EQ(shortcutIn("Ctrl+U", AtspiToolkit::qt, "Ctrl+T"), "u 0");

@@ -27,13 +27,13 @@ void replyWithReferences(sd_bus_message* call,
 std::string configuration(const std::filesystem::path& folder) {
     return "<busconfig><type>session</type><listen>unix:dir=" + folder.string() +
            "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow eavesdrop=\"true\"/>"
-           // Answers of those who were not asked, which a stricter bus would hold back.
+           // allows answers from connections that were not asked, which a stricter bus would hold back
            "<allow send_requested_reply=\"false\" send_type=\"method_return\"/>"
            "<allow receive_requested_reply=\"false\" receive_type=\"method_return\"/>"
            "<allow own=\"*\"/></policy></busconfig>";
 }
 
-/// Until it looks whether it shall end.
+/// The time until the thread checks whether it must end.
 constexpr std::chrono::microseconds shortWait{5'000};
 
 void answerCalls(sd_bus* bus, const FakeService::Answer& answer, const std::atomic<bool>& isStopping) {
@@ -159,7 +159,7 @@ void FakeApplication::answer(sd_bus_message* call) {
     if (before >= manners_.hangsAfter) {
         return;
     }
-    std::this_thread::sleep_for(manners_.delay); // It is as slow as that; nothing is waited for here.
+    std::this_thread::sleep_for(manners_.delay); // The application is that slow; this waits for nothing.
     const std::string asked = sd_bus_message_get_path(call);
     const std::size_t underscore = asked.rfind('_');
     const std::size_t number = underscore == std::string::npos ? 0 : std::stoul(asked.substr(underscore + 1));
@@ -214,7 +214,7 @@ void FakeApplication::answerRead(sd_bus_message* call, std::size_t number) {
         const bool isName = std::string_view(property) == "Name";
         sd_bus_reply_method_return(call, "v", "s", isName ? node.name.c_str() : manners_.toolkit.c_str());
     } else {
-        // A real application may die of anything else.
+        // A real application may crash on any other call.
         sd_bus_reply_method_errorf(call, SD_BUS_ERROR_UNKNOWN_METHOD, "Not for this reader");
     }
 }

@@ -31,7 +31,7 @@ class FakeService {
     FakeService& operator=(const FakeService&) = delete;
 
     [[nodiscard]] const std::string& uniqueName() const { return uniqueName_; }
-    /// Leaves the bus; for the thread.
+    /// Leaves the bus; called on the thread.
     void vanish() { sd_bus_close(bus_.get()); }
 
   private:
@@ -47,8 +47,8 @@ class FakeService {
     std::thread thread_;
 };
 
-/// A message bus of its own with the session's object for accessibility and the registry of applications on
-/// it, and the environment of this process pointing there.
+/// A private message bus with the session's accessibility object and the registry of applications. The
+/// environment of this process points to it.
 class FakeAccessibility {
   public:
     FakeAccessibility();
@@ -59,8 +59,8 @@ class FakeAccessibility {
     [[nodiscard]] const std::string& address() const { return daemon_->announced(); }
     void add(const std::string& uniqueName);
     std::atomic<bool> isEnabled = true;
-    std::atomic<bool> isSilent = false;       ///< As if it were stopped.
-    std::atomic<bool> refusesAddress = false; ///< With an error whose text is the address.
+    std::atomic<bool> isSilent = false;       ///< Whether it behaves as if it were stopped.
+    std::atomic<bool> refusesAddress = false; ///< Whether it answers with an error whose text is the address.
 
   private:
     void answer(sd_bus_message* call);
@@ -82,20 +82,20 @@ struct FakeNode {
     bool hasComponent = true;
 };
 
-/// An application whose objects have numbers, 0 being the application itself.
+/// An application whose objects have numbers; 0 is the application itself.
 class FakeApplication {
   public:
     static constexpr std::size_t never = std::numeric_limits<std::size_t>::max();
 
     struct Manners {
         std::string toolkit = "gtk";
-        std::chrono::microseconds delay{0}; ///< Before every answer.
-        std::size_t hangsAfter = never;     ///< Calls answered before it answers none.
-        std::size_t vanishesAfter = never;  ///< Calls answered before it leaves the bus.
-        bool answersWithWrongTypes = false; ///< Everything below the menu bar is a double.
-        std::size_t wrongTypesFrom = 3;     ///< The first object of those.
-        bool rebuildsBeforePress = false;   ///< At the first press all objects have got new paths.
-        bool answersPresses = true;         ///< Else as a program does that waits for its dialog.
+        std::chrono::microseconds delay{0}; ///< The delay before every answer.
+        std::size_t hangsAfter = never;     ///< The number of calls answered before it hangs.
+        std::size_t vanishesAfter = never;  ///< The number of calls answered before it leaves the bus.
+        bool answersWithWrongTypes = false; ///< Every answer below the menu bar is a double.
+        std::size_t wrongTypesFrom = 3;     ///< The first such object.
+        bool rebuildsBeforePress = false;   ///< All objects have new paths by the first press.
+        bool answersPresses = true;         ///< False for a program that waits for its dialog.
     };
     using Nodes = std::function<FakeNode(std::size_t number)>;
 

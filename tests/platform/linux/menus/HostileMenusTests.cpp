@@ -1,5 +1,5 @@
-// Applications that send sizes instead of menus. The whole road from the bus to what can be searched has to
-// end with something in hand, in a process that may take 32 MB more than before.
+// Applications that send huge messages instead of menus. The whole way from the bus to the searchable
+// commands must give a result, in a process whose memory may grow by at most 32 MB.
 
 #include <algorithm>
 #include <chrono>
@@ -35,14 +35,15 @@ constexpr std::size_t menuCount = 19;
 constexpr std::size_t itemCount = 999;
 constexpr std::size_t roomBytes = std::size_t{32} << 20U;
 
-/// What an application of one kind sends.
+/// The messages of one kind of application.
 struct Attack {
     const char* name;
-    std::size_t labelBytes = 8; ///< Of the one menu above all others.
+    std::size_t labelBytes = 8; ///< Of the label of the one menu above all others.
     std::size_t menus = menuCount;
     std::size_t items = itemCount;
-    std::size_t titleBytes = 8;      ///< Of every item.
-    const char* attribute = nullptr; ///< Of the first item: so many bytes, or variants of a byte each.
+    std::size_t titleBytes = 8; ///< Of the title of every item.
+    /// An attribute of the first item, with `bytes` bytes or `variants` variants of a byte each.
+    const char* attribute = nullptr;
     std::size_t bytes = 0;
     std::size_t variants = 0;
     const char* expected = "items";
@@ -50,7 +51,7 @@ struct Attack {
     friend std::ostream& operator<<(std::ostream& out, const Attack& attack) { return out << attack.name; }
 };
 
-/// One "{sv}" of the attack.
+/// Appends the "{sv}" of the attack.
 void appendAttribute(sd_bus_message* reply, const Attack& attack) {
     sd_bus_message_open_container(reply, 'e', "sv");
     sd_bus_message_append(reply, "s", attack.attribute);
@@ -84,7 +85,7 @@ void fillGtkItem(sd_bus_message* reply, const Attack& attack, std::size_t menu, 
     sd_bus_message_close_container(reply);
 }
 
-/// Menu 0 has the one with the long label, which has the others.
+/// Fills menu 0 with the menu with the long label, which has the others.
 void fillGtkMenus(sd_bus_message* reply, const Attack& attack) {
     const auto menu = [reply](std::uint32_t number, const std::function<void()>& entries) {
         sd_bus_message_open_container(reply, 'r', "uuaa{sv}");
@@ -197,9 +198,9 @@ class HostileMenusTest : public testing::TestWithParam<Attack> {
                                                            : ", unlike");
     }
 
-    /// In a process of its own with little memory, the menus of this one read, scanned, made commands of and
-    /// searchable: how many commands that gives, and what a text shows that must not be. Under the address
-    /// sanitizer in this process, and with all memory there is.
+    /// Reads and scans the menus of this process in another process with little memory, makes searchable
+    /// commands from them, and returns how many there are and any text that must not occur. Under the address
+    /// sanitizer this happens in this process, without a limit on memory.
     std::string road(bool isGtk) {
         const TextServices textServices("en_US");
         static_cast<void>(textServices.collationKey("warm"));
@@ -209,7 +210,7 @@ class HostileMenusTest : public testing::TestWithParam<Attack> {
             if (isGtk) {
                 window.gtkMenus = GtkMenuAddress{service_->uniqueName(), "/menu", "/app", ""};
             }
-            MenuReadLimits patient; // This machine may be busy; what is kept is bounded otherwise.
+            MenuReadLimits patient; // The machine may be busy; the other limits bound what is kept.
             patient.silence = 20s;
             patient.total = 30s;
             LinuxAccessibility linux(
@@ -327,7 +328,8 @@ TEST_P(HostileAccessibleMenusTest, CostNoMoreThanTheyMay) {
         return numbers;
     };
     constexpr std::uint64_t usable = (1U << 8U) | (1U << 24U) | (1U << 30U);
-    // 0 the application, 1 its window, 2 the bar, 3 the menu over all, 4 to 999 menus, from 1,000 on items.
+    // 0 is the application, 1 its window, 2 the bar, 3 the menu above all, 4 to 999 are menus, from 1,000 on
+    // items.
     const auto node = [&](std::size_t number) -> FakeNode {
         const auto role = [](AtspiRole known) { return static_cast<std::uint32_t>(known); };
         if (number < 3) {

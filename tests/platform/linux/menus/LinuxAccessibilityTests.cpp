@@ -34,7 +34,7 @@ FakeNode item(const std::string& name, const std::string& binding) {
     return {role(AtspiRole::menuItem), name, usable, binding, {}, true};
 }
 
-/// 0 application, 1 window, 2 menu bar, then what `below` says from 3 on.
+/// 0 is the application, 1 a window, 2 its menu bar; `below` gives the objects from 3 on.
 FakeApplication::Nodes application(std::vector<std::size_t> entries,
                                    std::function<FakeNode(std::size_t)> below) {
     return [entries = std::move(entries), below = std::move(below)](std::size_t number) -> FakeNode {
@@ -154,8 +154,9 @@ TEST_F(LinuxAccessibilityTest, ASilentLauncherStandsByItsLastAnswer) {
 }
 
 TEST_F(LinuxAccessibilityTest, TakesTheTitledWindowsBarElseTheActiveOnesAndNoneOfContent) {
-    // Windows 1 to 4: an active dialog without a bar, a window, an active one and the titled one; the bar of
-    // the last lies behind a filler, and ones in its document and in a root pane are not what the user sees.
+    // Windows 1 to 4 are an active dialog without a bar, a window, an active one and the titled one. The bar
+    // of the last is below a filler; the bars in its document and in a root pane are not the one that the
+    // user sees.
     const auto nodes = [](std::size_t number) -> FakeNode {
         const std::map<std::size_t, FakeNode> known{
             {0, {75, "fake", 0, "", {1, 17, 2, 3}, true}},
@@ -203,7 +204,7 @@ TEST_F(LinuxAccessibilityTest, CyclesEndAndEachObjectIsMetOnce) {
     }));
     const auto bar = menuBar();
     ASSERT_NE(bar, nullptr);
-    // Window and application are no parts of the menus they were put into.
+    // Window and application are not parts of the menus into which they were put.
     EXPECT_EQ(titles(*bar), (std::vector<std::string>{"Menu 3", "Menu 4"}));
     EXPECT_EQ(outcome(), MenuReadOutcome::completed);
 }
@@ -259,8 +260,7 @@ TEST_F(LinuxAccessibilityTest, AHungApplicationCostsTheSilenceOnce) {
 }
 
 TEST_F(LinuxAccessibilityTest, WhatCameBeforeTheSilenceIsUsed) {
-    // 4 calls find the window, 4 the bar, one another way to ask; then File's role, name, states and
-    // children, and 3 roles.
+    // 18 calls find the window and the bar and read File, but not everything.
     FakeApplication::Manners manners;
     manners.hangsAfter = 18;
     start(smallEditor(), manners);

@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::string_view_literals;
 
-/// What the kernel shows of one process, number 7.
+/// Imitates the kernel's files about one process, number 7.
 class MenuObstacleTest : public testing::Test {
   protected:
     void SetUp() override { fs::create_directories(process_ / "root"); }

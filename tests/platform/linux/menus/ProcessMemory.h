@@ -8,8 +8,8 @@
 
 namespace tovrel {
 
-/// The address sanitizer needs terabytes of address space for itself and keeps much more memory than is asked
-/// for, so that nothing can be limited there; nor does it bear the fork of a process with threads.
+/// The address sanitizer needs terabytes of address space and keeps much more memory than is requested, so
+/// memory cannot be limited with it. It does not support the fork of a process with threads either.
 #if defined(__SANITIZE_ADDRESS__)
 inline constexpr bool hasAddressSanitizer = true;
 #elif defined(__has_feature)
@@ -18,7 +18,7 @@ inline constexpr bool hasAddressSanitizer = __has_feature(address_sanitizer);
 inline constexpr bool hasAddressSanitizer = false;
 #endif
 
-/// Lets this process take so many bytes of address space more than it has now; an allocation beyond fails.
+/// Lets this process take `moreBytes` more address space than it has now; a larger allocation fails.
 inline void limitMemoryTo(std::size_t moreBytes) {
     std::size_t pages = 0;
     std::ifstream("/proc/self/statm") >> pages;

@@ -20,8 +20,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A service on the session bus that answers each call by what is registered for its member, and notes what
-/// it is told.
+/// A service on the session bus that answers each call with the answer registered for its member, and keeps
+/// the notes that answers take.
 class FakeMenuService {
   public:
     using Fill = std::function<void(sd_bus_message* call, sd_bus_message* reply)>;
@@ -33,12 +33,12 @@ class FakeMenuService {
 
     [[nodiscard]] const std::string& name() const { return service_.uniqueName(); }
 
-    /// To be called by answers.
+    /// Called by answers.
     void note(const std::string& what) {
         const std::scoped_lock lock(mutex_);
         noted_.push_back(what);
     }
-    /// Waits until so much has been noted: a press may still be on its way.
+    /// Waits for this many notes, because a press may still be on its way, and returns them.
     std::vector<std::string> notedOnceThereAre(std::size_t count) {
         const auto deadline = std::chrono::steady_clock::now() + 5s;
         while (std::chrono::steady_clock::now() < deadline) {
@@ -86,7 +86,7 @@ class PublishedMenusTest : public testing::Test {
         return small;
     }
 
-    /// This process's window as it publishes menus.
+    /// This process's window, which publishes menus.
     [[nodiscard]] ApplicationWindow window() const {
         ApplicationWindow published;
         published.registrarIdentifier = 7;
@@ -149,7 +149,7 @@ class PublishedMenusTest : public testing::Test {
                               limits()};
 };
 
-/// Group 0: the bar and a File menu of two sections; group 3, told of by a link: a View menu.
+/// Group 0 has the bar and a File menu of two sections; group 3, to which a link leads, has a View menu.
 void fillGtkMenus(sd_bus_message* call, sd_bus_message* reply) {
     const void* groups = nullptr;
     std::size_t size = 0;
@@ -298,7 +298,7 @@ TEST_F(PublishedMenusTest, AWindowThatDoesNotAnswerIsAskedOnce) {
 
 TEST_F(PublishedMenusTest, MenusWithoutEndEndAtTheLimits) {
     std::uint32_t next = 0;
-    // Each menu is a section twice, and leads to another group.
+    // Each menu has itself as a section twice, and leads to another group.
     serveGtk({{"Start",
                [&](sd_bus_message*, sd_bus_message* reply) {
                    const std::uint32_t group = next++;
@@ -334,7 +334,7 @@ TEST_F(PublishedMenusTest, AnswersThatMakeNoSenseAreNoMenus) {
     }
 }
 
-/// One level of a layout; what is below is filled by whoever appends.
+/// Appends one item of a layout; the caller appends its children.
 void appendItem(sd_bus_message* reply, std::int32_t identifier, const char* label, bool isMenu,
                 const std::function<void()>& below = {}) {
     sd_bus_message_open_container(reply, 'v', "(ia{sv}av)");
@@ -413,7 +413,7 @@ TEST_F(PublishedMenusTest, ARegisteredMenuIsReadWithWhatIsFilledWhenItOpens) {
     EXPECT_EQ(service_->notedOnceThereAre(7).back(), "clicked 61");
 }
 
-/// A tree of "menu/item" titles; those with entries are menus.
+/// A tree of "menu/item" titles; nodes with entries are menus.
 MenuTree treeOf(const std::vector<std::vector<const char*>>& menus) {
     MenuTree tree(1);
     const auto add = [&](std::size_t parent, const char* title) {

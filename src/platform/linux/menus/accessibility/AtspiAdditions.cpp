@@ -14,15 +14,15 @@ namespace {
 
 using Question = AtspiCalls::Question;
 
-/// What is in an accessible menu.
+/// The objects in an accessible menu.
 struct Objects {
     std::vector<std::string> paths;
     std::vector<Text> titles;
     std::size_t missing = 0; ///< Names that have not been answered yet.
 };
 
-/// Goes through the accessible menus and asks `Addition` about each entry that is in the tree too. Like the
-/// additions it gets the answers itself, so none of them can be moved.
+/// Walks through the accessible menus and has `Addition` ask about each entry that is in the tree too. It and
+/// the additions cannot be moved, because answers are handed to them.
 template <typename Addition>
 class Additions {
   public:
@@ -37,8 +37,8 @@ class Additions {
     }
 
   private:
-    /// Asks for the names in a menu, and for more once all of them are known: only then it is clear which of
-    /// several items with one title is which.
+    /// Asks for the names in a menu, and for the rest once all names are known: only then items with the same
+    /// title can be matched.
     void read(std::size_t menu, const std::vector<std::string>& paths) {
         const auto objects = std::make_shared<Objects>();
         objects->paths = paths;
@@ -55,7 +55,7 @@ class Additions {
         }
     }
 
-    /// `entries` are those of the tree that belong to the objects, in the objects' order.
+    /// `entries` are the tree's entries that match the objects, in the objects' order.
     void askAbout(const std::vector<std::optional<std::size_t>>& entries, const Objects& objects) {
         for (std::size_t index = 0; index < entries.size(); ++index) {
             if (entries[index]) {
@@ -151,7 +151,8 @@ class States {
     MenuTree& tree_;
 };
 
-/// A node stands behind its parent, so that one pass forwards sees parents first, one backwards children.
+/// Disables entries below disabled menus and drops empty menus. A node comes after its parent, so a forward
+/// pass sees parents first, a backward pass children first.
 void tidy(MenuTree& tree) {
     for (std::size_t index = 1; index < tree.size(); ++index) {
         if (tree[tree[index].parent].isEnabled == false) {

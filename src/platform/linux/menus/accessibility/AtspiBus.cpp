@@ -14,17 +14,18 @@ using namespace std::chrono_literals;
 
 /// The session bus may have to start the accessibility bus first, which took 20 ms where it was measured.
 constexpr auto launchPatience = 1000ms;
-/// Of a launcher whose last answer serves as well, and of one that was silent before: a user waits for the
+/// The patience with a launcher whose last answer would do, or that was silent before: a user waits for the
 /// palette meanwhile.
 constexpr auto shortPatience = 100ms;
-/// So long a launcher that was silent is not asked again, since one opening has several questions to it.
+/// The time for which a silent launcher is not asked again, because one opening of the palette asks it
+/// several questions.
 constexpr auto restAfterSilence = 1000ms;
-/// The bus itself and the registry answer in about a millisecond unless the machine is out of breath.
+/// The bus itself and the registry answer in about a millisecond unless the machine is overloaded.
 constexpr auto busPatience = 500ms;
 
 constexpr std::size_t callsInFlight = 64;
 
-/// A desktop has some dozens.
+/// The most applications that are listed. A desktop has some dozens.
 constexpr std::size_t maximumApplications = 1'000;
 
 constexpr const char* launcherName = "org.a11y.Bus";
@@ -61,8 +62,8 @@ bool AtspiBus::findLauncher(SteadyTime deadline) {
     }
     if (session_ && !launcher_) {
         launcher_ = session_->owner(launcherName, deadline);
-        // The only service that is ever started for what is read: at the first start after a login nobody may
-        // have used the accessibility bus yet, and whether it is enabled only its launcher knows.
+        // Reading starts no other service than this one. At the first start after a login nobody may have
+        // used the accessibility bus yet, and only its launcher knows whether it is enabled.
         if (!launcher_ && session_->isOpen() && session_->startService(launcherName, deadline)) {
             launcher_ = session_->owner(launcherName, deadline);
         }
@@ -78,7 +79,7 @@ std::optional<DBusMessage> AtspiBus::askLauncher(std::chrono::milliseconds patie
     }
     const SteadyTime deadline = after(silentUntil_ ? std::min(patience, shortPatience) : patience);
     silentUntil_.reset();
-    // A connection or a launcher known from before may turn out lost; then a new one is tried.
+    // An earlier connection or launcher may turn out to be lost; then a new one is tried.
     for (const bool mayBeLost : {true, false}) {
         if (!findLauncher(deadline)) {
             if (session_ && session_->isOpen()) {
@@ -106,8 +107,8 @@ std::optional<DBusMessage> AtspiBus::askLauncher(std::chrono::milliseconds patie
 }
 
 std::optional<std::string> AtspiBus::address() {
-    // The order in which the platform's own library looks for it, except that the launcher comes before the
-    // display: what it answers is alive, what a window carries may be left over.
+    // The platform's own library looks in the same order, except that the launcher comes before the display
+    // here: the launcher's answer is current, a property of a window may be stale.
     const char* fromEnvironment = std::getenv("AT_SPI_BUS_ADDRESS"); // NOLINT(concurrency-mt-unsafe)
     if (fromEnvironment != nullptr && *fromEnvironment != '\0') {
         return fromEnvironment;
@@ -148,7 +149,7 @@ bool AtspiBus::isEnabled() {
     if (answer) {
         isKnownEnabled_ = answer->readVariantBoolean().value_or(false);
     } else if (!silentUntil_) {
-        isKnownEnabled_.reset(); // It is gone.
+        isKnownEnabled_.reset(); // The launcher is gone.
     }
     return isKnownEnabled_.value_or(false);
 }
@@ -171,7 +172,7 @@ std::optional<std::vector<AtspiApplication>> AtspiBus::applications() {
     const SteadyTime deadline = after(busPatience);
     const auto registry = bus->owner("org.a11y.atspi.Registry", deadline);
     if (!registry) {
-        // The first application that registers starts it, so that without it there is none.
+        // The first application that registers starts the registry, so without it there are no applications.
         return answers() ? std::optional(std::vector<AtspiApplication>()) : std::nullopt;
     }
     auto answer = bus->call(bus->methodCall(registry->c_str(), "/org/a11y/atspi/accessible/root",

@@ -15,21 +15,21 @@ namespace tovrel {
 
 /// Questions to the objects of one application, asked many at a time within the limits of one read.
 ///
-/// Only the calls that are known to harm no application are made: a Qt application dies of
-/// org.freedesktop.DBus.Properties.GetAll, Firefox of org.a11y.atspi.Action.GetActions. They go over the bus:
-/// a GTK 3 application that has taken a connection of its own (GetApplicationBusAddress), which would take
-/// half the time, can hang for good when a dialog closes that a press has opened in a main loop of its own.
+/// Only calls that harm no application are made: org.freedesktop.DBus.Properties.GetAll crashes Qt
+/// applications, org.a11y.atspi.Action.GetActions crashes Firefox. Calls go over the bus. A private
+/// connection (GetApplicationBusAddress) would take half the time, but a GTK 3 application that has accepted
+/// one can hang for good when a dialog closes that a press has opened in a nested main loop.
 class AtspiCalls {
   public:
     enum class Question { role, name, states, children, keyBinding, interfaces, toolkitName };
     /// Gets the answer, which may be of any type; an empty message for an error.
     using Handler = BoundedCalls::Handler;
 
-    /// `started` is when the read began, which `limits.total` counts from.
+    /// `limits.total` counts from `started`, when the read began.
     AtspiCalls(DBusConnection& connection, std::string busName, const MenuReadLimits& limits,
                SteadyTime started);
 
-    /// Notes the question for `run`, as `BoundedCalls` does.
+    /// Queues the question for `run`, as `BoundedCalls` does.
     void ask(std::string path, Question question, Handler handler);
     bool run() { return calls_.run(); }
 
@@ -49,18 +49,19 @@ class AtspiCalls {
 };
 
 /// The paths of an answer to GetChildren, at most `limit` of them. Objects of other connections and null
-/// objects are left out: menus never live elsewhere than their application, and waiting on it must not become
-/// waiting on another. Absent when the answer is something else.
+/// objects are left out: an application's menus are always its own objects, and a read must not wait for
+/// another application. Absent when the answer is something else.
 std::optional<std::vector<std::string>> readChildren(DBusMessage& answer, std::string_view busName,
                                                      std::size_t limit, AnswerBudget& budget);
 
-/// The longest answer to GetKeyBinding that is looked at: "mnemonic;path;accelerator" takes some dozens.
+/// The longest answer to GetKeyBinding that is used, in bytes; a real "mnemonic;path;accelerator" has some
+/// dozens.
 inline constexpr std::size_t longestKeyBinding = 256;
 
-/// An answer to GetKeyBinding; empty when it is something else.
+/// The text of an answer to GetKeyBinding; empty when the answer is something else.
 std::string readKeyBinding(DBusMessage& answer, AnswerBudget& budget);
 
-/// The value of an answer to GetState; absent when it is something else.
+/// The value of an answer to GetState; absent when the answer is something else.
 std::optional<AtspiStates> readStates(DBusMessage& answer);
 
 } // namespace tovrel

@@ -13,7 +13,7 @@ std::string_view thirdPart(std::string_view binding) {
     return second == std::string_view::npos ? std::string_view() : binding.substr(second + 1);
 }
 
-/// "Alt+" and one character.
+/// Whether the text is "Alt+" and one character.
 bool isQtMnemonic(std::string_view binding) {
     constexpr std::string_view alt = "Alt+";
     if (!binding.starts_with(alt) || binding.size() == alt.size()) {

@@ -8,13 +8,13 @@
 
 namespace tovrel {
 
-/// The shortcut in an answer of org.a11y.atspi.Action.GetKeyBinding, or, when that holds none, in what an
-/// item's name has after a TAB (Qt keeps there what the program wrote itself).
+/// The shortcut in an answer of org.a11y.atspi.Action.GetKeyBinding, or, when that has none, in the part of
+/// an item's name after a TAB (where Qt keeps a text that the program wrote itself).
 ///
-/// GTK and Gecko answer "mnemonic;path;accelerator"; Qt the accelerator, or the mnemonic as "Alt+" and one
-/// character when there is no accelerator, which makes a true accelerator of that form unrecognisable.
+/// GTK and Gecko answer "mnemonic;path;accelerator". Qt answers the accelerator, or, without one, the
+/// mnemonic as "Alt+" and one character, so a true accelerator of that form cannot be recognised.
 ///
-/// Absent for mnemonics, and for what has no shortcut as `MenuShortcut` knows it.
+/// Absent for mnemonics, and for shortcuts that `MenuShortcut` cannot express.
 std::optional<MenuShortcut> menuShortcut(std::string_view keyBinding, AtspiToolkit toolkit,
                                          std::string_view nameAfterTab);
 

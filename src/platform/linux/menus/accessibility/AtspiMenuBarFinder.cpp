@@ -11,7 +11,7 @@ namespace {
 
 using Question = AtspiCalls::Question;
 
-/// More windows than this of one application are not looked at.
+/// The most windows of one application that are looked at.
 constexpr std::size_t maximumWindows = 256;
 
 struct Window {
@@ -21,8 +21,8 @@ struct Window {
     AtspiStates states = 0;
 };
 
-/// What holds content rather than parts of a window: no menu bar of the window lies below, and many objects
-/// do.
+/// Roles of objects that have content rather than parts of a window. They have no menu bar of the window
+/// below them, but many objects.
 constexpr std::array contentRoles{AtspiRole::checkBox,
                                   AtspiRole::checkMenuItem,
                                   AtspiRole::comboBox,
@@ -77,7 +77,7 @@ class Search {
     Search& operator=(const Search&) = delete;
     ~Search() = default;
 
-    /// The application's windows, the wanted one first as far as title and states tell; empty when stopped.
+    /// The application's windows, the wanted one first if title and states tell; empty when stopped.
     std::vector<Window> windows(const std::string& root, const std::optional<Text>& title,
                                 AtspiToolkit& toolkit) {
         std::vector<Window> found;
@@ -108,7 +108,7 @@ class Search {
         return found;
     }
 
-    /// The nearest menu bar with anything in it below a window.
+    /// The nearest menu bar with entries below a window.
     std::optional<AtspiMenuBar> barBelow(const std::string& window, AtspiToolkit toolkit) {
         std::vector<std::string> level{window};
         for (std::size_t depth = 0; depth < calls_.limits().searchedDepth && !level.empty(); ++depth) {
@@ -129,7 +129,7 @@ class Search {
                         return AtspiMenuBar{met[index], std::move(entries), toolkit};
                     }
                 } else if (toolkit == AtspiToolkit::gtk && roles[index] == AtspiRole::rootPane) {
-                    // GTK itself has none; LibreOffice has.
+                    // GTK itself has no root panes; LibreOffice has.
                     if (auto bar = rootPanes_ == AtspiRootPanes::entered ? barBelow(met[index], toolkit)
                                                                          : std::nullopt) {
                         bar->isInRootPane = true;
@@ -149,7 +149,7 @@ class Search {
         return role ? std::optional(static_cast<AtspiRole>(*role)) : std::nullopt;
     }
 
-    /// Titles of windows are as long as documents are named.
+    /// Window titles have no common limit of length, because they contain names of documents.
     std::optional<std::string> keptName(DBusMessage& answer) {
         constexpr std::size_t longestTitle = 4096;
         const auto name = answer.readVariantString();
@@ -165,8 +165,8 @@ class Search {
         return calls_.run() ? entries : std::vector<std::string>();
     }
 
-    /// The children of all these objects in order, without those met before. At most `limit` of each, and
-    /// no more in all than the search may look at; none when stopped.
+    /// The children of all these objects in order, without those met before: at most `limit` of each, and in
+    /// all no more than the search may look at. Empty when stopped.
     std::vector<std::string> childrenOf(const std::vector<std::string>& parents, std::size_t limit) {
         std::vector<std::vector<std::string>> families(parents.size());
         for (std::size_t index = 0; index < parents.size(); ++index) {

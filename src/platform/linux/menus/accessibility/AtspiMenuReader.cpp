@@ -13,9 +13,9 @@ namespace {
 
 using Question = AtspiCalls::Question;
 
-/// Grows a tree from its menu bar. Of each object the role is asked first, and then only what objects of that
-/// role can answer to a purpose: nothing more of a separator, key bindings of leaves only, children of
-/// containers only. That is a third fewer questions than asking everything of everyone.
+/// Builds a tree from its menu bar. Each object is asked for its role first, and then only for what is useful
+/// for that role: a separator for nothing more, only leaves for key bindings, only containers for children.
+/// That takes a third fewer questions than asking every object for everything.
 class TreeReader {
   public:
     TreeReader(AtspiCalls& calls, AtspiMenuTree& tree) : calls_(calls), tree_(tree) {}
@@ -110,7 +110,8 @@ class TreeReader {
             ask(index, Question::children);
             askNameAndStates(index);
         } else if (isMenuItem(role)) {
-            // In GTK and Gecko what has a submenu is a menu; elsewhere only its children tell.
+            // In GTK and Gecko an item with a submenu has the role of a menu; elsewhere only its children
+            // tell.
             const bool isLeaf = tree_.toolkit == AtspiToolkit::gtk || tree_.toolkit == AtspiToolkit::gecko;
             ask(index, isLeaf ? Question::keyBinding : Question::children);
             askNameAndStates(index);

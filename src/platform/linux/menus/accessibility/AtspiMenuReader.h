@@ -10,25 +10,25 @@
 
 namespace tovrel {
 
-/// A menu bar as far as it was read, and how that went.
+/// The part of a menu bar that was read, and the outcome.
 struct AtspiMenuReading {
     AtspiMenuTree tree;
     MenuReadReport report;
-    /// All shortcuts that what is published lacked have been added to it.
+    /// Whether all shortcuts that the published menus lacked have been added to them.
     bool hasAddedAccelerators = false;
 };
 
 /// Reads the menu bar of the front window of the application that owns `busName`, whose application object is
-/// at `root`; `windowTitle` helps to tell its windows apart (see `findAtspiMenuBar`).
+/// at `root`; `windowTitle` helps to find the window (see `findAtspiMenuBar`).
 ///
-/// `published` is what the window is known to have in its menu bar by another source, empty if nothing.
-/// Otherwise only what it lacks is read and added to it (see AtspiAdditions.h): the shortcuts in GTK, the
-/// current states in LibreOffice, whose other menu bar then is asked (see `AtspiRootPanes`); and the tree is
-/// empty.
+/// `published` is the window's menu bar from another source, or empty. If it is not empty, only its missing
+/// parts are read and added to it (see AtspiAdditions.h), and the resulting tree is empty. The missing parts
+/// are the shortcuts in GTK, and the current states in LibreOffice, whose other menu bar is asked (see
+/// `AtspiRootPanes`).
 ///
-/// Whatever the application does, the read ends within the limits: it asks nothing of objects of other
-/// applications, meets no object twice and stops at the stated time, number of objects and depth. `started`
-/// is when the caller began, which the total time counts from.
+/// The read ends within the limits, whatever the application does: it asks no objects of other applications,
+/// visits no object twice and stops at the stated time, number of objects and depth. The total time counts
+/// from `started`, when the caller began.
 AtspiMenuReading readAtspiMenus(DBusConnection& connection, const std::string& busName,
                                 const std::string& root, const std::optional<Text>& windowTitle,
                                 MenuTree& published, const MenuReadLimits& limits, SteadyTime started);

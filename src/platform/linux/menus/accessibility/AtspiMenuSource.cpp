@@ -29,7 +29,7 @@ MenuReading AtspiMenuSource::readOrAdd(const MenuReadRequest& request, MenuTree&
     reading.report.outcome =
         applications ? MenuReadOutcome::notRegistered : MenuReadOutcome::noAccessibilityBus;
     const auto title = request.windows.empty() ? std::nullopt : std::optional(request.windows.front().title);
-    // A process with two toolkits in it has two connections.
+    // A process with two toolkits has two connections.
     for (const AtspiApplication& application :
          std::move(applications).value_or(std::vector<AtspiApplication>())) {
         DBusConnection* connection = bus_->connection();

@@ -7,8 +7,8 @@
 
 namespace tovrel {
 
-/// Menus on the accessibility bus. An object there is its item for good: one that is gone is answered for as
-/// such.
+/// Menus on the accessibility bus. An object there always stands for the same item: a press of one that is
+/// gone reports that.
 class AtspiMenuSource : public ApplicationMenuSource {
   public:
     /// `bus` is never null.
@@ -23,7 +23,7 @@ class AtspiMenuSource : public ApplicationMenuSource {
         bool hasAddedAccelerators = false; ///< All shortcuts that the menus lacked have been added.
     };
 
-    /// Adds to menus that the front window publishes elsewhere, which are not empty, what they lack; see
+    /// Adds the missing parts to the menus, not empty, that the front window publishes elsewhere; see
     /// `readAtspiMenus`.
     Additions addTo(MenuTree& published, const MenuReadRequest& request);
 

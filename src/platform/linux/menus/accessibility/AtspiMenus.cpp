@@ -30,12 +30,13 @@ bool isHidden(const AtspiNode& node, const AtspiMenuTree& tree, bool visibilityI
     return tree.toolkit == AtspiToolkit::qt && !is(node, AtspiState::sensitive) && node.hasComponent == false;
 }
 
-/// Gecko fills a menu when it is opened, and a press of one within another menu does not open it.
+/// Gecko fills a menu when it is opened, and a press does not open a menu within another menu.
 bool isUnfilled(const MenuNode& node, const AtspiMenuTree& tree) {
     return tree.toolkit == AtspiToolkit::gecko && node.parent != 0 && node.isMenu && node.children.empty();
 }
 
-/// A container's own states are not read: it is as enabled as its menu. A disabled ancestor disables all.
+/// A container's own states are not read: it is enabled if its menu is. A disabled ancestor disables
+/// everything below it.
 std::optional<bool> isEnabled(const AtspiNode& node, std::optional<bool> parentIsEnabled) {
     if (parentIsEnabled == false || !node.states) {
         return node.role == AtspiRole::popupMenu || parentIsEnabled == false ? parentIsEnabled : std::nullopt;
@@ -57,7 +58,7 @@ MenuTree menuTreeOf(const AtspiMenuTree& tree) {
         std::any_of(tree.nodes.begin(), tree.nodes.end(),
                     [](const AtspiNode& node) { return is(node, AtspiState::visible); });
     MenuTree all(tree.nodes.size());
-    // A node stands behind its parent, so that one pass forwards sees parents first, one backwards children.
+    // A node comes after its parent, so a forward pass sees parents first, a backward pass children first.
     for (std::size_t index = 0; index < all.size(); ++index) {
         const AtspiNode& node = tree.nodes[index];
         MenuNode& shown = all[index];
@@ -74,7 +75,7 @@ MenuTree menuTreeOf(const AtspiMenuTree& tree) {
         shown.item = AtspiObject{tree.busName, node.path};
     }
     for (std::size_t index = all.size(); index-- > 0;) {
-        // Qt tells a menu from a plain item by the container of its entries only.
+        // In Qt only the container of its entries distinguishes a menu from a plain item.
         if (tree.nodes[index].role == AtspiRole::popupMenu) {
             all[tree.nodes[index].parent].isMenu = true;
         }

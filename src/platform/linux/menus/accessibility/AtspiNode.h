@@ -79,38 +79,39 @@ inline bool holds(AtspiStates states, AtspiState state) {
     return ((states >> static_cast<unsigned>(state)) & 1U) != 0;
 }
 
-/// What builds an application's user interface, as far as menus differ by it.
+/// The toolkit of an application, as far as menus depend on it.
 enum class AtspiToolkit {
-    gtk,   ///< GTK 2 and 3, and what imitates them through ATK (LibreOffice).
+    gtk,   ///< GTK 2 and 3, and programs that imitate them through ATK (LibreOffice).
     qt,    ///< Qt 5 and 6.
     gtk4,  ///< Its menus are not on the accessibility bus until they are opened.
     gecko, ///< Firefox and its relatives.
     other,
 };
 
-/// From the property ToolkitName of org.a11y.atspi.Application.
+/// The toolkit with this ToolkitName, a property of org.a11y.atspi.Application.
 AtspiToolkit atspiToolkit(std::string_view toolkitName);
 
-/// One object of a menu tree as the application answered. What was not asked or not answered is absent.
+/// An application's answers about one object of a menu tree. A member that was not asked or not answered is
+/// absent.
 struct AtspiNode {
     std::string path; ///< D-Bus object path.
     std::size_t parent = 0;
-    std::size_t depth = 0; ///< Below the menu bar, which has 0.
+    std::size_t depth = 0; ///< Levels below the menu bar.
     std::optional<AtspiRole> role;
     std::optional<std::string> name;
     std::optional<AtspiStates> states;
-    std::string keyBinding; ///< Of org.a11y.atspi.Action.GetKeyBinding(0), unchanged.
+    std::string keyBinding; ///< The answer of org.a11y.atspi.Action.GetKeyBinding(0), unchanged.
     std::optional<bool>
         hasComponent; ///< Implements org.a11y.atspi.Component; asked in Qt, where hidden items lack it.
     std::vector<std::size_t> children; ///< Positions in the tree, each after the node's own.
 };
 
-/// An application's menu bar, a plain value.
+/// An application's menu bar as a plain value.
 struct AtspiMenuTree {
     AtspiToolkit toolkit = AtspiToolkit::other;
     bool isInRootPane =
-        false;           ///< It is the one of LibreOffice's two that tells its states, not its visibility.
-    std::string busName; ///< Of the application on the accessibility bus.
+        false;           ///< The one of LibreOffice's two bars that tells its states but not its visibility.
+    std::string busName; ///< The application's name on the accessibility bus.
     std::vector<AtspiNode> nodes; ///< The menu bar first; empty when there is none.
 };
 

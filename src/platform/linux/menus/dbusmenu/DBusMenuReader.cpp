@@ -33,7 +33,7 @@ bool isInteger(const std::optional<DBusValue>& value, std::int64_t integer) {
     return content != nullptr && *content == integer;
 }
 
-/// An aas: keys of one stroke after the other.
+/// Reads a value of type aas: the keys of each stroke in turn.
 std::optional<MenuShortcut> shortcutIn(const std::optional<DBusValue>& value) {
     if (!value || value->signature != "aas") {
         return std::nullopt;
@@ -49,7 +49,7 @@ std::optional<MenuShortcut> shortcutIn(const std::optional<DBusValue>& value) {
     return shortcutOfKeyNames(names);
 }
 
-/// Reads the property's value, at which the message stands. What was not asked for is passed by.
+/// Reads the property's value at the message's current place; skips other properties.
 void take(Item& item, std::string_view property, sd_bus_message* message, AnswerBudget& budget) {
     if (property == "label") {
         item.title = titleOfLabel(keptTitle(readVariantText(message, budget).value_or(""), budget));
@@ -70,7 +70,7 @@ void take(Item& item, std::string_view property, sd_bus_message* message, Answer
     }
 }
 
-/// The number and the properties of an item (ia{sv}…), which the message stands within.
+/// Reads the number and the properties of the item (ia{sv}…) that the message is in.
 std::optional<Item> readItem(sd_bus_message* message, AnswerBudget& budget) {
     Item item;
     if (!budget.look() || sd_bus_message_read_basic(message, SD_BUS_TYPE_INT32, &item.identifier) <= 0 ||
@@ -118,7 +118,7 @@ class Reader {
                                      member);
     }
 
-    /// Asks for what is below an item, which is the tree's node of that position.
+    /// Asks for the items below an item, which is the tree's node at that position.
     void askForLayout(std::int32_t identifier, std::size_t node) {
         calls_.ask(
             [this, identifier](const DBusConnection& connection) {
@@ -141,7 +141,8 @@ class Reader {
             });
     }
 
-    /// Some applications fill a menu when it is announced, some when it is told to be open.
+    /// Has the application fill a menu: some do when its opening is announced, some when it is reported as
+    /// open.
     void fill(std::int32_t identifier, std::size_t node) {
         tellOf(identifier, "opened");
         calls_.ask(
@@ -169,7 +170,7 @@ class Reader {
             [](DBusMessage&) {});
     }
 
-    /// Reads the items of the av at which the message stands. False when it makes no sense from there on.
+    /// Reads the items of the av at the message's current place. Returns false when the rest makes no sense.
     bool addChildren(sd_bus_message* message, std::size_t parent) {
         if (depths_[parent] >= limits_.depth) {
             isTooLarge_ = true;
@@ -226,7 +227,7 @@ class Reader {
     std::shared_ptr<const DBusMenuAddress> address_;
     const MenuReadLimits& limits_;
     MenuTree tree_;
-    std::vector<std::size_t> depths_; ///< Of the tree's nodes.
+    std::vector<std::size_t> depths_; ///< The depths of the tree's nodes.
     bool isTooLarge_ = false;
 };
 
@@ -252,7 +253,8 @@ std::optional<DBusMenuAddress> registeredMenu(DBusConnection& connection, std::u
         sd_bus_message_read(answer->handle(), "so", &busName, &path) <= 0) {
         return std::nullopt;
     }
-    // Registrars keep the unique name of whom they were told by; the protocol lets them tell another one.
+    // Registrars give the unique name of the application that registered; the protocol also allows another
+    // name.
     const auto owner =
         isUniqueName(busName) ? std::optional<std::string>(busName) : connection.owner(busName, deadline);
     return owner ? std::optional(DBusMenuAddress{*owner, path}) : std::nullopt;

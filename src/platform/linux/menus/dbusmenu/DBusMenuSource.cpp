@@ -32,7 +32,7 @@ PressResult DBusMenuSource::press(const MenuItem& item) {
     }
     const DBusMessage press = connection->methodCall(
         clicked->menu->busName.c_str(), clicked->menu->path.c_str(), "com.canonical.dbusmenu", "Event");
-    constexpr std::uint32_t now = 0; // as the protocol puts a time that is not known
+    constexpr std::uint32_t now = 0; // the protocol's value for an unknown time
     const bool isBuilt = press && sd_bus_message_append(press.handle(), "isvu", clicked->identifier,
                                                         "clicked", "i", 0, now) >= 0;
     return isBuilt ? deliverPress(*connection, press) : PressResult::refused;

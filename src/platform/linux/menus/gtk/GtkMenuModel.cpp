@@ -14,7 +14,7 @@ std::string keptText(sd_bus_message* message, AnswerBudget& budget) {
     return text ? budget.kept(*text) : std::string();
 }
 
-/// The (uu) of a link.
+/// Reads the (uu) of a link.
 std::optional<GtkMenuReference> readReference(sd_bus_message* message, AnswerBudget& budget) {
     char type = 0;
     const char* contents = nullptr;
@@ -29,8 +29,8 @@ std::optional<GtkMenuReference> readReference(sd_bus_message* message, AnswerBud
                : std::nullopt;
 }
 
-/// Reads the attribute's value, at which the message stands. What nobody asks for, such as pictures, which
-/// are large, is passed by.
+/// Reads the attribute's value at the message's current place. Skips other attributes, such as pictures,
+/// which are large.
 void take(GtkMenuEntry& entry, std::string_view attribute, sd_bus_message* message, AnswerBudget& budget) {
     if (attribute == "label") {
         entry.label = keptTitle(readVariantText(message, budget).value_or(""), budget);
@@ -56,7 +56,7 @@ void take(GtkMenuEntry& entry, std::string_view attribute, sd_bus_message* messa
     }
 }
 
-/// The a{sv} at which the message stands.
+/// Reads the a{sv} at the message's current place.
 std::optional<GtkMenuEntry> readEntry(sd_bus_message* message, AnswerBudget& budget) {
     GtkMenuEntry entry;
     if (!budget.look() || sd_bus_message_enter_container(message, SD_BUS_TYPE_ARRAY, "{sv}") <= 0) {
@@ -82,7 +82,7 @@ class MenuListReader {
                    GtkMenuModel& model, std::set<std::uint32_t>& linked)
         : message_(message), limits_(limits), budget_(budget), model_(model), linked_(linked) {}
 
-    /// False when that is not everything because of the limits.
+    /// Returns false when the limits cut something off.
     bool read() {
         if (sd_bus_message_enter_container(message_, SD_BUS_TYPE_ARRAY, "(uuaa{sv})") <= 0) {
             return true;
@@ -106,8 +106,8 @@ class MenuListReader {
     }
 
   private:
-    /// Adds the entries of a menu, the aa{sv} at which the message stands, as far as they make sense. False
-    /// when the message cannot be read further.
+    /// Adds the valid entries of a menu, the aa{sv} at the message's current place. Returns false when the
+    /// message cannot be read further.
     bool readEntries(std::vector<GtkMenuEntry>& entries) {
         if (sd_bus_message_enter_container(message_, SD_BUS_TYPE_ARRAY, "a{sv}") <= 0) {
             return false;
@@ -204,7 +204,7 @@ class TreeBuilder {
         GtkMenuReference reference;
         std::size_t node = 0;
         std::string actionNamespace; ///< With the full stop, if any.
-        std::size_t depth = 0;       ///< Of its entries.
+        std::size_t depth = 0;       ///< The depth of the menu's entries.
     };
 
     /// Adds the entries of a menu, or of a section in it, `nesting` sections deep.
@@ -255,7 +255,7 @@ class TreeBuilder {
         node.isMenu = entry.submenu.has_value();
         node.shortcut = shortcutOfGtkAccelerator(entry.accelerator);
         if (entry.submenu) {
-            // Its action, if it has one, is told of its opening and closing.
+            // The action of a submenu, if any, only serves its opening and closing.
             node.isEnabled = tree_[menu.node].isEnabled;
         } else if (found.description != nullptr && !entry.lacksTarget) {
             node.isEnabled =
@@ -280,7 +280,7 @@ class TreeBuilder {
     MenuTree tree_;
     std::deque<Menu> waiting_;
     std::set<std::pair<std::size_t, std::string>> submenuActions_; ///< Met so far, with the menu's node.
-    std::size_t lists_ = 0;                                        ///< Menus and sections gone through.
+    std::size_t lists_ = 0;                                        ///< The menus and sections visited so far.
     bool isTooLarge_ = false;
 };
 

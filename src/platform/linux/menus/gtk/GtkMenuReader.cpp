@@ -26,7 +26,7 @@ DBusMessage callWithGroups(const DBusConnection& connection, const GtkMenuAddres
                : DBusMessage();
 }
 
-/// Reads group after group: the answer to each call tells of the groups to be asked for by the next.
+/// Reads group after group: the answer to each call names the groups to ask for next.
 class Reader {
   public:
     Reader(BoundedCalls& calls, const GtkMenuAddress& address, const MenuReadLimits& limits)
@@ -104,7 +104,7 @@ MenuReading readGtkMenuBar(DBusConnection& connection, const GtkMenuAddress& add
     reader.describe("app.", address.applicationPath);
     reader.describe("win.", address.windowPath);
     calls.run();
-    // The application would else tell of every change from now on. Nobody waits for the answer.
+    // Otherwise the application would report every change from now on. Nobody waits for the answer.
     connection.tell(callWithGroups(connection, address, "End", reader.started()));
 
     MenuTree tree = calls.stopped() ? MenuTree() : reader.tree();

@@ -8,11 +8,11 @@
 namespace tovrel {
 
 /// Reads the menu bar that a window publishes as org.gtk.Menus, with the actions of org.gtk.Actions, from the
-/// session bus. That takes one call for each level of menus and two for the actions, all of which end within
-/// the limits; `started` is when the caller began, which the total time counts from.
+/// session bus. That takes one call for each level of menus and two for the actions, all within the limits;
+/// the total time counts from `started`, when the caller began.
 ///
-/// The tree is empty when nothing is there that makes sense, and when the application did not answer to the
-/// end: without its action nothing is known of an item.
+/// The tree is empty when the application publishes nothing valid, or did not answer everything: nothing is
+/// known of an item without its action.
 MenuReading readGtkMenuBar(DBusConnection& connection, const GtkMenuAddress& address,
                            const MenuReadLimits& limits, SteadyTime started);
 

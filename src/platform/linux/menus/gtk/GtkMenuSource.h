@@ -8,8 +8,8 @@
 
 namespace tovrel {
 
-/// The foremost window with a menu bar published as org.gtk.Menus; null when there is none. A dialog in front
-/// of it has none of its own.
+/// The foremost window that publishes a menu bar as org.gtk.Menus; null when there is none. A dialog in front
+/// of it publishes none.
 const ApplicationWindow* publisherOf(const std::vector<ApplicationWindow>& windows);
 
 /// Menus that windows publish as org.gtk.Menus, with the actions of org.gtk.Actions.

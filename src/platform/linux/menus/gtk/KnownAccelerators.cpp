@@ -61,7 +61,7 @@ void KnownAccelerators::learn(const MenuTree& tree, SteadyTime now) {
         if (entry == entries.end()) {
             entries.push_back({action.target, tree[item].shortcut, now});
         } else if (entry->learnt != now || tree[item].shortcut) {
-            // Of several items of one action, one that shows the shortcut counts.
+            // If several items have one action, an item with a shortcut counts.
             *entry = {action.target, tree[item].shortcut, now};
         }
     }

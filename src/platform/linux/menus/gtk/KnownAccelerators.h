@@ -11,22 +11,20 @@
 
 namespace tovrel {
 
-/// The shortcuts that windows do not publish with their menus, as the accessibility bus told them a while
-/// ago. They hardly ever change, and to ask for them takes three times as long as to read all that is
-/// published. What a shortcut belongs to is an action with its target, whatever the title of its item is at
-/// the moment.
+/// The shortcuts that windows do not publish with their menus, as last read from the accessibility bus. They
+/// hardly ever change, and asking for them takes three times as long as reading all published menus. A
+/// shortcut belongs to an action with its target, whatever the current title of its item.
 class KnownAccelerators {
   public:
-    /// How long they count: a shortcut that is changed in an application is shown as it was for so long at
-    /// most.
+    /// How long a shortcut stays valid. A changed shortcut is shown in its old form for at most this long.
     static constexpr std::chrono::minutes lifetime{10};
 
-    /// Adds them to published menus if those of all items are known, that they have none included. Otherwise
-    /// nothing is added, and false: all are to be asked for then, so that none outlives its time because of a
-    /// neighbour.
+    /// Adds shortcuts to published menus if it is known for every item whether it has one, and which.
+    /// Otherwise adds nothing and returns false; the caller must then ask for all of them, so that all expire
+    /// together.
     bool addTo(MenuTree& tree, SteadyTime now) const;
 
-    /// Takes over the shortcuts of published menus that have been completed: an item without one has none.
+    /// Stores the shortcuts of published menus to which all have been added; an item without one has none.
     void learn(const MenuTree& tree, SteadyTime now);
 
   private:
@@ -38,7 +36,7 @@ class KnownAccelerators {
 
     [[nodiscard]] const Known* find(const GtkAction& action, SteadyTime now) const;
 
-    /// By the name on the bus, the group and the name of the action.
+    /// The shortcuts by the name on the bus, the group and the name of the action.
     std::unordered_map<std::string, std::vector<Known>> known_;
 };
 

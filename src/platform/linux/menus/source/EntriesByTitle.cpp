@@ -26,7 +26,7 @@ std::vector<std::size_t> entriesOf(const MenuTree& tree, std::size_t menu) {
 EntriesByTitle::EntriesByTitle(const MenuTree& tree, std::size_t menu) {
     const std::vector<std::size_t> entries = entriesOf(tree, menu);
     for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
-        byTitle_[tree[*entry].title].push_back(*entry); // The first one is taken off the end first.
+        byTitle_[tree[*entry].title].push_back(*entry); // `take` takes from the end.
     }
 }
 

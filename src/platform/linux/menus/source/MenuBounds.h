@@ -6,9 +6,9 @@
 
 namespace tovrel {
 
-/// Takes entries out of the menus so that the paths of the others together take at most so many bytes, each
-/// title counted with what a Text takes besides. What is nearer to the bar stays first. Whether anything was
-/// taken out.
+/// Removes entries from the menus so that the paths of the rest take at most `pathBytes` bytes together, each
+/// title counted with the overhead of a Text. Entries nearer to the bar stay first. Returns whether anything
+/// was removed.
 bool boundPaths(MenuTree& tree, std::size_t pathBytes);
 
 } // namespace tovrel

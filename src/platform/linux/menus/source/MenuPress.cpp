@@ -8,7 +8,7 @@ namespace tovrel {
 namespace {
 
 constexpr std::chrono::milliseconds deliveryPatience{1000};
-/// How long an early refusal is waited for. Without a dialog the answer takes 0.2 to 3 ms.
+/// How long to wait for an early refusal. Without a dialog the answer takes 0.2 to 3 ms.
 constexpr std::chrono::milliseconds refusalPatience{100};
 
 PressResult resultIn(DBusMessage& answer) {
@@ -20,7 +20,7 @@ PressResult resultIn(DBusMessage& answer) {
         error == SD_BUS_ERROR_UNKNOWN_INTERFACE) {
         return PressResult::itemGone;
     }
-    // The bus says this of an application that had the request and left without an answer, as Quit does.
+    // The bus reports this for an application that got the request and left without an answer, as after Quit.
     return error == SD_BUS_ERROR_NO_REPLY ? PressResult::accepted : PressResult::refused;
 }
 
@@ -30,8 +30,8 @@ PressResult deliverPress(DBusConnection& connection, const DBusMessage& press) {
     if (!press) {
         return PressResult::refused;
     }
-    // The bus works through one connection's messages in order: its answer to a question sent behind the
-    // press says that the press has been passed on.
+    // The bus handles a connection's messages in order, so its answer to a question sent after the press
+    // proves that it has passed the press on.
     const auto pressed = connection.send(press);
     const auto confirmation = connection.send(connection.busCall("GetId"));
     if (!pressed || !confirmation) {

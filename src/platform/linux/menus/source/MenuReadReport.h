@@ -5,17 +5,17 @@
 
 namespace tovrel {
 
-/// How a read of an application's menu bar ended. Only `completed` has read everything; what the others had
-/// read by then is used.
+/// How a read of an application's menu bar ended. Only `completed` means that everything was read; otherwise
+/// the part read by then is used.
 enum class MenuReadOutcome {
     completed,
     applicationSilent,  ///< The application stopped answering: hung, or busy with something else.
     tooSlow,            ///< It answered, but not everything within the time for one read.
     treeTooLarge,       ///< It has more objects or more levels than one read takes.
     applicationGone,    ///< It left the bus meanwhile.
-    noMenuBar,          ///< It shows no menu bar with anything in it.
-    menusUnfilled,      ///< It has menus, and will put something into them when they are opened (Gecko).
-    notRegistered,      ///< No application of this process identifier publishes menus in a way that is known.
+    noMenuBar,          ///< It shows no menu bar with entries.
+    menusUnfilled,      ///< It has menus, but fills them only when they are opened (Gecko).
+    notRegistered,      ///< No application with this process identifier publishes menus in a known way.
     noAccessibilityBus, ///< The bus cannot be reached or does not answer.
 };
 

@@ -9,30 +9,30 @@
 
 namespace tovrel {
 
-/// A menu bar as far as one source had it, and how reading it went.
+/// A menu bar, as far as one source has it, and the report on the read.
 struct MenuReading {
     MenuTree tree;
     MenuReadReport report;
 };
 
-/// The reading of a source in which the application has nothing.
+/// The reading from a source in which the application publishes nothing.
 MenuReading emptyReading();
 
-/// What the calls have come to that began at `started`. `isTooLarge`: the limits cut something off.
+/// The result of calls that began at `started`. `isTooLarge` tells that the limits cut something off.
 MenuReading finishedReading(MenuTree tree, bool isTooLarge, const BoundedCalls& calls, SteadyTime started);
 
-/// What it means for a read of menus that its calls were cut short.
+/// The outcome of a read whose calls were cut short.
 MenuReadOutcome outcomeOf(CallsStopped stopped);
 
-/// Nothing that lies behind a silent application is worth another wait, and nothing behind one that has gone.
+/// Whether no other source is worth asking: the application is silent, too slow or gone.
 bool isUnreachable(MenuReadOutcome outcome);
 
-/// Whether calls were given up whose answers may still come. The connection is to be dropped then, because
-/// the bus would keep account of them.
+/// Whether calls were given up whose answers may still come. The caller must then drop the connection,
+/// because the bus would keep track of them.
 bool leavesCallsBehind(MenuReadOutcome outcome);
 
-/// What may become a title, cut where no title goes on (see `menuTitle`), and kept from now on. Empty when
-/// the room for texts has run out.
+/// Counts a text that may become a title, and returns the part that is examined for one (see
+/// `longestMenuName`). Empty when the room for texts has run out.
 std::string_view keptTitle(std::string_view text, AnswerBudget& budget);
 
 } // namespace tovrel

@@ -15,7 +15,7 @@ enum Modifier : unsigned { shift = 1, option = 2, control = 4, noCommand = 8, co
 
 using ModifierName = std::pair<std::string_view, unsigned>;
 
-/// As gtk_accelerator_parse knows them, in lower case. com.canonical.dbusmenu has no others.
+/// The names that gtk_accelerator_parse knows, in lower case. com.canonical.dbusmenu has no others.
 constexpr std::array<ModifierName, 12> gtkModifiers{{
     {"primary", command},
     {"control", command},
@@ -31,7 +31,7 @@ constexpr std::array<ModifierName, 12> gtkModifiers{{
     {"release", 0},
 }};
 
-/// As QKeySequence writes them; "Num" marks a key of the number pad.
+/// The names that QKeySequence writes; "Num" marks a key of the number pad.
 constexpr std::array<ModifierName, 5> qtModifiers{{
     {"ctrl+", command},
     {"shift+", shift},
@@ -101,7 +101,7 @@ std::optional<MenuShortcut> shortcutOfKeySequence(std::string_view sequence) {
         modifiers |= known->second;
         sequence.remove_prefix(known->first.size());
     }
-    // Between the strokes of a sequence Qt writes a comma and a space, which no single stroke contains.
+    // Qt writes a comma and a space between the strokes of a sequence; no single stroke contains them.
     if (sequence.find(", ") != std::string_view::npos) {
         return std::nullopt;
     }
@@ -121,7 +121,7 @@ std::optional<MenuShortcut> shortcutOfKeyNames(const std::vector<std::string>& n
     if (names.empty()) {
         return std::nullopt;
     }
-    // Some write the names of X, some those of Qt.
+    // Some applications write X names, some Qt names.
     const auto known = characterOfKeysymName(names.back());
     const auto character = known ? known : characterOfQtKeyName(names.back());
     return character ? std::optional(shortcut(*character, modifiers)) : std::nullopt;
