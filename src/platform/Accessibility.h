@@ -16,8 +16,8 @@ class Accessibility {
     [[nodiscard]] virtual bool isTrusted() = 0;
 
     /// The root element of a running application, whose "AXMenuBar" is its menu bar. Each call reads the
-    /// application anew; elements of earlier calls may go on showing what they were. An application that
-    /// cannot be reached has no "AXMenuBar", or the answer is null.
+    /// application again; elements of earlier calls may keep their old values. An application that cannot be
+    /// reached has no "AXMenuBar", or the answer is null.
     [[nodiscard]] virtual std::shared_ptr<AccessibilityElement>
     applicationElement(std::int32_t processIdentifier) = 0;
 };

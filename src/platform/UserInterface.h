@@ -45,7 +45,7 @@ class UserInterface {
     /// The screen on which the user works; absent without one.
     [[nodiscard]] virtual std::optional<Screen> mainScreen() = 0;
 
-    /// Asks the question, as a warning, and returns once it is answered; events go on being handled. The
+    /// Asks the question, as a warning, and returns once it is answered; events are handled meanwhile. The
     /// question belongs to the window from which it was asked, and until it is answered no other window of
     /// this application takes keys or clicks. A second question meanwhile is not asked and answered with
     /// `none`.

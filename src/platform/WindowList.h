@@ -11,7 +11,8 @@
 
 namespace tovrel {
 
-/// The windows of applications on a display, read anew at each call. Without a display there are none.
+/// The windows of applications on a display. Each call asks the display again. Without a display there are
+/// none.
 class WindowList {
   public:
     virtual ~WindowList() = default;
