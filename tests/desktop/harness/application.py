@@ -26,6 +26,11 @@ class Application:
         view = self.tree.find("text") if self.tree else None
         return view.text if view else None
 
+    def is_active(self):
+        """Whether it knows that one of its windows is the active one. It hears of that a little after the window
+        manager has said so, and until then some of its commands are disabled."""
+        return self.tree is not None and any("active" in window.states for window in self.tree.children)
+
     def bring_to_front(self):
         self._desktop.bring_to_front(self.window)
 

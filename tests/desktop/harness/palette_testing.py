@@ -54,5 +54,5 @@ class PaletteTestCase(DesktopTestCase):
                         "the palette to close")
 
     def wait_until_in_front(self, application):
-        self.wait_until(lambda: self.desktop.front_window() == application.window,
+        self.wait_until(lambda: self.desktop.front_window() == application.window and application.is_active(),
                         "the application to be in front")
