@@ -74,22 +74,30 @@ build_preset() {
     quietly "$root/build/$preset.log" cmake --build --preset "$preset" "$@"
 }
 
-# Runs each fuzzer of the sanitized build for the given number of seconds. Useful inputs are kept in the build folder
-# for the next run.
+# Runs a fuzzer of the sanitized build for the given number of seconds. Useful inputs are kept in the build folder for
+# the next run.
+fuzz_one() {
+    local seconds=$1 fuzzer=$2 name kept log
+    name=${fuzzer##*/tovrel_fuzz_}
+    kept=$root/build/fuzz/$name
+    log=$kept.log
+    mkdir -p "$kept"
+    if ! LSAN_OPTIONS="suppressions=$root/tests/leaks-of-libraries.txt:print_suppressions=0" "$fuzzer" \
+        -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1 \
+        -artifact_prefix="$kept.finding-" "$kept" "$root/tests/fuzz/corpus/$name" >"$log" 2>&1; then
+        tail -n 40 "$log" >&2
+        echo "$name has a finding; the input is kept as $kept.finding-* (all of its output: $log)" >&2
+        return 1
+    fi
+    awk -v name="$name" '/stat::number_of_executed_units/ { inputs = $2 } /stat::average_exec_per_sec/ { rate = $2 }
+        END { printf "%-16s %9d inputs %7d a second\n", name, inputs, rate }' "$log"
+}
+
+# Runs all fuzzers, each for the given number of seconds and one on each processor.
 fuzz_all() {
-    local seconds=$1 fuzzer name kept log
-    for fuzzer in "$root"/build/asan/tests/fuzz/tovrel_fuzz_*; do
-        name=${fuzzer##*/tovrel_fuzz_}
-        kept=$root/build/fuzz/$name
-        log=$kept.log
-        mkdir -p "$kept"
-        if ! LSAN_OPTIONS="suppressions=$root/tests/leaks-of-libraries.txt:print_suppressions=0" "$fuzzer" \
-            -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1 \
-            -artifact_prefix="$kept.finding-" "$kept" "$root/tests/fuzz/corpus/$name" >"$log" 2>&1; then
-            tail -n 40 "$log" >&2
-            fail "$name has a finding; the input is kept as $kept.finding-* (all of its output: $log)"
-        fi
-        awk -v name="$name" '/stat::number_of_executed_units/ { inputs = $2 } /stat::average_exec_per_sec/ { rate = $2 }
-            END { printf "%-16s %9d inputs %7d a second\n", name, inputs, rate }' "$log"
-    done
+    export root
+    export -f fuzz_one
+    # shellcheck disable=SC2016 # The inner shell expands its own parameters.
+    printf '%s\0' "$root"/build/asan/tests/fuzz/tovrel_fuzz_* |
+        xargs -0 -n 1 -P "$(nproc)" bash -c 'fuzz_one "$@"' fuzz "$1" || fail "a fuzzer has a finding"
 }
